@@ -1,0 +1,21 @@
+// From table entries to plain lists of primitives: turns and mirrors are worked out here, once.
+#pragma once
+
+#include <span>
+#include <vector>
+
+#include "symbols/Symbol.h"
+
+namespace ladrix {
+
+// `p` turned about (0, 0), then moved. An arc keeps its counter-clockwise sense; angles come back
+// above 0 and up to 360 degrees.
+Primitive turned(const Primitive& p, Turn turn, Single moveA, Single moveB);
+
+// The primitives of a block, turned where the block says so.
+std::vector<Primitive> expanded(const Block& block);
+
+// What the primitives cover at scale 1, the insertion point at (0, 0); line width not counted.
+Extent extentOf(std::span<const Primitive> primitives);
+
+}  // namespace ladrix
