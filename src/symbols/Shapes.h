@@ -1,6 +1,7 @@
 // From table entries to plain lists of primitives: turns and mirrors are worked out here, once.
 #pragma once
 
+#include <array>
 #include <span>
 #include <vector>
 
@@ -17,5 +18,22 @@ std::vector<Primitive> expanded(const Block& block);
 
 // What the primitives cover at scale 1, the insertion point at (0, 0); line width not counted.
 Extent extentOf(std::span<const Primitive> primitives);
+
+constexpr Short MaxOrientations = 5;
+
+// A symbol ready to be drawn: one list for each orientation, empty where it has no drawing.
+struct Shape {
+    const Symbol* symbol = nullptr;
+    std::array<std::vector<Primitive>, MaxOrientations> orientations;
+    std::array<Extent, MaxOrientations> extents;
+    bool hasAbsolute = false;  // some figures are inches: extents hold at scale 1 only
+    bool anyOrientation = false;
+
+    // The list for an orientation; empty for one outside the symbol's own.
+    std::span<const Primitive> primitives(Short orientation) const;
+    Extent extent(Short orientation) const;
+};
+
+Shape shapeOf(const Symbol& symbol);
 
 }  // namespace ladrix

@@ -1,0 +1,81 @@
+// The drawing in memory and what belongs to it: the tables, their master texts and the flags that
+// tell how far it agrees with its file. Lives for the whole run; a new drawing empties it.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "document/Tables.h"
+#include "platform/Platform.h"
+
+namespace ladrix {
+
+struct Drawing {
+    DeviceTable devices;
+    LabelTable labels;
+    std::vector<PictureRow> PictureTable;
+    Short PictureCount = 0;
+
+    // The same content in the form in which it goes to disk: one record a line, each ended by CR
+    // LF.
+    std::string DeviceString, LabelString, PictureString;
+    RecordOffsets DeviceRecords, LabelRecords;
+    std::string_view DeviceRecord(Short index) const;
+    std::string_view LabelRecord(Short index) const;
+
+    bool NoRecord = false;        // the tables are being replayed; nothing is recorded
+    bool DrawingPreview = false;  // a temporary image is being drawn; nothing is recorded
+    bool AttachLabels = true;
+    bool LabelPending = false;    // the device's label is not finished yet
+    bool DeviceRecorded = false;  // read by the text entry box
+    bool DashedLine = false;      // lines arrive as the dashes of one line
+    bool NoSnapshot = false;      // a user symbol's script is running
+    Short DashesCounted = 0, DashesRecorded = 0;
+    Short CurrentLabel = -1;  // the label recorded last
+    bool FixedLabelColorOn = false;
+    Long FixedLabelColor = Black;
+    std::string DefaultFontName = "Arial";
+    Short DefaultFontSize = 8;
+    bool DefaultFontBold = false, DefaultFontItalic = false;
+
+    std::string CurrentFolder, CurrentFileName;  // "" for the name: untitled
+    std::string FileDescription;
+    std::string PageLayoutKey = "8.5x11Portrait";
+    bool DrawingChanged = false;
+    bool NewAfterSave = false, OpenAfterSave = false, ExitAfterSave = false, ExitCancelled = false;
+    bool SaveInProgress = false;
+    bool TemplateActive = false;
+    std::string TemplateDevices, TemplateLabels;
+    bool Reading = false;
+    Short TitleState = 0;  // 0 untitled, 1 named
+    std::string TempFolder;
+    std::string PictureParentFolder, PictureFolderName;
+
+    // Set once by the layer above.
+    std::function<void()> TakeUndoSnapshot;
+    std::function<void()> LabelsChanged;  // the label controls follow the table
+};
+
+// Every name of these is drawn from its own geometry, in place of scale and orientation.
+bool isFreeLineOrSquare(std::string_view name);
+bool isCircleName(std::string_view name);  // InsertCircle, InsertSolidCircle
+
+// Adds a device at the end of the table and its record at the end of DeviceString, sets
+// DrawingChanged and takes the undo snapshot that is due. A slot that already holds the name is
+// left alone. Writes the corrected width tag and aspect back to `device`. A failure (the 32,768th
+// device) goes to the shared report, with the table as it was.
+void RecordDevice(Drawing& drawing, const Platform& platform, Device& device);
+
+// Adds a label; on the canvas only while a preview is drawn. An empty text becomes "Type New Text".
+void RecordLabel(Drawing& drawing, const Platform& platform, Label label);
+
+// Remake the records and the master text from the columns.
+void RebuildDeviceString(Drawing& drawing, const Platform& platform);
+void RebuildLabelString(Drawing& drawing, const Platform& platform);
+void RebuildPictureString(Drawing& drawing, const Platform& platform);
+
+// Empties the tables and the master texts.
+void ClearTables(Drawing& drawing);
+
+}  // namespace ladrix

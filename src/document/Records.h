@@ -1,0 +1,38 @@
+// The record text of a device, a label or a picture: fields joined by the byte 255. Writers give
+// the present form; the parsers also accept the older ones.
+//
+//   InsertNormallyOpenAux|3.125|2.5|0||1|1|0|False      an ordinary symbol
+//   InsertSavedLine|1|1|4.5|1|255|0                     a free line
+//   InsertCircle|2|2|0.25|0|0|1                         a circle
+//   InsertArc|2|2|0.5|0|16711680|0|0|1.570796|1         an arc
+//   Motor Starter|3.2|2.75|0|Arial|10|False|False       a label
+//   logo.bmp|0.5|0.5|2|1.25                             a picture
+//
+// (`|` stands for the byte 255.)
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "document/Drawing.h"
+
+namespace ladrix {
+
+constexpr char FieldSeparator = '\xFF';
+constexpr std::string_view LineEnd = "\r\n";
+
+// Append one record without its line end.
+void appendDeviceRecord(std::string& out, const DeviceTable& table, Short index, char decimalMark);
+void appendLabelRecord(std::string& out, const LabelTable& table, Short index, char decimalMark);
+void appendPictureRecord(std::string& out, const PictureRow& row, char decimalMark);
+
+// Empty and refill a table from its master text. Boxes tell what could not be read; a bad number
+// ends the parse with a report, the table as far as it got. The caller redraws.
+void ParseDeviceString(Drawing& drawing, const Platform& platform);
+void ParseLabelString(Drawing& drawing, const Platform& platform);
+
+// Takes PictureParentFolder and PictureFolderName for where the pictures are. Missing files are
+// counted and told in one box.
+void ParsePictureString(Drawing& drawing, const Platform& platform);
+
+}  // namespace ladrix

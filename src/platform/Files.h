@@ -1,0 +1,85 @@
+// The file system as the core sees it. Paths are core text (see Encoding.h) with the platform's
+// separator; a folder variable ends in it. Every step that fails throws a Failure whose text holds
+// the system's own reason.
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/Types.h"
+
+namespace ladrix {
+
+using FileTime = std::chrono::system_clock::time_point;
+
+struct FileEntry {
+    std::string name;         // no folder
+    std::uintmax_t size = 0;  // bytes
+    FileTime modified;
+    bool isFolder = false;
+    bool isHidden = false;
+};
+
+// A drawing or other document larger than this is refused.
+constexpr std::uintmax_t LargestDocument = 64u * 1024 * 1024;
+
+class Files {
+  public:
+    virtual ~Files() = default;
+
+    virtual char separator() const = 0;
+
+    // Files and folders directly in `folder`, hidden ones too, "." and ".." left out, unsorted.
+    virtual std::vector<FileEntry> list(const std::string& folder) = 0;
+
+    // nullopt if there is nothing of that name. Follows links. Throws only if it cannot tell.
+    virtual std::optional<FileEntry> status(const std::string& path) = 0;
+
+    // The whole file as bytes. Refuses what is not a regular file, and more than `limit` bytes.
+    virtual std::string read(const std::string& path, std::uintmax_t limit = LargestDocument) = 0;
+
+    // Replaces or creates the file so that a crash, a full disk or a kill at any moment leaves the
+    // old or the new content whole: written to a temporary beside the target, flushed, renamed.
+    // Keeps the mode and a symbolic link; clears a read-only mark first. `ownerOnly` makes a new
+    // file readable by its owner alone.
+    virtual void replace(const std::string& path, std::string_view content,
+                         bool ownerOnly = false) = 0;
+
+    // Adds to the end, creating the file where there is none; clears a read-only mark first.
+    virtual void append(const std::string& path, std::string_view content) = 0;
+
+    virtual void copy(const std::string& from,
+                      const std::string& to) = 0;  // by the rules of replace
+    virtual void remove(
+        const std::string& path) = 0;  // clears a read-only mark; missing is an error
+    virtual void rename(const std::string& from, const std::string& to) = 0;
+    virtual void makeFolder(const std::string& path) = 0;  // one level; existing is an error
+    virtual bool writable(const std::string& folder) = 0;
+};
+
+// A file of this name, ignoring case, is in the folder (hidden files count, folders do not).
+bool FileExists(Files& files, const std::string& folder, std::string_view name);
+
+// A sub-folder of this name, ignoring case, is in the parent. Throws where the parent cannot be
+// read.
+bool FolderExists(Files& files, const std::string& parent, std::string_view name);
+
+// `folder` with the separator at its end, and only one.
+std::string withSeparator(const Files& files, std::string folder);
+
+// Characters that no file or folder name may hold, "..", and an empty name.
+bool isLegalFileName(std::string_view name);
+
+// A name stored inside a document: legal, and without any folder.
+bool isBareName(std::string_view name);
+
+// "Demo1" of "Demo1.els"; names without a dot stay.
+std::string_view nameWithoutExtension(std::string_view name);
+// ".els" of "Demo1.ELS": lower case, with its dot; "" if there is none.
+std::string extensionOf(std::string_view name);
+
+}  // namespace ladrix

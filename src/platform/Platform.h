@@ -1,0 +1,118 @@
+// The seam: everything that the core asks of the machine, passed in as one Platform object. Events
+// come in the other way, as calls of the handlers with plain values.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/Files.h"
+#include "platform/Surface.h"
+#include "platform/Types.h"
+
+namespace ladrix {
+
+enum class Buttons { Ok, OkCancel, YesNo, YesNoCancel };
+enum class Answer { Ok, Cancel, Yes, No };
+
+// The forms that the core can ask for, by their own names.
+enum class Form { frmFile, frmDesc, frmLog };
+
+class Dialogs {
+  public:
+    virtual ~Dialogs() = default;
+    // Modal. A box closed without a button answers Cancel (Ok for a plain box).
+    virtual Answer message(std::string_view text, std::string_view title, Buttons buttons) = 0;
+    // Modal, one line of text; nullopt if cancelled.
+    virtual std::optional<std::string> input(std::string_view prompt, std::string_view title,
+                                             std::string_view value) = 0;
+    // Shows the form from its state and returns when its Visible has become false.
+    virtual void show(Form form) = 0;
+    // The pop-up of the menu's entries at the pointer; returns at once.
+    virtual void popUp(std::string_view menuName) = 0;
+};
+
+class Clipboard {
+  public:
+    virtual ~Clipboard() = default;
+    virtual void Clear() = 0;
+    virtual void SetText(std::string_view text) = 0;
+};
+
+class Images {
+  public:
+    virtual ~Images() = default;
+    // Throws a Failure if the file is missing, damaged or larger than 100 million pixels.
+    virtual std::shared_ptr<const Picture> load(const std::string& path) = 0;
+};
+
+class Fonts {
+  public:
+    virtual ~Fonts() = default;
+    virtual std::vector<std::string> families() = 0;
+    // Of one line of text, in inches of the paper at 96 pixels per inch.
+    virtual Single textWidth(const FontSpec& font, std::string_view text) = 0;
+    virtual Single textHeight(const FontSpec& font) = 0;
+};
+
+class Shell {
+  public:
+    virtual ~Shell() = default;
+    // The folder of the running program, of the user's documents (5) and of the virtual documents
+    // (12); "" where the platform has none.
+    virtual std::string programFolder() = 0;
+    virtual std::string specialFolder(int number) = 0;
+    virtual std::string computerName() = 0;
+    // False if another instance of the program is running.
+    virtual bool onlyInstance() = 0;
+    // Hands a document or an address to the platform's default application.
+    virtual bool open(const std::string& target) = 0;
+    virtual void endProgram() = 0;
+};
+
+class Timers {
+  public:
+    virtual ~Timers() = default;
+    // Calls back once after the interval, from the event loop; starting again replaces it.
+    virtual void start(int timer, int milliseconds, std::function<void()> expired) = 0;
+    virtual void stop(int timer) = 0;
+};
+
+struct Screen {
+    Single Width = 0, Height = 0;  // twips
+    Single TwipsPerPixelX = 15, TwipsPerPixelY = 15;
+};
+
+struct Locale {
+    char decimalMark = '.';
+    std::function<std::string()> generalDate;  // the present date and time as the user writes them
+};
+
+// All parts are owned by whoever built the platform and outlive the Program.
+struct Platform {
+    Canvas* picLX = nullptr;
+    Dialogs* dialogs = nullptr;
+    Files* files = nullptr;
+    Clipboard* clipboard = nullptr;
+    Images* images = nullptr;
+    Fonts* fonts = nullptr;
+    Shell* shell = nullptr;
+    Timers* timers = nullptr;
+    Screen screen;
+    Locale locale;
+
+    // The shared failure report; set by the program at start. Never throws.
+    std::function<void(std::string_view description, const Failure& failure)> ReportError;
+
+    bool DecimalComma() const { return locale.decimalMark == ','; }
+
+    // A plain box with an OK button.
+    void tell(std::string_view text, std::string_view title = "Ladrix") const {
+        dialogs->message(text, title, Buttons::Ok);
+    }
+};
+
+}  // namespace ladrix
