@@ -6,7 +6,7 @@
 #include <span>
 #include <string_view>
 
-#include "symbols/Symbol.h"
+#include "symbols/Shapes.h"
 
 namespace ladrix {
 
@@ -21,7 +21,6 @@ std::span<const DeviceName> deviceNames();  // 284
 
 // The table entry of a name with fixed art; nullptr for the free shapes and for unknown names.
 // Exact, case-sensitive. The entry lives for the whole run.
-struct Shape;
 const Shape* findShape(std::string_view name);
 
 // The routine that a button's text selects: the tool table. "InsertUserSymbol" for a text that no

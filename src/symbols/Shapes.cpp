@@ -1,5 +1,6 @@
 #include "symbols/Shapes.h"
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -118,6 +119,50 @@ Extent extentOf(std::span<const Primitive> primitives) {
         }
     }
     return extent;
+}
+
+std::span<const Primitive> Shape::primitives(Short orientation) const {
+    if (anyOrientation) return orientations[0];
+    if (orientation < 0 || orientation >= MaxOrientations) return {};
+    return orientations[static_cast<std::size_t>(orientation)];
+}
+
+Extent Shape::extent(Short orientation) const {
+    if (anyOrientation) return extents[0];
+    if (orientation < 0 || orientation >= MaxOrientations) return {};
+    return extents[static_cast<std::size_t>(orientation)];
+}
+
+Extent Shape::placedExtent(Short orientation, Single x, Single y, Single scaleX,
+                           Single scaleY) const {
+    const Extent own = extent(orientation);
+    Extent placed;
+    if (own.empty()) return placed;
+    // A circle keeps its radius by the horizontal scale, so the larger scale bounds both axes.
+    const Single widest =
+        std::max({std::fabs(scaleX), std::fabs(scaleY), hasAbsolute ? 1.0f : 0.0f});
+    const Single reach = widest *
+                         std::max({std::fabs(own.left), std::fabs(own.top), std::fabs(own.right),
+                                   std::fabs(own.bottom)}) *
+                         (scaleX == scaleY && !hasAbsolute ? 1.0f : 2.0f);
+    placed.add(x - reach, y - reach);
+    placed.add(x + reach, y + reach);
+    return placed;
+}
+
+Shape shapeOf(const Symbol& symbol) {
+    Shape shape;
+    shape.symbol = &symbol;
+    for (const Block& block : symbol.blocks) {
+        shape.anyOrientation = block.orientation == AnyOrientation;
+        const auto index =
+            shape.anyOrientation ? std::size_t{0} : static_cast<std::size_t>(block.orientation);
+        shape.orientations.at(index) = expanded(block);
+        shape.extents.at(index) = extentOf(shape.orientations[index]);
+        for (const Primitive& p : shape.orientations[index])
+            if (p.absolute != 0) shape.hasAbsolute = true;
+    }
+    return shape;
 }
 
 }  // namespace ladrix

@@ -31,7 +31,10 @@ struct Shape {
 
     // The list for an orientation; empty for one outside the symbol's own.
     std::span<const Primitive> primitives(Short orientation) const;
-    Extent extent(Short orientation) const;
+    Extent extent(Short orientation) const;  // at scale 1, the insertion point at (0, 0)
+
+    // A rectangle that surely holds the symbol placed at (x, y) inches; for culling.
+    Extent placedExtent(Short orientation, Single x, Single y, Single scaleX, Single scaleY) const;
 };
 
 Shape shapeOf(const Symbol& symbol);
