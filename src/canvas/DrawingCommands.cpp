@@ -1,0 +1,285 @@
+#include "canvas/DrawingCommands.h"
+
+#include "canvas/DrawingIO.h"
+#include "canvas/Redraw.h"
+#include "canvas/View.h"
+#include "document/DrawingFile.h"
+#include "document/Records.h"
+
+namespace ladrix {
+
+namespace {
+
+enum class After { Nothing, New, Open, Exit };
+
+void askFor(Drawing& drawing, After after) {
+    drawing.NewAfterSave = after == After::New;
+    drawing.OpenAfterSave = after == After::Open;
+    drawing.ExitAfterSave = after == After::Exit;
+}
+
+bool isDemo(std::string_view name) {
+    return name == "Demo1.els" || name == "Demo2.els";
+}
+
+void showBrowser(Editor& editor, bool saving) {
+    editor.drawing.SaveInProgress = saving;
+    editor.platform.dialogs->show(Form::frmFile);
+}
+
+bool refusedTarget(Editor& editor) {
+    const Drawing& drawing = editor.drawing;
+    const auto refuse = [&](std::string_view text) {
+        editor.platform.tell(text);
+        return true;
+    };
+    if (isDemo(drawing.CurrentFileName) && !editor.LoggedIn)
+        return refuse("Could not save the demo. You are not logged in.");
+    if (drawing.CurrentFolder == editor.UserSymbolsPath)
+        return refuse(
+            "Files cannot be saved to the User Symbols Folder. Select a different folder.");
+    if (drawing.CurrentFolder == editor.UserButtonsPath)
+        return refuse(
+            "Files cannot be saved to the User Buttons Folder. Select a different folder.");
+    return false;
+}
+
+void keepTemplate(Drawing& drawing) {
+    if (extensionOf(drawing.CurrentFileName) != ".tpl") return;
+    drawing.TemplateActive = true;
+    drawing.TemplateDevices = drawing.DeviceString;
+    drawing.TemplateLabels = drawing.LabelString;
+}
+
+void startUntitled(Editor& editor) {
+    editor.drawing.CurrentFileName.clear();
+    if (!NewDrawing(editor)) return;
+    editor.drawing.DrawingChanged = false;
+}
+
+void goOnAfterSave(Editor& editor) {
+    Drawing& drawing = editor.drawing;
+    if (drawing.NewAfterSave) {
+        drawing.NewAfterSave = false;
+        startUntitled(editor);
+    } else if (drawing.OpenAfterSave) {
+        drawing.OpenAfterSave = false;
+        UpdateTitle(editor);
+        showBrowser(editor, false);
+    } else {
+        UpdateTitle(editor);
+    }
+    if (drawing.ExitAfterSave && !drawing.ExitCancelled) editor.platform.shell->endProgram();
+}
+
+// Whether nothing stands in the way of giving the present drawing up.
+bool mayGoOn(Editor& editor) {
+    if (editor.drawing.DrawingChanged) AskToSaveChanges(editor);
+    return !editor.drawing.DrawingChanged;
+}
+
+std::string tempDrawing(const Editor& editor) {
+    return editor.drawing.TempFolder + "Temp_Drawing.els";
+}
+
+void removeTempDrawing(Editor& editor) {
+    if (FileExists(*editor.platform.files, editor.drawing.TempFolder, "Temp_Drawing.els"))
+        editor.platform.files->remove(tempDrawing(editor));
+}
+
+void report(Editor& editor, std::string_view description, const Failure& failure) {
+    if (editor.platform.ReportError) editor.platform.ReportError(description, failure);
+}
+
+}  // namespace
+
+void mnuFileNew_Click(Editor& editor) {
+    askFor(editor.drawing, After::New);
+    // A Yes at the prompt starts the new drawing itself, when the save is done.
+    if (!mayGoOn(editor) || !editor.drawing.NewAfterSave) return;
+    editor.drawing.NewAfterSave = false;
+    startUntitled(editor);
+}
+
+void mnuFileOpen_Click(Editor& editor) {
+    askFor(editor.drawing, After::Open);
+    if (!mayGoOn(editor) || !editor.drawing.OpenAfterSave) return;
+    showBrowser(editor, false);
+}
+
+void mnuFileSave_Click(Editor& editor) {
+    SaveDrawing(editor);
+}
+
+void mnuFileSaveAs_Click(Editor& editor) {
+    showBrowser(editor, true);
+}
+
+void mnuFileRestore_Click(Editor& editor) {
+    RestoreTempDrawing(editor);
+}
+
+void mnuHelpDemo_Click(Editor& editor, int number) {
+    askFor(editor.drawing, After::Nothing);
+    if (!mayGoOn(editor)) return;
+    editor.drawing.CurrentFolder = editor.AppFilePath;
+    editor.drawing.CurrentFileName = number == 1 ? "Demo1.els" : "Demo2.els";
+    OpenDrawing(editor);
+}
+
+bool NewDrawing(Editor& editor) {
+    if (editor.CopyStage > 0) {
+        editor.platform.tell("New drawing not possible. Copy point not selected.");
+        return false;
+    }
+    Drawing& drawing = editor.drawing;
+    ClearTables(drawing);
+    drawing.FileDescription.clear();
+    editor.img.clear();
+    editor.LastSelectedLabel = -1;
+    editor.LabelEdited = false;
+    drawing.TitleState = drawing.CurrentFileName.empty() ? 0 : 1;
+    ResetZoom(editor);
+    ResetEditor(editor);
+    if (editor.ClearHistory) editor.ClearHistory();
+    UpdateTitle(editor);
+    return true;
+}
+
+void SaveDrawing(Editor& editor) {
+    Drawing& drawing = editor.drawing;
+    if (drawing.CurrentFileName.empty()) return showBrowser(editor, true);
+    if (refusedTarget(editor)) return;
+    if (mainText(drawing).size() == 2) return;
+    try {
+        writeDrawing(editor);
+    } catch (const Failure& failure) {
+        drawing.DrawingChanged = true;
+        drawing.SaveInProgress = false;
+        return report(editor, "Save Drawing", failure);
+    }
+    keepTemplate(drawing);
+    drawing.SaveInProgress = false;
+    drawing.TitleState = 1;
+    editor.form.lblMessage.Caption = "File saved.";
+    drawing.DrawingChanged = false;
+    goOnAfterSave(editor);
+}
+
+void OpenDrawing(Editor& editor) {
+    Drawing& drawing = editor.drawing;
+    drawing.Reading = true;
+    try {
+        const FileText file = readDrawingFile(*editor.platform.files,
+                                              drawing.CurrentFolder + drawing.CurrentFileName);
+        if (drawing.TemplateActive || NewDrawing(editor)) {
+            openText(editor, file);
+            removeTempDrawing(editor);
+        }
+    } catch (const Failure& failure) {
+        report(editor, "Open Drawing", failure);
+    }
+    drawing.Reading = false;
+}
+
+std::optional<PreviewOfFile> ReadPreview(Editor& editor, const std::string& folder,
+                                         const std::string& file) {
+    Drawing& drawing = editor.drawing;
+    ClearTables(drawing);
+    editor.img.clear();
+    try {
+        const FileText text = readDrawingFile(*editor.platform.files, folder + file);
+        DrawingParts parts = splitFile(text.content, text.modified);
+        drawing.DeviceString = std::move(parts.devices);
+        ParseDeviceString(drawing, editor.platform);
+        drawing.DrawingChanged = false;
+        drawing.OpenAfterSave = false;
+        return PreviewOfFile{parts.pageKey, parts.description};
+    } catch (const Failure&) {
+        editor.platform.tell("File structure corrupted and cannot be read.", "Bad File Structure");
+        return std::nullopt;
+    }
+}
+
+void AskToSaveChanges(Editor& editor) {
+    Drawing& drawing = editor.drawing;
+    if (isDemo(drawing.CurrentFileName)) {
+        drawing.DrawingChanged = false;
+        return;
+    }
+    switch (editor.platform.dialogs->message(
+        "The current file has been changed. Do you want to save those changes?", "File Has Changed",
+        Buttons::YesNoCancel)) {
+        case Answer::Yes:
+            if (drawing.ExitAfterSave) drawing.ExitCancelled = true;
+            SaveDrawing(editor);
+            break;
+        case Answer::No:
+            drawing.DrawingChanged = false;
+            break;
+        default:
+            drawing.ExitCancelled = true;
+            break;
+    }
+}
+
+bool Form_QueryUnload(Editor& editor) {
+    Drawing& drawing = editor.drawing;
+    askFor(drawing, After::Exit);
+    if (drawing.DrawingChanged) AskToSaveChanges(editor);
+    if (!drawing.ExitCancelled) return true;
+    drawing.ExitCancelled = false;
+    return false;
+}
+
+void WriteTempDrawing(Editor& editor) {
+    const std::string text = crashCopyText(editor.drawing);
+    if (text.size() == 2) return;
+    try {
+        editor.platform.files->replace(tempDrawing(editor), text, true);
+    } catch (const Failure& failure) {
+        report(editor, "Write Temporary Drawing", failure);
+    }
+}
+
+void RestoreTempDrawing(Editor& editor) {
+    Drawing& drawing = editor.drawing;
+    askFor(drawing, After::Nothing);
+    if (!mayGoOn(editor)) return;
+    drawing.CurrentFileName.clear();
+    drawing.Reading = true;
+    try {
+        if (NewDrawing(editor) &&
+            FileExists(*editor.platform.files, drawing.TempFolder, "Temp_Drawing.els")) {
+            restoreText(editor, readDrawingFile(*editor.platform.files, tempDrawing(editor)));
+            editor.platform.files->remove(tempDrawing(editor));
+        }
+    } catch (const Failure& failure) {
+        report(editor, "Restore Temporary Drawing", failure);
+    }
+    drawing.Reading = false;
+}
+
+void mnuEditFileDescription_Click(Editor& editor) {
+    editor.frmDesc.txtDescription = editor.drawing.FileDescription;
+    editor.frmDesc.Visible = true;
+    editor.platform.dialogs->show(Form::frmDesc);
+}
+
+void frmDesc_cmdSave_Click(Editor& editor) {
+    editor.drawing.FileDescription = editor.frmDesc.txtDescription;
+    editor.drawing.DrawingChanged = true;
+    editor.frmDesc.Visible = false;
+}
+
+void frmDesc_cmdExit_Click(Editor& editor) {
+    editor.frmDesc.Visible = false;
+}
+
+void UpdateTitle(Editor& editor) {
+    const std::string& name = editor.drawing.CurrentFileName;
+    editor.form.Caption = "Ladrix - Current Library: " + editor.UserLibraryName +
+                          " - File Name: " + (name.empty() ? "Untitled" : name);
+}
+
+}  // namespace ladrix

@@ -1,0 +1,106 @@
+#include "canvas/DrawingIO.h"
+
+#include "canvas/DrawingCommands.h"
+#include "canvas/Redraw.h"
+#include "canvas/View.h"
+#include "document/DrawingFile.h"
+#include "document/Records.h"
+
+namespace ladrix {
+
+namespace {
+
+// Every picture stands in a folder beside the drawing, named as it is.
+void copyPictures(Editor& editor) {
+    const Drawing& drawing = editor.drawing;
+    if (drawing.PictureCount == 0) return;
+    Files& files = *editor.platform.files;
+    const std::string name{nameWithoutExtension(drawing.CurrentFileName)};
+    const std::string folder = drawing.CurrentFolder + name + files.separator();
+    if (!FolderExists(files, drawing.CurrentFolder, name))
+        files.makeFolder(drawing.CurrentFolder + name);
+    for (const PictureRow& row : drawing.PictureTable)
+        if (!FileExists(files, folder, row.FileName))
+            files.copy(row.FullPath, folder + row.FileName);
+}
+
+void parseAll(Editor& editor) {
+    ParseDeviceString(editor.drawing, editor.platform);
+    ParseLabelString(editor.drawing, editor.platform);
+    if (!editor.drawing.PictureString.empty()) ParsePictureString(editor.drawing, editor.platform);
+    loadPictures(editor);
+}
+
+// The editor keeps what was taken last as the template's own items.
+void joinTemplate(Drawing& drawing) {
+    drawing.TemplateActive = false;
+    drawing.DeviceString = drawing.TemplateDevices + drawing.DeviceString;
+    drawing.LabelString = drawing.TemplateLabels + drawing.LabelString;
+}
+
+void layOutPage(Editor& editor) {
+    ApplyPageLayout(editor);
+    ResetZoom(editor);
+}
+
+}  // namespace
+
+FileText readDrawingFile(Files& files, const std::string& path) {
+    FileText file;
+    file.content = files.read(path);
+    if (const auto status = files.status(path)) file.modified = status->modified;
+    return file;
+}
+
+void writeDrawing(Editor& editor) {
+    Drawing& drawing = editor.drawing;
+    copyPictures(editor);
+    editor.platform.files->replace(drawing.CurrentFolder + drawing.CurrentFileName,
+                                   fileText(drawing));
+}
+
+void openText(Editor& editor, const FileText& file) {
+    Drawing& drawing = editor.drawing;
+    DrawingParts parts = splitFile(file.content, file.modified);
+    const bool joining = drawing.TemplateActive;
+    if (joining) parts.pageKey = drawing.PageLayoutKey;
+    takeParts(drawing, std::move(parts));
+    drawing.PictureFolderName = nameWithoutExtension(drawing.CurrentFileName);
+    drawing.PictureParentFolder = drawing.CurrentFolder;
+    if (joining) joinTemplate(drawing);
+    if (extensionOf(drawing.CurrentFileName) == ".tpl") {
+        drawing.TemplateActive = true;
+        drawing.TemplateDevices = drawing.DeviceString;
+        drawing.TemplateLabels = drawing.LabelString;
+    }
+    parseAll(editor);
+    if (!joining) layOutPage(editor);
+    RedrawDrawing(editor);
+    if (editor.ClearHistory) editor.ClearHistory();
+    drawing.DrawingChanged = false;
+    drawing.OpenAfterSave = false;
+    drawing.TitleState = 1;
+    UpdateTitle(editor);
+}
+
+void restoreText(Editor& editor, const FileText& file) {
+    Drawing& drawing = editor.drawing;
+    takeParts(drawing, splitFile(file.content, file.modified));
+    parseAll(editor);
+    layOutPage(editor);
+    RedrawDrawing(editor);
+}
+
+void loadPictures(Editor& editor) {
+    editor.img.clear();
+    for (const PictureRow& row : editor.drawing.PictureTable) {
+        editor.img.emplace_back();
+        try {
+            editor.img.back() = editor.platform.images->load(row.FullPath);
+        } catch (const Failure& failure) {
+            if (editor.platform.ReportError) editor.platform.ReportError("Load Picture", failure);
+        }
+    }
+}
+
+}  // namespace ladrix

@@ -1,0 +1,32 @@
+// Between a drawing's file and the editor: the steps that open, save and restore share. Each throws
+// a Failure where the file system fails; the commands catch it.
+#pragma once
+
+#include <string>
+
+#include "canvas/Editor.h"
+#include "platform/Files.h"
+
+namespace ladrix {
+
+struct FileText {
+    std::string content;
+    FileTime modified;
+};
+
+// The whole file. Refuses what is missing, not a regular file or too large.
+FileText readDrawingFile(Files& files, const std::string& path);
+
+// Writes the drawing under its name, after its pictures have been copied beside it.
+void writeDrawing(Editor& editor);
+
+// Fills the tables from a file's text, or adds it to the template in force, and shows the drawing.
+void openText(Editor& editor, const FileText& file);
+
+// Fills the tables from a crash copy; the drawing stays untitled.
+void restoreText(Editor& editor, const FileText& file);
+
+// Loads the images of PictureTable; one that cannot be read leaves an empty place, told once.
+void loadPictures(Editor& editor);
+
+}  // namespace ladrix

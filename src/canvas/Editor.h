@@ -1,0 +1,108 @@
+// The editor: the drawing and everything that a gesture on the canvas reads or changes. One state
+// for all handlers; reset brings back the defaults that stand here.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "canvas/FormLX.h"
+#include "document/Drawing.h"
+#include "platform/Platform.h"
+#include "symbols/DrawDevice.h"
+
+namespace ladrix {
+
+constexpr Single NoPoint = -1;
+
+struct Editor {
+    explicit Editor(const Platform& machine) : platform(machine) {}
+
+    const Platform& platform;
+    Drawing drawing;
+    Symbols symbols;
+    FormLX form;
+
+    // The tool in hand. -1: none.
+    Short CurrentTool = -1, PreviousTool = -1, RepeatTool = -1;
+    Short LastBuiltInButton = BuiltInButtonCount;
+    std::string ToolName;
+    bool ToolActive = false;      // grips are not offered
+    bool ToolCursor = false;      // cross cursor and ghost are on
+    bool ToolBlocksBand = false;  // a drag starts no band
+    bool TestSymbolMode = false;
+    bool Arranging = false;  // the palette is being arranged
+    Library OpenLibrary = Library::NEMA;
+    Short TallScreen = 1;
+    std::string UserLibraryName = "User Symbols";
+
+    // The pointer.
+    bool MouseIsDown = false, BandArmed = false, BandShown = false;
+    Single BandX[2] = {0, 0}, BandY[2] = {0, 0};
+    Single PreviousX = NoPoint, PreviousY = NoPoint;  // of the move before
+    Single SnapX = 0, SnapY = 0;
+    bool SnapXFound = false, SnapYFound = false;
+    Single SnapStep = 0.25f;  // inches
+
+    // Lines, squares, circles and arcs.
+    Single LineStartX = NoPoint, LineStartY = NoPoint, LineEndX = NoPoint, LineEndY = NoPoint;
+    Short DashedMode = 0;
+    bool SquareStarted = false;
+    bool ThickLineTool = false;
+    Single DashSpacing = 0.125f;  // inches
+    Single CircleRadius = 0.0375f, ArcRadius = 0.125f;
+    Single LastSmallCircle = 0, LastLargeCircle = 0, LastArc = 0;  // radius typed last; 0: none
+    Single ArcStartAngle = 0, ArcEndAngle = 0;                     // radians
+    Long CurrentColor = Black, SelectionColor = Magenta;
+    bool SelectionColorPending = false;
+    std::string SymbolWidthTag;
+    Single SymbolScaleX = 1, SymbolScaleY = 1;
+    bool SymbolFlip = false;
+
+    // Copy, move, zoom, alignment, user symbols.
+    bool CopyArmed = false, MoveMode = false;
+    Short CopyStage = 0;
+    Single CopyFromX = 0, CopyFromY = 0, CopyToX = 0, CopyToY = 0;
+    bool ZoomInPending = false, ZoomOutPending = false, TextAlignPending = false;
+    bool SavingUserSymbol = false, SymbolPointPending = false, SymbolPointFound = false;
+    bool SimulationMode = false;
+    bool SnapshotPending = false;
+
+    // Text and selection.
+    std::string TextBuffer;
+    bool TextGhostShown = false, TextBoxFocused = false;
+    bool AutoIncrement = false, AddSpace = false, LabelColorOn = false;
+    Single TextGhostX = 0, TextGhostY = 0;
+    Short LastSelectedLabel = -1;
+    bool LabelEdited = false;  // its text has changed since the edit began
+    Short SelectedCount = 0, SelectedDeviceCount = 0, SelectedLabelCount = 0;
+
+    // The view.
+    Single PageWidth = 8.5f, PageHeight = 11;           // inches
+    Single VisibleWidth = 8.5f, VisibleHeight = 6.75f;  // inches of the page in the frame
+    Single CanvasScaleWidth = 8.5f, CanvasScaleHeight = 11;
+    Single ScaleLeft = 0, ScaleTop = 0;  // inches
+    Single ZoomFactor = 1;
+    Short ZoomStepCount = 0;
+    Single ZoomPointX = 0, ZoomPointY = 0;
+    bool GridOn = false, GridFollowsSnap = false, BlackBackground = false;
+    Long GridColor = 0xE0E0E0;
+    bool Redrawing = false;
+
+    std::vector<std::shared_ptr<const Picture>> img;  // the loaded pictures, beside PictureTable
+    bool LoggedIn = false;                            // the author's login is in force
+
+    // What the open dialog of the description holds.
+    struct {
+        bool Visible = false;
+        std::string txtDescription;
+    } frmDesc;
+
+    // Empties the undo history, with the present state as its first; set when there is one.
+    std::function<void()> ClearHistory;
+
+    // Set once by the layer above.
+    std::string AppFilePath, BasePath, UserSymbolsPath, UserButtonsPath;
+};
+
+}  // namespace ladrix

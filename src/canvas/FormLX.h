@@ -1,0 +1,81 @@
+// frmLX, the main window, as state: its controls under their own names. Handlers change it, the
+// view shows it. Geometry that the layout of the view settles by itself is left out.
+#pragma once
+
+#include <array>
+#include <string>
+#include <vector>
+
+#include "canvas/Controls.h"
+#include "canvas/MenuEntries.h"
+#include "symbols/Palettes.h"
+
+namespace ladrix {
+
+// One button of the palette. The view makes its image from the symbol; Pressed shows the cyan one.
+struct PaletteButton {
+    std::string Tag;         // the tool's text and tip
+    std::string DeviceName;  // of the tool pressed last; "" before
+    bool Visible = false;
+    bool Pressed = false;
+    bool HasOrientations = false;
+    Short OrientationCount = 1;
+    Short ButtonOrientation = 0;
+};
+
+struct FlyOut {
+    bool Visible = false;
+    Short Index = -1;  // the button beside which it stands
+    Short Count = 0;   // 2 or 4 variants
+
+    friend bool operator==(const FlyOut&, const FlyOut&) = default;
+};
+
+enum class MousePointer { Default, Cross, ZoomIn, ZoomOut };
+enum class Focus { Canvas, TextEdit, CircleEnd, None };
+
+// The part that every pointer move may change.
+struct PointerState {
+    MousePointer Pointer = MousePointer::Default;
+    Overlay LineV, LineH;               // the cross-hair
+    Overlay shpSelect, shpSelectLight;  // the band; the light one on a black background
+    Overlay picGrip;
+
+    friend bool operator==(const PointerState&, const PointerState&) = default;
+};
+
+struct FormLX {
+    std::string Caption;
+    MenuStates menu;
+
+    Control lblMessage, lblCoords, lblSelected, lblUndoCount, lblTime;
+    Control cmdReset = captioned("Reset");
+    Control cmdSnap, cmdSnapHigher, cmdSnapLower;
+    Control cmdZoomIn, cmdZoomOut;
+    std::array<Control, 2> cmdDrawWidth;  // 0 thick, 1 thin
+    Control cmdColors, picSelectedColor = colored(Black), picColors = hidden();
+    std::vector<Long> lblColor;  // the cells of the colour panel
+    ComboBox cmbScale;
+    Control cmdScaleOK, lblScale;
+
+    Control picRadius = hidden();
+    bool RadiusPanelWide = false;  // with the angle fields
+    TextBox txtRadius, txtCircleStart, txtCircleEnd;
+    Control cmdCircle;
+    std::array<Control, 3> lblCircle;  // radius, start, end
+    Control picText = hidden();
+    TextBox txtEdit;
+
+    std::vector<PaletteButton> cmdSym;  // 0 to 999
+    unsigned PaletteVersion = 0;        // raised by every change of cmdSym
+    FlyOut picMoreSym;
+
+    PointerState pointer;
+    std::vector<LabelControl> lbl;  // one per label
+    unsigned LabelVersion = 0;      // raised by every change of lbl
+    ScrollBar HScroll1, VScroll1;
+    Single FrameWidth = 0, FrameHeight = 0;  // inner size of picFrame, twips
+    Focus FocusRequest = Focus::None;        // the view gives the focus and puts it back to None
+};
+
+}  // namespace ladrix

@@ -1,0 +1,17 @@
+// The line and square tools, click by click. Each click takes its point from SnapX and SnapY.
+#pragma once
+
+#include <string_view>
+
+#include "canvas/Editor.h"
+
+namespace ladrix {
+
+// The first click sets the start; each further click draws and records a line, or in dashed mode a
+// run of dashes, and goes on from its end.
+void InsertSavedLine(Editor& editor, Long color, std::string_view widthTag);
+
+// The second click draws and records one square; `styleText` is its dash style.
+void InsertSavedSquare(Editor& editor, Long color, std::string_view styleText);
+
+}  // namespace ladrix

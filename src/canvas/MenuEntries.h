@@ -1,0 +1,57 @@
+// The menu entries by name, and the state that handlers change. Captions, shortcuts and handlers
+// stand in the command table.
+#pragma once
+
+#include <array>
+#include <cstddef>
+
+namespace ladrix {
+
+// clang-format off
+enum class Menu : unsigned char {
+    mnuFile, mnuFileNew, mnuFileOpen, mnuFileOpenViewer, mnuFileSave, mnuFileSaveAs,
+    mnuFileSaveBitmap, mnuFileDrawCircuit1, mnuFilePrintCircuit1, mnuFileRestore, mnuFileTemplates,
+    mnuExit,
+    mnuLayout, mnuLayoutNormal, mnuLayoutLandscape, mnuLargePortrait, mnuLayoutLargeLandscape,
+    mnuLayoutMore,
+    mnuLibraries, mnuLibManage, mnuLibManageUserLibraries, mnuLibManageRename, mnuLibManageDelete,
+    mnuLibManageRows, mnuLibElectrical, mnuLibElectronic, mnuLibIEC, mnuLibHyd, mnuLibOpen,
+    mnuLibNewLibrary, mnuLibraryNext, mnuLibraryPrevious,
+    mnuInsert, mnuInsertPicture,
+    mnuEdit, mnuEditFileDescription, mnuEditText, mnuEditTextCaption, mnuEditTextProps,
+    mnuEditTextAlignLeft, mnuEditTextAlignRight, mnuEditTextAlignTop, mnuEditDrawing,
+    mnuOptionReset, mnuEditSelectAll, mnuEditCopy, mnuEditMove, mnuEditDelete, mnuEditPaste,
+    mnuEditRepeat, mnuEditUndo, mnuEditRedo, mnuEditSaveUserSymbol, mnuEditZoomIn, mnuEditZoomOut,
+    mnuEditStretch,
+    mnuUOptions, mnuToolsParseDeviceString, mnuOptionSnap, mnuOptionGrid, mnuOptionHalfScale,
+    mnuOptionSmallerFont, mnuOptionLabelColor, mnuOptionAttachLabels, mnuOptAutoIncrement,
+    mnuOptionAddSpace, mnuOptChangeSelectionColor, mnuOptionPrintThin, mnuOptionThickDevices,
+    mnuOptBlackBackground, mnuOptDashedLineConstant, mnuOptMatchGridToSnap, mnuOptPrinter,
+    mnuMode, mnuModeNormal, mnuModeDesign, mnuModeSimulation, mnuSimCircuit0, mnuSimCircuit1,
+    mnuSimCircuit2, mnuModeIllustration,
+    mnuAdmin, mnuAdminCreateShortcut, mnuAdminCreateSymbolExportFile, mnuAdminViewErrorLog,
+    mnuHelp, mnuHelpContents, mnuHelpOnlineTutorial, mnuHelpVersion, mnuHelpDemo1, mnuHelpDemo2,
+    mnuHelpMoreLibraries, mnuHelpSupport, mnuHelpSendMe, mnuHelpAdmin,
+    Count,
+};
+// clang-format on
+
+struct MenuState {
+    bool Enabled = true;
+    bool Visible = true;
+    bool Checked = false;
+
+    friend bool operator==(const MenuState&, const MenuState&) = default;
+};
+
+struct MenuStates {
+    std::array<MenuState, static_cast<std::size_t>(Menu::Count)> states;
+
+    MenuState& operator[](Menu entry) { return states[static_cast<std::size_t>(entry)]; }
+    const MenuState& operator[](Menu entry) const {
+        return states[static_cast<std::size_t>(entry)];
+    }
+    friend bool operator==(const MenuStates&, const MenuStates&) = default;
+};
+
+}  // namespace ladrix

@@ -1,0 +1,219 @@
+#include "canvas/Redraw.h"
+
+#include <algorithm>
+#include <map>
+#include <tuple>
+
+#include "canvas/Labels.h"
+#include "canvas/Pointer.h"
+#include "canvas/Tools.h"
+#include "canvas/View.h"
+#include "platform/Numbers.h"
+
+namespace ladrix {
+
+namespace {
+
+constexpr std::string_view FittingSample =
+    "AaBb CcDd EeFf GgHh IiJj KkLl MmNn OoPp QqRr SsTt UuVv WwXx YyZz 1234567890";
+
+Single fittingStep(Single zoom) {
+    if (zoom >= 6) return 0.6f;
+    if (zoom >= 5) return 0.5f;
+    if (zoom >= 4) return 0.4f;
+    if (zoom >= 3) return 0.3f;
+    if (zoom >= 2) return 0.2f;
+    return 0.1f;
+}
+
+Single searchFontSize(const Platform& platform, const FontSpec& font, Single zoom) {
+    const Single reference = platform.fonts->textWidth(font, FittingSample);
+    const Single step = fittingStep(zoom);
+    FontSpec fitted = font;
+    const auto width = [&] { return platform.fonts->textWidth(fitted, FittingSample) / zoom; };
+    if (width() < reference) {
+        while (width() < reference && fitted.size < font.size * zoom * 2)
+            fitted.size += step;
+    } else {
+        while (width() > reference && fitted.size > step)
+            fitted.size -= step;
+    }
+    return fitted.size;
+}
+
+void repairLabelFonts(Drawing& drawing) {
+    LabelTable& labels = drawing.labels;
+    if (labels.LabelCount == 0) return;
+    if (labels.LabelFontName[0].empty()) labels.LabelFontName[0] = drawing.DefaultFontName;
+    if (labels.LabelFontSize[0] == 0) labels.LabelFontSize[0] = drawing.DefaultFontSize;
+    for (std::size_t i = 0; i < static_cast<std::size_t>(labels.LabelCount); ++i) {
+        if (!labels.LabelFontName[i].empty()) continue;
+        labels.LabelFontName[i] = "Arial";
+        labels.LabelFontSize[i] = 8;
+    }
+}
+
+void paintDevices(Editor& editor) {
+    Drawing& drawing = editor.drawing;
+    const Extent view = editor.platform.picLX->visible();
+    for (Short i = 0; i < drawing.devices.DeviceCount; ++i) {
+        if (!deviceExtent(drawing.devices, i).meets(view)) continue;
+        const auto row = static_cast<std::size_t>(i);
+        const bool selected = drawing.devices.DeviceSelected[row] != 0;
+        drawRow(editor.symbols, drawing, editor.platform, *editor.platform.picLX, drawing.devices,
+                i, selected ? editor.SelectionColor : drawing.devices.DeviceColor[row]);
+    }
+}
+
+void paintPictures(Editor& editor) {
+    const Drawing& drawing = editor.drawing;
+    for (std::size_t i = 0; i < drawing.PictureTable.size() && i < editor.img.size(); ++i) {
+        const PictureRow& row = drawing.PictureTable[i];
+        if (editor.img[i])
+            editor.platform.picLX->PaintPicture(*editor.img[i], row.Left, row.Top, row.Width,
+                                                row.Height);
+    }
+}
+
+void clearCopyState(Editor& editor) {
+    editor.MoveMode = editor.CopyArmed = false;
+    editor.CopyStage = 0;
+    editor.CopyFromX = editor.CopyFromY = editor.CopyToX = editor.CopyToY = 0;
+}
+
+void clearSelection(Editor& editor) {
+    DeviceTable& devices = editor.drawing.devices;
+    LabelTable& labels = editor.drawing.labels;
+    std::fill(devices.DeviceSelected.begin(), devices.DeviceSelected.end(), Short{0});
+    std::fill(labels.LabelSelected.begin(), labels.LabelSelected.end(), Short{0});
+    for (PictureRow& row : editor.drawing.PictureTable)
+        row.Selected = false;
+    editor.SelectedCount = editor.SelectedDeviceCount = editor.SelectedLabelCount = 0;
+    editor.LastSelectedLabel = -1;
+}
+
+void resetMenus(Editor& editor) {
+    MenuStates& menu = editor.form.menu;
+    menu[Menu::mnuEditTextAlignLeft].Enabled = false;
+    menu[Menu::mnuEditTextAlignRight].Enabled = false;
+    menu[Menu::mnuEditTextAlignTop].Enabled = false;
+    menu[Menu::mnuEditCopy].Enabled = false;
+    menu[Menu::mnuEditMove].Enabled = false;
+    menu[Menu::mnuEditDelete].Enabled = false;
+    menu[Menu::mnuEditSelectAll].Enabled = true;
+    menu[Menu::mnuEditPaste].Enabled = editor.CopyStage > 0;
+}
+
+void endTool(Editor& editor) {
+    releaseButton(editor, editor.CurrentTool);
+    beginTemporaryGraphics(editor);
+    editor.platform.picLX->AutoRedraw = true;
+    editor.LineStartX = editor.LineEndX = NoPoint;
+    editor.CurrentTool = -1;
+    editor.ToolBlocksBand = false;
+    editor.form.picColors.Visible = false;
+}
+
+}  // namespace
+
+Single fittedFontSize(const Platform& platform, const FontSpec& font, Single zoom) {
+    if (zoom == 1) return font.size;
+    using Key = std::tuple<const Fonts*, std::string, Single, bool, bool, Single>;
+    static std::map<Key, Single> known;
+    const Key key{platform.fonts, font.name, font.size, font.bold, font.italic, zoom};
+    if (const auto found = known.find(key); found != known.end()) return found->second;
+    return known[key] = searchFontSize(platform, font, zoom);
+}
+
+void placeLabels(Editor& editor) {
+    const LabelTable& labels = editor.drawing.labels;
+    const auto count = static_cast<std::size_t>(labels.LabelCount);
+    editor.form.lbl.resize(count);
+    for (std::size_t i = 0; i < count; ++i) {
+        FontSpec font{labels.LabelFontName[i], labels.LabelFontSize[i],
+                      editor.symbols.ThickDevices || labels.LabelBold[i], labels.LabelItalic[i]};
+        font.size = fittedFontSize(editor.platform, font, editor.ZoomFactor);
+        const Long color =
+            labels.LabelSelected[i] != 0 ? editor.SelectionColor : labels.LabelColor[i];
+        editor.form.lbl[i] = {
+            labels.LabelText[i], labels.LabelX[i], labels.LabelY[i], color, std::move(font), true};
+    }
+    ++editor.form.LabelVersion;
+}
+
+void paintDrawing(Editor& editor) {
+    Canvas& canvas = *editor.platform.picLX;
+    editor.Redrawing = true;
+    editor.form.pointer.LineV.Visible = editor.form.pointer.LineH.Visible = false;
+    repairLabelFonts(editor.drawing);
+    const bool formerly = editor.drawing.NoRecord;
+    editor.drawing.NoRecord = true;
+    canvas.AutoRedraw = true;
+    if (editor.GridOn && !editor.SimulationMode)
+        DrawGrid(editor);
+    else
+        canvas.Cls();
+    paintDevices(editor);
+    paintPictures(editor);
+    placeLabels(editor);
+    editor.drawing.NoRecord = formerly;
+    editor.Redrawing = false;
+}
+
+void RedrawDrawing(Editor& editor) {
+    paintDrawing(editor);
+    editor.drawing.NoRecord = false;
+    RebuildDeviceString(editor.drawing, editor.platform);
+}
+
+void ResetEditor(Editor& editor) {
+    editor.MouseIsDown = false;
+    editor.ZoomInPending = editor.ZoomOutPending = false;
+    editor.symbols.block.CurDevice.clear();
+    editor.ToolName.clear();
+    editor.SavingUserSymbol = editor.SymbolPointPending = editor.SymbolPointFound = false;
+    if (editor.SnapshotPending) {
+        editor.SnapshotPending = false;
+        if (editor.drawing.TakeUndoSnapshot) editor.drawing.TakeUndoSnapshot();
+    }
+    editor.TextAlignPending = false;
+    editor.form.picMoreSym.Visible = false;
+    editor.form.cmbScale.Enabled = editor.form.cmdScaleOK.Enabled = true;
+    finishLabelEdit(editor);
+    showPanel(editor, Panel::None);
+    editor.SquareStarted = false;
+    editor.DashedMode = 0;
+    editor.ToolCursor = editor.ToolActive = false;
+    editor.form.pointer.Pointer = MousePointer::Default;
+    editor.drawing.DrawingPreview = false;
+    editor.drawing.LabelPending = editor.drawing.DeviceRecorded = false;
+    resetMenus(editor);
+    clearCopyState(editor);
+    editor.TextBuffer.clear();
+    editor.TextGhostShown = false;
+    clearSelection(editor);
+    endTool(editor);
+    RedrawDrawing(editor);
+    editor.form.FocusRequest = Focus::Canvas;
+    editor.form.lblMessage.Caption = readyMessage(editor);
+    colorReset(editor, false);
+}
+
+void cmdReset_Click(Editor& editor) {
+    ResetEditor(editor);
+}
+
+void mnuOptionReset_Click(Editor& editor) {
+    cmdReset_Click(editor);
+}
+
+void colorReset(Editor& editor, bool something) {
+    editor.form.cmdReset.BackColor = something ? Cyan : ButtonFace;
+}
+
+std::string readyMessage(const Editor& editor) {
+    return "Drawing Reset and Ready. Click on a symbol for placement. Current Zoom Scale = " +
+           singleText(editor.ZoomFactor * 100, editor.platform.locale.decimalMark) + "%";
+}
+
+}  // namespace ladrix

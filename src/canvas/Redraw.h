@@ -1,0 +1,35 @@
+// Painting the canvas from the tables, and the one way back to idle.
+#pragma once
+
+#include "canvas/Editor.h"
+
+namespace ladrix {
+
+// The canvas, the label controls and the pictures from the tables, selected items in the selection
+// colour. Rebuilds the records, so that a handler that changed a column only has to call this. A
+// symbol that fails is told and the rest is painted.
+void RedrawDrawing(Editor& editor);
+
+// The painting alone, for a change of the view in which no column has changed.
+void paintDrawing(Editor& editor);
+
+// Whatever is under way ends; the tables, the copy buffer, the zoom and all options stay.
+void ResetEditor(Editor& editor);
+
+void cmdReset_Click(Editor& editor);
+void mnuOptionReset_Click(Editor& editor);
+
+// Whether Reset is coloured as having something to reset.
+void colorReset(Editor& editor, bool something);
+
+// The message that stands after a reset and after a zoom.
+std::string readyMessage(const Editor& editor);
+
+// The point size at which `font` has, on a canvas at this zoom, the width that it has on paper:
+// found in steps from the stored size. Kept per font and zoom.
+Single fittedFontSize(const Platform& platform, const FontSpec& font, Single zoom);
+
+// The label controls follow the label table: their number, texts, fonts, places and colours.
+void placeLabels(Editor& editor);
+
+}  // namespace ladrix
