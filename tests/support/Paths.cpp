@@ -2,7 +2,9 @@
 
 namespace ladrix::test {
 
-std::string Fixture(const std::string& name) { return std::string(LADRIX_FIXTURES "/") + name; }
+std::string Fixture(const std::string& name) {
+    return std::string(LADRIX_FIXTURES "/") + name;
+}
 
 std::string ProgramPath(const std::string& name) {
     return std::string(LADRIX_PROGRAMS "/") + name;
