@@ -3,7 +3,9 @@
 
 root=$(cd -P "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 
-build_packages=(g++ cmake ninja-build qt6-base-dev libqt6svg6-dev libgl1-mesa-dev fonts-liberation)
+# "a|b": either will do, the first one known is installed.
+build_packages=(g++ cmake ninja-build qt6-base-dev "qt6-svg-dev|libqt6svg6-dev" libgl1-mesa-dev
+    fonts-liberation)
 display_packages=(xvfb)
 test_packages=(libgtest-dev libgmock-dev libbenchmark-dev clang-format-14 xvfb openbox xdotool
     poppler-utils)
@@ -24,15 +26,30 @@ say_needs() {
   to run without a display: Xvfb; to show Arial's metrics: the Liberation fonts
   for the tests also: GoogleTest with GoogleMock, Google Benchmark, clang-format 14, Xvfb,
   openbox, xdotool and poppler's command-line tools
-  (Debian 12: ${build_packages[*]} ${test_packages[*]})"
+  (Debian 12: ${build_packages[*]%%|*} ${test_packages[*]})"
 }
 
 missing_packages() {
-    local installed package
-    installed=" $(dpkg-query -W -f='${db:Status-Status}:${Package} ' "$@" 2>/dev/null || true) "
-    for package in "$@"; do
-        [[ $installed == *" installed:$package "* ]] || printf '%s\n' "$package"
+    local names=() installed wanted name
+    mapfile -t names < <(printf '%s\n' "${@//|/$'\n'}")
+    installed=$(dpkg-query -W -f='${db:Status-Status} ${Package}\n' "${names[@]}" 2>/dev/null || true)
+    for wanted in "$@"; do
+        for name in ${wanted//|/ }; do
+            [[ $'\n'$installed$'\n' != *$'\n'"installed $name"$'\n'* ]] || continue 2
+        done
+        printf '%s\n' "$wanted"
     done
+}
+
+first_known() {
+    local name
+    for name in ${1//|/ }; do
+        if [[ -n $(apt-cache madison "$name") ]]; then
+            printf '%s\n' "$name"
+            return
+        fi
+    done
+    say "This system has no package ${1//|/ or }."
 }
 
 install_packages() {
@@ -40,20 +57,14 @@ install_packages() {
     if [[ $(id -u) -ne 0 ]]; then
         if ! command -v sudo >/dev/null; then
             say "Missing packages, and neither root nor sudo is at hand to install them. As root:"
-            say "  apt-get install $*"
+            say "  apt-get install ${*%%|*}"
             return 1
         fi
         as_root=(sudo)
     fi
-    say "Installing: $*"
+    say "Installing: ${*%%|*}"
     "${as_root[@]}" apt-get update -q >&2 || say "The package lists could not be refreshed."
-    for package in "$@"; do
-        if [[ -n $(apt-cache madison "$package") ]]; then
-            known+=("$package")
-        else
-            say "This system has no package $package."
-        fi
-    done
+    mapfile -t known < <(for package in "$@"; do first_known "$package"; done)
     [[ ${#known[@]} -gt 0 ]] || return 1
     "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
         apt-get install -q -y --no-install-recommends "${known[@]}" >&2

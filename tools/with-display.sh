@@ -37,7 +37,6 @@ stop() {
 finish() {
     stop "$command_pid"
     stop "$manager_pid"
-
     stop "$server_pid"
     rm -rf "$work"
 }
