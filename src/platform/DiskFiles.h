@@ -9,8 +9,8 @@
 namespace ladrix {
 
 // Called before each system call of a change on disk, with the call's name ("open", "write",
-// "fsync", "fchmod", "close", "rename", "unlink", "mkdir"). A test kills the process there, or
-// throws a Failure in the call's place.
+// "fsync", "fchown", "fchmod", "chmod", "close", "rename", "unlink", "mkdir"). A test kills the
+// process there, or throws a Failure in the call's place. Cleaning up after a failure is not told.
 using SystemCallHook = std::function<void(std::string_view call)>;
 
 class DiskFiles final : public Files {

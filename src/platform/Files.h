@@ -44,24 +44,26 @@ class Files {
 
     // Replaces or creates the file so that a crash, a full disk or a kill at any moment leaves the
     // old or the new content whole: written to a temporary beside the target, flushed, renamed.
-    // Keeps the mode and a symbolic link; clears a read-only mark first. `ownerOnly` makes a new
-    // file readable by its owner alone.
+    // Keeps the mode and a symbolic link; clears a read-only mark first. `ownerOnly` makes the file
+    // readable by its owner alone, whatever it was before.
     virtual void replace(const std::string& path, std::string_view content,
                          bool ownerOnly = false) = 0;
 
     // Adds to the end, creating the file where there is none; clears a read-only mark first.
     virtual void append(const std::string& path, std::string_view content) = 0;
 
-    virtual void copy(const std::string& from,
-                      const std::string& to) = 0;  // by the rules of replace
-    virtual void remove(
-        const std::string& path) = 0;  // clears a read-only mark; missing is an error
+    // By the rules of replace.
+    virtual void copy(const std::string& from, const std::string& to) = 0;
+    // Of a file; a read-only mark does not keep it. A missing file is an error.
+    virtual void remove(const std::string& path) = 0;
+    // Refuses if there is something of the new name.
     virtual void rename(const std::string& from, const std::string& to) = 0;
     virtual void makeFolder(const std::string& path) = 0;  // one level; existing is an error
     virtual bool writable(const std::string& folder) = 0;
 };
 
-// A file of this name, ignoring case, is in the folder (hidden files count, folders do not).
+// A file of this name, ignoring case, is in the folder (hidden files count, folders do not). False
+// if there is no such folder; throws where it cannot be read.
 bool FileExists(Files& files, const std::string& folder, std::string_view name);
 
 // A sub-folder of this name, ignoring case, is in the parent. Throws where the parent cannot be
@@ -71,10 +73,11 @@ bool FolderExists(Files& files, const std::string& parent, std::string_view name
 // `folder` with the separator at its end, and only one.
 std::string withSeparator(const Files& files, std::string folder);
 
-// Characters that no file or folder name may hold, "..", and an empty name.
+// False for an empty name, "..", and one with a character that no file or folder name may hold.
 bool isLegalFileName(std::string_view name);
 
-// A name stored inside a document: legal, and without any folder.
+// A name that leads to no other folder or drive: all that a document may store. On a system that
+// allows them, it may hold characters that a typed name may not.
 bool isBareName(std::string_view name);
 
 // "Demo1" of "Demo1.els"; names without a dot stay.

@@ -1,0 +1,419 @@
+#include "platform/DiskFiles.h"
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <stdio.h>
+#include <stdlib.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <atomic>
+#include <cerrno>
+#include <memory>
+#include <system_error>
+#include <utility>
+
+#include "platform/Encoding.h"
+
+namespace ladrix {
+
+namespace {
+
+constexpr char Separator = '/';
+constexpr mode_t Permissions = 0777;
+constexpr mode_t PermissionsOfNew = 0666;  // less what the user's umask takes
+constexpr mode_t OwnerOnly = 0700;
+
+std::string lastPart(const std::string& path) {
+    return path.substr(path.rfind(Separator) + 1);
+}
+
+// What a failure calls the file, or the folder with its separator at the end.
+std::string nameOf(std::string path) {
+    while (path.size() > 1 && path.back() == Separator)
+        path.pop_back();
+    return path.size() > 1 ? lastPart(path) : path;
+}
+
+// With the separator at its end; "./" of a bare name.
+std::string folderOf(const std::string& path) {
+    const size_t end = path.rfind(Separator);
+    return end == std::string::npos ? "./" : path.substr(0, end + 1);
+}
+
+// What the system calls take. A zero byte would silently cut the path off.
+std::string nativePath(const std::string& path) {
+    if (path.find('\0') != std::string::npos) {
+        throw Failure{failure::PathFileAccess, "File name with a zero byte"};
+    }
+    return toUtf8(path);
+}
+
+bool isFolder(const std::string& native) {
+    struct stat info {};
+    return stat(native.c_str(), &info) == 0 && S_ISDIR(info.st_mode);
+}
+
+int failureNumber(int error, const std::string& native) {
+    switch (error) {
+        case ENOSPC:
+        case EDQUOT:
+            return failure::DiskFull;
+        case EACCES:
+        case EPERM:
+        case EROFS:
+            return failure::PermissionDenied;
+        case ENOENT:
+            return isFolder(folderOf(native)) ? failure::FileNotFound : failure::PathNotFound;
+        case ENOTDIR:
+            return failure::PathNotFound;
+        case EIO:
+            return failure::DeviceIO;
+        default:
+            return failure::PathFileAccess;
+    }
+}
+
+[[noreturn]] void refuse(const std::string& path, int number, const std::string& reason) {
+    throw Failure{number, nameOf(path) + ": " + reason};
+}
+
+// `path` is the one that the caller named, whatever file beside it the call was about.
+[[noreturn]] void refuse(const std::string& path, int error) {
+    refuse(path, failureNumber(error, nativePath(path)),
+           fromUtf8(std::generic_category().message(error)));
+}
+
+// Of calls that return -1 and may be interrupted.
+template <class Call>
+auto uninterrupted(Call call) {
+    auto result = call();
+    while (result == -1 && errno == EINTR)
+        result = call();
+    return result;
+}
+
+// An open file, closed at the end of the scope at the latest; only close() tells a failure.
+class Descriptor {
+  public:
+    explicit Descriptor(int number) : number_(number) {}
+    ~Descriptor() {
+        if (number_ >= 0) ::close(number_);
+    }
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+
+    // Only while it has none.
+    void take(int number) { number_ = number; }
+
+    explicit operator bool() const { return number_ >= 0; }
+    int number() const { return number_; }
+
+    // An interrupted close has closed the file.
+    bool close() { return ::close(std::exchange(number_, -1)) == 0 || errno == EINTR; }
+
+  private:
+    int number_;
+};
+
+// Not blocking, so that a FIFO without a writer is refused instead of waited for.
+Descriptor openExisting(const std::string& native, int flags) {
+    constexpr int always = O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
+    return Descriptor(uninterrupted([&] { return open(native.c_str(), flags | always); }));
+}
+
+void requireRegular(const struct stat& info, const std::string& path) {
+    if (S_ISDIR(info.st_mode)) refuse(path, EISDIR);
+    if (!S_ISREG(info.st_mode)) refuse(path, failure::PathFileAccess, "Not a regular file");
+}
+
+struct stat regularFile(const Descriptor& file, const std::string& path) {
+    struct stat info {};
+    if (fstat(file.number(), &info) != 0) refuse(path, errno);
+    requireRegular(info, path);
+    return info;
+}
+
+void writeAll(const SystemCallHook& hook, const Descriptor& file, std::string_view content,
+              const std::string& path) {
+    while (!content.empty()) {
+        hook("write");
+        const ssize_t written =
+            uninterrupted([&] { return write(file.number(), content.data(), content.size()); });
+        if (written < 0) refuse(path, errno);
+        if (written == 0) refuse(path, EIO);
+        content.remove_prefix(static_cast<size_t>(written));
+    }
+}
+
+void flush(const SystemCallHook& hook, const Descriptor& file, const std::string& path) {
+    hook("fsync");
+    if (uninterrupted([&] { return fsync(file.number()); }) != 0) refuse(path, errno);
+}
+
+void closeChecked(const SystemCallHook& hook, Descriptor& file, const std::string& path) {
+    hook("close");
+    if (!file.close()) refuse(path, errno);
+}
+
+// The file that a chain of symbolic links ends at; it need not exist.
+std::string linkTarget(std::string native, const std::string& path) {
+    constexpr int mostLinks = 40;
+    for (int links = 0;; ++links) {
+        struct stat info {};
+        if (lstat(native.c_str(), &info) != 0 || !S_ISLNK(info.st_mode)) return native;
+        if (links == mostLinks) refuse(path, ELOOP);
+        std::string target(4096, '\0');
+        const ssize_t length = readlink(native.c_str(), target.data(), target.size());
+        if (length < 0) refuse(path, errno);
+        target.resize(static_cast<size_t>(length));
+        native = target.starts_with(Separator) ? target : folderOf(native) + target;
+    }
+}
+
+// A new file beside the target that becomes the target, or is gone again at the end of the scope.
+class Temporary {
+  public:
+    Temporary(const SystemCallHook& hook, const std::string& target, mode_t mode,
+              const std::string& path)
+        : file(-1) {
+        static std::atomic<unsigned> counter = 0;
+        constexpr int attempts = 100;
+        for (int attempt = 0; attempt < attempts && !file; ++attempt) {
+            native_ = folderOf(target) + ".ladrix-" + std::to_string(getpid()) + '-' +
+                      std::to_string(counter++) + ".tmp";
+            hook("open");
+            file.take(uninterrupted([&] {
+                return open(native_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode);
+            }));
+            if (!file && errno != EEXIST) break;
+        }
+        if (!file) refuse(path, errno);
+    }
+    ~Temporary() {
+        if (!native_.empty()) unlink(native_.c_str());
+    }
+    Temporary(const Temporary&) = delete;
+    Temporary& operator=(const Temporary&) = delete;
+
+    void becomes(const SystemCallHook& hook, const std::string& target, const std::string& path) {
+        hook("rename");
+        if (::rename(native_.c_str(), target.c_str()) != 0) refuse(path, errno);
+        native_.clear();
+    }
+
+    Descriptor file;
+
+  private:
+    std::string native_;
+};
+
+// Mode and group of the file that is replaced, to be given to the new one.
+void takeOver(const SystemCallHook& hook, const Descriptor& file, const struct stat& old,
+              mode_t mode, const std::string& path) {
+    struct stat made {};
+    if (fstat(file.number(), &made) != 0) refuse(path, errno);
+    if (made.st_gid != old.st_gid) {
+        hook("fchown");
+        // Only a member of the group may; the file is as good without.
+        [[maybe_unused]] const int done = fchown(file.number(), static_cast<uid_t>(-1), old.st_gid);
+    }
+    // File systems without modes show the same one for both, and refuse to change it.
+    if ((made.st_mode & Permissions) == mode) return;
+    hook("fchmod");
+    if (fchmod(file.number(), mode) != 0) refuse(path, errno);
+}
+
+// So that a power cut after this cannot bring the old name back. The content is whole either way.
+void flushFolder(const SystemCallHook& hook, const std::string& target, const std::string& path) {
+    hook("open");
+    Descriptor folder = openExisting(folderOf(target), O_RDONLY | O_DIRECTORY);
+    if (!folder && errno == EACCES) return;  // may be entered and written, not read
+    if (!folder) refuse(path, errno);
+    hook("fsync");
+    if (uninterrupted([&] { return fsync(folder.number()); }) != 0) {
+        const bool unsupported = errno == EINVAL || errno == ENOTSUP || errno == ENOSYS;
+        if (!unsupported) refuse(path, errno);
+    }
+    closeChecked(hook, folder, path);
+}
+
+std::string sizeText(std::uintmax_t bytes) {
+    constexpr std::uintmax_t mebibyte = 1024 * 1024;
+    if (bytes >= mebibyte && bytes % mebibyte == 0)
+        return std::to_string(bytes / mebibyte) + " MiB";
+    return std::to_string(bytes) + " bytes";
+}
+
+FileTime modificationTime(const struct stat& info) {
+    const auto sinceEpoch =
+        std::chrono::seconds(info.st_mtim.tv_sec) + std::chrono::nanoseconds(info.st_mtim.tv_nsec);
+    return FileTime(std::chrono::duration_cast<FileTime::duration>(sinceEpoch));
+}
+
+FileEntry entryOf(std::string name, const struct stat& info) {
+    FileEntry entry;
+    entry.isHidden = name.starts_with('.');
+    entry.isFolder = S_ISDIR(info.st_mode);
+    entry.size = entry.isFolder ? 0 : static_cast<std::uintmax_t>(info.st_size);
+    entry.modified = modificationTime(info);
+    entry.name = std::move(name);
+    return entry;
+}
+
+}  // namespace
+
+DiskFiles::DiskFiles(SystemCallHook hook) : hook_(std::move(hook)) {
+    if (!hook_) hook_ = [](std::string_view) {};
+}
+
+char DiskFiles::separator() const {
+    return Separator;
+}
+
+std::vector<FileEntry> DiskFiles::list(const std::string& folder) {
+    const std::string native = nativePath(folder);
+    const std::unique_ptr<DIR, int (*)(DIR*)> open(opendir(native.c_str()), closedir);
+    if (!open) {
+        // A folder is a path, never a file that was not found.
+        if (errno == ENOENT) refuse(folder, failure::PathNotFound, "No such folder");
+        refuse(folder, errno);
+    }
+    std::vector<FileEntry> entries;
+    while (true) {
+        errno = 0;
+        const dirent* const next = readdir(open.get());
+        if (!next && errno != 0) refuse(folder, errno);
+        if (!next) return entries;
+        const std::string_view name = next->d_name;
+        if (name == "." || name == "..") continue;
+        // A link that leads nowhere is listed as what it is; what has gone meanwhile is not.
+        struct stat info {};
+        const int fd = dirfd(open.get());
+        if (fstatat(fd, next->d_name, &info, 0) == 0 ||
+            fstatat(fd, next->d_name, &info, AT_SYMLINK_NOFOLLOW) == 0) {
+            entries.push_back(entryOf(fromUtf8(name), info));
+        }
+    }
+}
+
+std::optional<FileEntry> DiskFiles::status(const std::string& path) {
+    struct stat info {};
+    if (stat(nativePath(path).c_str(), &info) == 0) return entryOf(lastPart(path), info);
+    if (errno == ENOENT || errno == ENOTDIR || errno == ENAMETOOLONG) return std::nullopt;
+    refuse(path, errno);
+}
+
+std::string DiskFiles::read(const std::string& path, std::uintmax_t limit) {
+    const Descriptor file = openExisting(nativePath(path), O_RDONLY);
+    if (!file) refuse(path, errno);
+    const auto size = static_cast<std::uintmax_t>(regularFile(file, path).st_size);
+    std::string content;
+    size_t length = 0;
+    // The size may grow while it is read, and some systems' own files tell none.
+    for (std::uintmax_t expected = size;; expected = length + length / 2 + 4096) {
+        if (length > limit || size > limit) {
+            refuse(path, failure::PathFileAccess, "Larger than " + sizeText(limit));
+        }
+        content.resize(static_cast<size_t>(expected) + 1);
+        while (length < content.size()) {
+            const ssize_t taken = uninterrupted([&] {
+                return ::read(file.number(), content.data() + length, content.size() - length);
+            });
+            if (taken < 0) refuse(path, errno);
+            if (taken == 0) {
+                content.resize(length);
+                return content;
+            }
+            length += static_cast<size_t>(taken);
+        }
+    }
+}
+
+void DiskFiles::replace(const std::string& path, std::string_view content, bool ownerOnly) {
+    const std::string target = linkTarget(nativePath(path), path);
+    struct stat old {};
+    const bool exists = stat(target.c_str(), &old) == 0;
+    if (!exists && errno != ENOENT) refuse(path, errno);
+    if (exists) requireRegular(old, path);
+    if (lastPart(target).empty()) refuse(path, EISDIR);
+
+    const bool isPrivate = exists || ownerOnly;
+    Temporary temporary(hook_, target, isPrivate ? S_IRUSR | S_IWUSR : PermissionsOfNew, path);
+    writeAll(hook_, temporary.file, content, path);
+    if (exists) {
+        const mode_t mode = (old.st_mode & Permissions) | S_IWUSR;
+        takeOver(hook_, temporary.file, old, ownerOnly ? mode & OwnerOnly : mode, path);
+    }
+    flush(hook_, temporary.file, path);
+    closeChecked(hook_, temporary.file, path);
+    temporary.becomes(hook_, target, path);
+    flushFolder(hook_, target, path);
+}
+
+void DiskFiles::append(const std::string& path, std::string_view content) {
+    const std::string native = nativePath(path);
+    struct stat old {};
+    if (stat(native.c_str(), &old) == 0 && S_ISREG(old.st_mode) && !(old.st_mode & S_IWUSR)) {
+        hook_("chmod");
+        if (chmod(native.c_str(), (old.st_mode & Permissions) | S_IWUSR) != 0) refuse(path, errno);
+    }
+    hook_("open");
+    Descriptor file(uninterrupted([&] {
+        return open(native.c_str(), O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC | O_NONBLOCK,
+                    PermissionsOfNew);
+    }));
+    if (!file) refuse(path, errno);
+    const off_t length = regularFile(file, path).st_size;
+    try {
+        writeAll(hook_, file, content, path);
+        closeChecked(hook_, file, path);
+    } catch (const Failure&) {
+        // Half an entry is worse than none.
+        if (file) [[maybe_unused]]
+            const int cut = ftruncate(file.number(), length);
+        throw;
+    }
+}
+
+void DiskFiles::copy(const std::string& from, const std::string& to) {
+    constexpr std::uintmax_t largest = 1u << 30;  // it is held in memory meanwhile
+    replace(to, read(from, largest), false);
+}
+
+void DiskFiles::remove(const std::string& path) {
+    const std::string native = nativePath(path);
+    struct stat info {};
+    if (lstat(native.c_str(), &info) != 0) refuse(path, errno);
+    if (S_ISDIR(info.st_mode)) refuse(path, EISDIR);
+    // The mode of a file does not protect its name here, so that there is no mark to clear.
+    hook_("unlink");
+    if (unlink(native.c_str()) != 0) refuse(path, errno);
+}
+
+void DiskFiles::rename(const std::string& from, const std::string& to) {
+    const std::string nativeFrom = nativePath(from), nativeTo = nativePath(to);
+    struct stat info {};
+    if (lstat(nativeFrom.c_str(), &info) != 0) refuse(from, errno);
+    if (lstat(nativeTo.c_str(), &info) == 0) refuse(to, EEXIST);
+    hook_("rename");
+    if (renameat2(AT_FDCWD, nativeFrom.c_str(), AT_FDCWD, nativeTo.c_str(), RENAME_NOREPLACE) ==
+        0) {
+        return;
+    }
+    const bool unsupported = errno == EINVAL || errno == ENOSYS;
+    if (!unsupported || ::rename(nativeFrom.c_str(), nativeTo.c_str()) != 0) refuse(to, errno);
+}
+
+void DiskFiles::makeFolder(const std::string& path) {
+    hook_("mkdir");
+    if (mkdir(nativePath(path).c_str(), Permissions) != 0) refuse(path, errno);
+}
+
+bool DiskFiles::writable(const std::string& folder) {
+    const std::string native = nativePath(folder);
+    return isFolder(native) && access(native.c_str(), W_OK | X_OK) == 0;
+}
+
+}  // namespace ladrix
