@@ -2,6 +2,7 @@
 // tell how far it agrees with its file. Lives for the whole run; a new drawing empties it.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -21,6 +22,7 @@ struct Drawing {
     // LF.
     std::string DeviceString, LabelString, PictureString;
     RecordOffsets DeviceRecords, LabelRecords;
+    Short PictureRecords = 0;  // pictures in the table when it last agreed with PictureString
     std::string_view DeviceRecord(Short index) const;
     std::string_view LabelRecord(Short index) const;
 
@@ -70,7 +72,9 @@ void RecordDevice(Drawing& drawing, const Platform& platform, Device& device);
 // Adds a label; on the canvas only while a preview is drawn. An empty text becomes "Type New Text".
 void RecordLabel(Drawing& drawing, const Platform& platform, Label label);
 
-// Remake the records and the master text from the columns.
+// Remake the records and the master text from the columns. With a count of 0 they leave a text that
+// never became rows (it could not be read) as it is, and empty one whose rows have been deleted. A
+// value that cannot be written goes to the shared report, with the text as it was.
 void RebuildDeviceString(Drawing& drawing, const Platform& platform);
 void RebuildLabelString(Drawing& drawing, const Platform& platform);
 void RebuildPictureString(Drawing& drawing, const Platform& platform);

@@ -39,13 +39,18 @@ std::string crashCopyText(const Drawing& drawing);
 // The main text and the picture section that every saved file ends with.
 std::string fileText(const Drawing& drawing);
 
-// Files of before 2011-01-10 have no page key.
+// Files of before 2011-01-10 (local time) have no page key; a text that begins with a device has
+// none either. `text` is what follows the description.
 bool isOldFile(FileTime modified, std::string_view text);
 
-// Never fails: a file without the expected divisions gives what the splitting finds.
+// Linear in the text. Never fails: a file without the expected divisions gives what the splitting
+// finds, one without a page key the default key.
 DrawingParts splitFile(std::string_view text, FileTime modified);
 
-// Puts the parts in the drawing's master texts and description; tables are not parsed.
+// Puts the parts in the drawing's master texts, description and page key; tables are not parsed. A
+// template in force comes before the file's devices and labels, once: it is no longer in force
+// afterwards. With a picture section, the folder of the pictures is told by CurrentFolder and
+// CurrentFileName.
 void takeParts(Drawing& drawing, DrawingParts parts);
 
 }  // namespace ladrix

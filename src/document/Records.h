@@ -21,18 +21,24 @@ namespace ladrix {
 constexpr char FieldSeparator = '\xFF';
 constexpr std::string_view LineEnd = "\r\n";
 
-// Append one record without its line end.
+// Which fields a device's record holds depends on its name alone; names are compared exactly.
+enum class RecordLayout { FreeLineOrSquare, Circle, Arc, SemiCircle, Ordinary };
+RecordLayout recordLayout(std::string_view name);
+
+// Append one record without its line end. A free line without a width tag is written with the tag
+// "0", a circle or arc of aspect 0 with the aspect 1.
 void appendDeviceRecord(std::string& out, const DeviceTable& table, Short index, char decimalMark);
 void appendLabelRecord(std::string& out, const LabelTable& table, Short index, char decimalMark);
 void appendPictureRecord(std::string& out, const PictureRow& row, char decimalMark);
 
-// Empty and refill a table from its master text. Boxes tell what could not be read; a bad number
-// ends the parse with a report, the table as far as it got. The caller redraws.
+// Empty and refill a table from its master text, which stays as it is. Boxes tell what could not be
+// read; a bad number ends the parse with a report, the table holding the lines before it. The
+// caller redraws.
 void ParseDeviceString(Drawing& drawing, const Platform& platform);
 void ParseLabelString(Drawing& drawing, const Platform& platform);
 
 // Takes PictureParentFolder and PictureFolderName for where the pictures are. Missing files are
-// counted and told in one box.
+// counted and told in one box. The images themselves are loaded by the layer above.
 void ParsePictureString(Drawing& drawing, const Platform& platform);
 
 }  // namespace ladrix

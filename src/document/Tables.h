@@ -4,6 +4,8 @@
 // The same types serve the drawing, the copy buffer and the collected items of a user symbol.
 #pragma once
 
+#include <cstddef>
+#include <limits>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -11,6 +13,9 @@
 #include "platform/Types.h"
 
 namespace ladrix {
+
+// The most rows that a table holds.
+constexpr Short LargestCount = std::numeric_limits<Short>::max();
 
 // One row of the device table, as it is recorded, copied or moved between tables.
 struct Device {
@@ -47,7 +52,7 @@ struct DeviceTable {
     Device row(Short index) const;
     void setRow(Short index, const Device& device);
     // Adds a row that is not selected. Throws Failure 6 when the count is 32,767.
-    void append(Device device);
+    void append(const Device& device);
     void eraseSelected();  // order of the rest is kept
 };
 
@@ -74,7 +79,7 @@ struct LabelTable {
     void resize(Short count);
     Label row(Short index) const;
     void setRow(Short index, const Label& label);
-    void append(Label label);
+    void append(const Label& label);
     void eraseSelected();
 };
 

@@ -1,0 +1,456 @@
+// The three parsers of the master texts. Each goes through its text once: a line is a view into it,
+// a field a view into the line, and the columns are sized before the first line is read.
+#include <algorithm>
+#include <array>
+#include <optional>
+#include <unordered_map>
+#include <utility>
+
+#include "document/Records.h"
+#include "platform/Encoding.h"
+#include "platform/Numbers.h"
+
+namespace ladrix {
+
+namespace {
+
+constexpr std::string_view WrittenSeparator = "\xFF";
+// The byte 255 after a way through mail as quoted-printable text.
+constexpr std::string_view QuotedSeparator = "=FF";
+constexpr std::string_view OldSeparator = ", ";
+
+// How the lines of one master text are to be read.
+struct TextForm {
+    std::string_view separator;
+    bool oldForm = false;     // neither the byte 255 nor "=FF"
+    bool repairMark = false;  // written under a locale with the other decimal mark
+    char writtenMark = '.', ownMark = '.';
+};
+
+// Takes the fields of a line, left to right. A field that isn't there reads as "".
+class Fields {
+  public:
+    Fields(std::string_view line, std::string_view separator)
+        : rest_(line), separator_(separator) {}
+
+    std::string_view next() {
+        const std::size_t at = find();
+        const std::string_view field = rest_.substr(0, at);
+        rest_ = at == std::string_view::npos ? std::string_view{}
+                                             : rest_.substr(at + separator_.size());
+        return field;
+    }
+    // The last field: all that remains, separators too.
+    std::string_view rest() const { return rest_; }
+    bool hasMore() const { return find() != std::string_view::npos; }
+
+    Single single() { return toSingle(next()); }
+    Long number() { return toLong(next()); }
+
+  private:
+    std::size_t find() const {
+        return separator_.size() == 1 ? rest_.find(separator_[0]) : rest_.find(separator_);
+    }
+
+    std::string_view rest_, separator_;
+};
+
+// The lines of a text: those ended by CR LF. What comes behind the last line end is no line.
+class Lines {
+  public:
+    explicit Lines(std::string_view text) : text_(text) {}
+
+    std::optional<std::string_view> next() {
+        const std::size_t end = text_.find(LineEnd, start_);
+        if (end == std::string_view::npos) return std::nullopt;
+        lineStart_ = start_;
+        start_ = end + LineEnd.size();
+        return text_.substr(lineStart_, end - lineStart_);
+    }
+    // Where in the text the line begins that next() gave last.
+    std::size_t lineStart() const { return lineStart_; }
+
+  private:
+    std::string_view text_;
+    std::size_t start_ = 0, lineStart_ = 0;
+};
+
+Short countLines(std::string_view text) {
+    std::size_t count = 0;
+    for (Lines lines(text); lines.next();)
+        ++count;
+    if (count > static_cast<std::size_t>(LargestCount)) {
+        throw Failure{failure::Overflow, "The text has " + std::to_string(count) +
+                                             " lines. A drawing holds at most 32767 items of a "
+                                             "kind."};
+    }
+    return static_cast<Short>(count);
+}
+
+bool isDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
+// Whether a digit, the mark and a digit stand behind the second separator of the line.
+bool hasDecimal(std::string_view line, std::string_view separator, char mark) {
+    Fields fields(line, separator);
+    fields.next();
+    if (!fields.hasMore()) return false;
+    fields.next();
+    const std::string_view rest = fields.rest();
+    for (std::size_t i = 1; i + 1 < rest.size(); ++i) {
+        if (rest[i] == mark && isDigit(rest[i - 1]) && isDigit(rest[i + 1])) return true;
+    }
+    return false;
+}
+
+// nullopt if the text holds none of the separators.
+std::optional<TextForm> textForm(std::string_view text, bool decimalComma) {
+    TextForm form;
+    const auto holds = [text](std::string_view part) {
+        return text.find(part) != std::string_view::npos;
+    };
+    if (holds(WrittenSeparator)) {
+        form.separator = WrittenSeparator;
+    } else if (holds(QuotedSeparator)) {
+        form.separator = QuotedSeparator;
+    } else if (holds(OldSeparator)) {
+        form.separator = OldSeparator;
+        form.oldForm = true;
+    } else {
+        return std::nullopt;
+    }
+    form.ownMark = decimalComma ? ',' : '.';
+    form.writtenMark = decimalComma ? '.' : ',';
+    if (const auto first = Lines(text).next()) {
+        form.repairMark = hasDecimal(*first, form.separator, form.writtenMark);
+    }
+    return form;
+}
+
+// A text behind the first field. Numbers need no repair: they read with either mark.
+void takeText(std::string& column, std::string_view field, const TextForm& form) {
+    column.assign(field);
+    if (form.repairMark) std::replace(column.begin(), column.end(), form.writtenMark, form.ownMark);
+}
+
+Failure inLine(const Failure& failure, Short index) {
+    return {failure.number, "Line " + std::to_string(index + 1) + ": " + failure.text};
+}
+
+// Gives each line to `readLine` with its index. A line that fails ends the reading: the table, its
+// columns sized for all lines before, is cut to the rows that are whole.
+template <class Table, class ReadLine>
+void readLines(std::string_view text, Table& table, RecordOffsets& records, Short count,
+               const ReadLine& readLine) {
+    table.resize(count);
+    records.start.reserve(static_cast<std::size_t>(count));
+    Lines lines(text);
+    for (Short index = 0; index < count; ++index) {
+        const std::string_view line = *lines.next();
+        try {
+            readLine(static_cast<std::size_t>(index), line);
+        } catch (const Failure& failure) {
+            table.resize(index);
+            throw inLine(failure, index);
+        }
+        records.start.push_back(lines.lineStart());
+    }
+}
+
+std::string_view presentName(std::string_view name) {
+    if (name == "InsertNormallyOpenSwitch") return "InsertNormallyOpenAux";
+    if (name == "InsertNormallyClosedSwitch") return "InsertNormallyClosedAux";
+    return name;
+}
+
+std::string_view trimmed(std::string_view text) {
+    const std::size_t first = text.find_first_not_of(' ');
+    if (first == std::string_view::npos) return {};
+    return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+struct Renaming {
+    std::string_view written, present;
+    Short orientation;
+};
+constexpr std::array<Renaming, 4> ShortLineRenamings = {{
+    {"InsertTransformerLowerCoil", "InsertTransformerCoil", 1},
+    {"InsertTransformerUpperCoil", "InsertTransformerCoil", 0},
+    {"InsertTransformer", "InsertTransformer", 2},
+    {"InsertTransformer2", "InsertTransformer", 0},
+}};
+
+Short semiCircleDirection(std::string_view field) {
+    constexpr std::array<std::string_view, 4> Words = {"Left", "Right", "Up", "Down"};
+    const auto* const word = std::find(Words.begin(), Words.end(), field);
+    if (word != Words.end()) return static_cast<Short>(word - Words.begin() + 1);
+    return typedNumber(field) ? toShort(field) : Short{0};
+}
+
+// One line of the device table, by the layout of its name.
+class DeviceReader {
+  public:
+    DeviceReader(DeviceTable& table, const TextForm& form) : table_(table), form_(form) {}
+
+    void operator()(std::size_t i, std::string_view line) const {
+        Fields fields(line, form_.separator);
+        const std::string_view name = presentName(fields.next());
+        table_.DeviceName[i].assign(name);
+        table_.DeviceX[i] = fields.single();
+        table_.DeviceY[i] = fields.single();
+        switch (recordLayout(name)) {
+            case RecordLayout::FreeLineOrSquare:
+                readFreeShape(i, fields);
+                break;
+            case RecordLayout::Circle:
+                // Width tag and aspect are left alone: every ellipse comes back as a circle.
+                table_.DeviceRadius[i] = fields.single();
+                table_.DeviceColor[i] = fields.number();
+                break;
+            case RecordLayout::Arc:
+                readArc(i, fields);
+                break;
+            case RecordLayout::SemiCircle:
+                table_.DeviceRadius[i] = fields.single();
+                table_.DeviceDirection[i] = semiCircleDirection(fields.next());
+                table_.DeviceColor[i] = fields.number();
+                break;
+            case RecordLayout::Ordinary:
+                table_.DeviceColor[i] = fields.number();
+                if (fields.hasMore()) {
+                    readOrdinary(i, fields);
+                } else {
+                    readShortLine(i, fields);
+                }
+                break;
+        }
+    }
+
+  private:
+    void readFreeShape(std::size_t i, Fields& fields) const {
+        table_.DeviceX2[i] = fields.single();
+        table_.DeviceY2[i] = fields.single();
+        table_.DeviceColor[i] = fields.number();
+        const std::string_view tag = fields.rest();
+        if (tag != "20" && tag != "0") takeText(table_.DeviceWidthTag[i], tag, form_);
+    }
+
+    void readArc(std::size_t i, Fields& fields) const {
+        table_.DeviceRadius[i] = fields.single();
+        table_.DeviceDirection[i] = toShort(fields.next());
+        table_.DeviceColor[i] = fields.number();
+        takeText(table_.DeviceWidthTag[i], fields.next(), form_);
+        table_.DeviceStartAngle[i] = fields.single();
+        table_.DeviceEndAngle[i] = fields.single();
+        table_.DeviceAspect[i] = toSingle(fields.rest());
+    }
+
+    void readOrdinary(std::size_t i, Fields& fields) const {
+        takeText(table_.DeviceWidthTag[i], fields.next(), form_);
+        table_.DeviceScaleX[i] = fields.single();
+        table_.DeviceScaleY[i] = fields.single();
+        if (!fields.hasMore()) return;
+        table_.DeviceOrientation[i] = toShort(fields.next());
+        table_.DeviceFlip[i] = toBoolean(fields.rest());
+    }
+
+    // The first generation of lines ends in one field that is a width tag or an orientation.
+    void readShortLine(std::size_t i, const Fields& fields) const {
+        std::string& tag = table_.DeviceWidthTag[i];
+        takeText(tag, fields.rest(), form_);
+        const std::string_view value = trimmed(tag);
+        if (!value.empty() && value != "DrawWidth=2") table_.DeviceOrientation[i] = toShort(value);
+        std::string& name = table_.DeviceName[i];
+        for (const Renaming& renaming : ShortLineRenamings) {
+            if (name != renaming.written) continue;
+            name.assign(renaming.present);
+            table_.DeviceOrientation[i] = renaming.orientation;
+            return;
+        }
+    }
+
+    DeviceTable& table_;
+    const TextForm& form_;
+};
+
+class LabelReader {
+  public:
+    LabelReader(Drawing& drawing, const TextForm& form)
+        : drawing_(drawing), table_(drawing.labels), form_(form) {}
+
+    void operator()(std::size_t i, std::string_view line) const {
+        if (line.empty() && !form_.oldForm) return;
+        Fields fields(line, form_.separator);
+        table_.LabelText[i].assign(fields.next());
+        table_.LabelX[i] = fields.single();
+        table_.LabelY[i] = fields.single();
+        const bool hasFont = !form_.oldForm && fields.hasMore();
+        table_.LabelColor[i] = fields.number();
+        if (hasFont) {
+            takeText(table_.LabelFontName[i], fields.next(), form_);
+            table_.LabelFontSize[i] = fields.single();
+            table_.LabelBold[i] = toBoolean(fields.next());
+            table_.LabelItalic[i] = toBoolean(fields.rest());
+        } else if (!form_.oldForm) {
+            table_.LabelFontName[i] = drawing_.DefaultFontName;
+            table_.LabelFontSize[i] = drawing_.DefaultFontSize;
+            table_.LabelBold[i] = drawing_.DefaultFontBold;
+            table_.LabelItalic[i] = drawing_.DefaultFontItalic;
+        }
+    }
+
+  private:
+    Drawing& drawing_;
+    LabelTable& table_;
+    const TextForm& form_;
+};
+
+void readDevices(Drawing& drawing, const Platform& platform) {
+    drawing.devices.clear();
+    drawing.DeviceRecords.clear();
+    if (drawing.DeviceString == LineEnd) drawing.DeviceString.clear();
+    const std::string_view text = drawing.DeviceString;
+    if (text.empty()) return;
+    const Short count = countLines(text);
+    const std::optional<TextForm> form = textForm(text, platform.DecimalComma());
+    if (!form) return platform.tell("Could not parse devices.");
+    readLines(text, drawing.devices, drawing.DeviceRecords, count,
+              DeviceReader(drawing.devices, *form));
+}
+
+void readLabels(Drawing& drawing, const Platform& platform) {
+    drawing.labels.clear();
+    drawing.LabelRecords.clear();
+    const std::string_view text = drawing.LabelString;
+    if (text.empty()) return;
+    const Short count = countLines(text);
+    const std::optional<TextForm> form = textForm(text, platform.DecimalComma());
+    if (!form) return platform.tell("Could not parse labels.");
+    readLines(text, drawing.labels, drawing.LabelRecords, count, LabelReader(drawing, *form));
+}
+
+// The folder of a drawing's pictures, read once. Names are found whatever their case, an exact one
+// before others.
+class PictureFolder {
+  public:
+    // nullopt if the parent has no such folder.
+    static std::optional<PictureFolder> find(Files& files, const std::string& parent,
+                                             std::string_view name) {
+        std::string actual;
+        for (const FileEntry& entry : files.list(parent)) {
+            if (!entry.isFolder || !equalIgnoringCase(entry.name, name)) continue;
+            actual = entry.name;
+            if (actual == name) break;
+        }
+        if (actual.empty()) return std::nullopt;
+        return PictureFolder(files, withSeparator(files, withSeparator(files, parent) + actual));
+    }
+
+    // Where the file lies; nullopt if it is missing. A name that leads out of the folder is.
+    std::optional<std::string> pathOf(std::string_view name) const {
+        if (!isBareName(name)) return std::nullopt;
+        auto found = names_.find(std::string(name));
+        if (found == names_.end()) found = names_.find(lowerCase(name));
+        if (found == names_.end()) return std::nullopt;
+        return path_ + found->second;
+    }
+
+  private:
+    PictureFolder(Files& files, std::string path) : path_(std::move(path)) {
+        for (const FileEntry& entry : files.list(path_)) {
+            if (entry.isFolder) continue;
+            names_.insert_or_assign(entry.name, entry.name);
+            names_.try_emplace(lowerCase(entry.name), entry.name);
+        }
+    }
+
+    std::string path_;
+    std::unordered_map<std::string, std::string> names_;  // exact and lower case to actual
+};
+
+PictureRow readPicture(Fields& fields, std::string_view name, std::string path) {
+    PictureRow row;
+    row.FileName.assign(name);
+    row.FullPath = std::move(path);
+    row.Left = fields.single();
+    row.Top = fields.single();
+    row.Width = fields.single();
+    row.Height = toSingle(fields.rest());
+    return row;
+}
+
+void tellMissing(const Platform& platform, int missing) {
+    if (missing == 1) platform.tell("1 picture could not be found.");
+    if (missing > 1) platform.tell(std::to_string(missing) + " pictures could not be found.");
+}
+
+void readPictures(Drawing& drawing, const Platform& platform) {
+    drawing.PictureTable.clear();
+    drawing.PictureCount = 0;
+    drawing.PictureRecords = 0;
+    std::string_view text = drawing.PictureString;
+    // The end of a section's head that was kept with it.
+    constexpr std::string_view HeadEnd = "\r\n///";
+    if (const auto head = text.find(HeadEnd); head != std::string_view::npos) {
+        text.remove_prefix(head + HeadEnd.size());
+    }
+    if (text.empty()) return;
+    const Short count = countLines(text);
+    const std::optional<TextForm> form = textForm(text, platform.DecimalComma());
+    if (!form) return platform.tell("Could not parse pictures.");
+    const std::optional<PictureFolder> folder = PictureFolder::find(
+        *platform.files, drawing.PictureParentFolder, drawing.PictureFolderName);
+    if (!folder) {
+        return platform.tell(
+            "Picture files could not be found. Associated picture folder is missing.");
+    }
+    if (form->oldForm) return;
+    int missing = 0;
+    Lines lines(text);
+    for (Short index = 0; index < count; ++index) {
+        const std::string_view line = *lines.next();
+        if (line.empty()) continue;
+        Fields fields(line, form->separator);
+        const std::string_view name = fields.next();
+        std::optional<std::string> path = folder->pathOf(name);
+        if (!path) {
+            ++missing;
+            continue;
+        }
+        try {
+            drawing.PictureTable.push_back(readPicture(fields, name, std::move(*path)));
+        } catch (const Failure& failure) {
+            throw inLine(failure, index);
+        }
+        drawing.PictureRecords = ++drawing.PictureCount;
+    }
+    tellMissing(platform, missing);
+}
+
+// Runs one parser on its single error path.
+template <class Read>
+void guarded(const Platform& platform, std::string_view description, const Read& read) {
+    try {
+        read();
+    } catch (const Failure& failure) {
+        platform.ReportError(description, failure);
+    }
+}
+
+}  // namespace
+
+void ParseDeviceString(Drawing& drawing, const Platform& platform) {
+    guarded(platform, "Parse Device String", [&] { readDevices(drawing, platform); });
+}
+
+void ParseLabelString(Drawing& drawing, const Platform& platform) {
+    guarded(platform, "Parse Label String", [&] { readLabels(drawing, platform); });
+    if (drawing.LabelsChanged) drawing.LabelsChanged();
+}
+
+void ParsePictureString(Drawing& drawing, const Platform& platform) {
+    guarded(platform, "Parse Picture String", [&] { readPictures(drawing, platform); });
+}
+
+}  // namespace ladrix
