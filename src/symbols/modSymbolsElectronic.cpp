@@ -244,10 +244,10 @@ constexpr auto SolidDiode = joined(
 // IEEE 315 8.5.4: light-emitting diode.
 constexpr auto LED = joined(
     SolidDiode,
-    std::array{Line(0.2188f, -0.1562f, 0.2812f, -0.2188f)},
-    arrowHead<9>({0.2812f, -0.2188f}, {0.0156f, 0.0156f}, {0.3125f, -0.25f}),
-    std::array{Line(0.2969f, -0.1562f, 0.3594f, -0.2188f)},
-    arrowHead<9>({0.3594f, -0.2188f}, {0.0156f, 0.0156f}, {0.3906f, -0.25f}));
+    std::array{Line(0.1875f, -0.1406f, 0.2578f, -0.2109f)},
+    arrowHead<9>({0.2578f, -0.2109f}, {0.0195f, 0.0195f}, {0.2969f, -0.25f}),
+    std::array{Line(0.2969f, -0.1406f, 0.3672f, -0.2109f)},
+    arrowHead<9>({0.3672f, -0.2109f}, {0.0195f, 0.0195f}, {0.4062f, -0.25f}));
 constexpr Block LEDBlocks[] = {
     {0, LED},
     {1, LED, Turn::MirrorLeftRight, 0.5f, 0},
@@ -258,10 +258,10 @@ constexpr Block LEDBlocks[] = {
 // IEEE 315 8.5.4: photodiode.
 constexpr auto PhotoDiode = joined(
     SolidDiode,
-    std::array{Line(0.3125f, -0.25f, 0.25f, -0.1875f)},
-    arrowHead<9>({0.25f, -0.1875f}, {0.0156f, 0.0156f}, {0.2188f, -0.1562f}),
-    std::array{Line(0.3906f, -0.25f, 0.3281f, -0.1875f)},
-    arrowHead<9>({0.3281f, -0.1875f}, {0.0156f, 0.0156f}, {0.2969f, -0.1562f}));
+    std::array{Line(0.2969f, -0.25f, 0.2266f, -0.1797f)},
+    arrowHead<9>({0.2266f, -0.1797f}, {0.0195f, 0.0195f}, {0.1875f, -0.1406f}),
+    std::array{Line(0.4062f, -0.25f, 0.3359f, -0.1797f)},
+    arrowHead<9>({0.3359f, -0.1797f}, {0.0195f, 0.0195f}, {0.2969f, -0.1406f}));
 constexpr Block PhotoDiodeBlocks[] = {
     {0, PhotoDiode},
     {1, PhotoDiode, Turn::MirrorLeftRight, 0.5f, 0},
@@ -272,8 +272,8 @@ constexpr Block PhotoDiodeBlocks[] = {
 // IEEE 315 8.5.6: breakdown diode.
 constexpr auto ZenerDiode = joined(
     SolidDiode,
-    std::array{Line(0.3438f, -0.1094f, 0.3906f, -0.1406f),
-               Line(0.3438f, 0.1094f, 0.2969f, 0.1406f)});
+    std::array{Line(0.3438f, -0.1094f, 0.3828f, -0.1484f),
+               Line(0.3438f, 0.1094f, 0.3047f, 0.1484f)});
 constexpr Block ZenerDiodeBlocks[] = {
     {0, ZenerDiode},
     {1, ZenerDiode, Turn::MirrorLeftRight, 0.5f, 0},
@@ -282,7 +282,7 @@ constexpr Block ZenerDiodeBlocks[] = {
 };
 
 // IEEE 315: reverse-blocking triode thyristor, the gate at the cathode.
-constexpr auto SCRH = joined(SolidDiode, std::array{Line(0.3438f, 0.0938f, 0.5f, 0.25f)});
+constexpr auto SCRH = joined(SolidDiode, std::array{Line(0.3438f, 0.1094f, 0.5f, 0.25f)});
 constexpr Block SCRHBlocks[] = {
     {0, SCRH},
     {1, SCRH, Turn::MirrorLeftRight, 0.5f, 0},
