@@ -13,21 +13,14 @@ constexpr Primitive ScrewTerminal[] = {
 };
 constexpr Block ScrewTerminalBlocks[] = {{AnyOrientation, ScrewTerminal}};
 
-// A wire that hops over a crossing one. The two bows face right and up, so neither is a turn of
-// the other.
+// A wire that hops over a crossing one: the vertical bow faces right, the horizontal one up.
 constexpr Primitive Jumper[] = {
     Line(0, 0, 0, 0.125f),
     Line(0, 0.375f, 0, 0.5f),
     Arc(0, 0.25f, 0.125f, 270, 90),
 };
 constexpr Block JumperBlocks[] = {{AnyOrientation, Jumper}};
-
-constexpr Primitive Jumper90[] = {
-    Line(0, 0, 0.125f, 0),
-    Line(0.375f, 0, 0.5f, 0),
-    Arc(0.25f, 0, 0.125f, 360, 180),
-};
-constexpr Block Jumper90Blocks[] = {{AnyOrientation, Jumper90}};
+constexpr Block Jumper90Blocks[] = {{AnyOrientation, Jumper, Turn::CounterClockwise}};
 
 constexpr Symbol Symbols[] = {
     {"InsertScrewTerminal", ScrewTerminalBlocks, ""},

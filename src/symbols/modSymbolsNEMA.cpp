@@ -33,7 +33,7 @@ constexpr Single middle(Single bladeEnd) {
 
 // clang-format off
 
-// IEEE 315-2.12: battery of two cells.
+// IEEE 315-2.5: battery of two cells.
 constexpr Primitive Battery[] = {
     Line(0, 0, 0.0625f, 0),
     Line(0.0625f, -0.2f, 0.0625f, 0.2f), Line(0.1875f, -0.125f, 0.1875f, 0.125f),
@@ -317,7 +317,8 @@ constexpr Primitive KeySwitch[] = {
 
 // NEMA ICS 19: two-way switch; the blade lies against its upper terminal.
 constexpr Primitive GPSwitch2Pos[] = {
-    Circle(0.0375f, 0, 0.0375f), Circle(0.4625f, -0.125f, 0.0375f), Circle(0.4625f, 0.125f, 0.0375f),
+    Circle(0.0375f, 0, 0.0375f),
+    Circle(0.4625f, -0.125f, 0.0375f), Circle(0.4625f, 0.125f, 0.0375f),
     Line(0.075f, 0, 0.5f, -0.095f),
 };
 
@@ -421,16 +422,16 @@ constexpr Block SpecialCoilBlocks[] = {
 constexpr Primitive SS2Pos[] = {
     Circle(0.0375f, 0, 0.0375f), Circle(0.4625f, 0, 0.0375f),
     Circle(0.0375f, 0.25f, 0.0375f), Circle(0.4625f, 0.25f, 0.0375f),
-    Line(0, 0.0375f, 0.5f, 0.0375f), Line(0.25f, 0.0375f, 0.25f, -0.2f),
-    Line(0.25f, -0.2f, 0.15f, -0.35f),
-    Line(0.27f, -0.23f, 0.3f, -0.275f), Line(0.32f, -0.305f, 0.35f, -0.35f),
+    Line(0, 0.0375f, 0.5f, 0.0375f), Line(0.25f, 0.0375f, 0.25f, -0.15f),
+    Line(0.25f, -0.15f, 0.11f, -0.32f),
+    Line(0.285f, -0.1925f, 0.327f, -0.2435f), Line(0.348f, -0.269f, 0.39f, -0.32f),
 };
 constexpr Primitive SS3Pos[] = {
     Circle(0.0375f, 0, 0.0375f), Circle(0.4625f, 0, 0.0375f),
     Circle(0.0375f, 0.25f, 0.0375f), Circle(0.4625f, 0.25f, 0.0375f),
-    Line(0, 0.125f, 0.5f, 0.125f), Line(0.25f, 0.125f, 0.25f, -0.38f),
-    Line(0.23f, -0.23f, 0.2f, -0.275f), Line(0.18f, -0.305f, 0.15f, -0.35f),
-    Line(0.27f, -0.23f, 0.3f, -0.275f), Line(0.32f, -0.305f, 0.35f, -0.35f),
+    Line(0, 0.125f, 0.5f, 0.125f), Line(0.25f, 0.125f, 0.25f, -0.37f),
+    Line(0.215f, -0.1925f, 0.173f, -0.2435f), Line(0.152f, -0.269f, 0.11f, -0.32f),
+    Line(0.285f, -0.1925f, 0.327f, -0.2435f), Line(0.348f, -0.269f, 0.39f, -0.32f),
 };
 
 // NEMA ICS 19: temperature actuated switch; the step is the bimetal.
@@ -449,16 +450,16 @@ constexpr auto ThermalSwitchNO = thermalSwitch(BladeOpen);
 // point.
 constexpr Primitive Transformer[] = {
     Arc(0.0625f, 0.1f, 0.0625f, 180, 360), Line(0, 0, 0, 0.1f),
-    Arc(0.1875f, 0.1f, 0.0625f, 180, 360), Line(0.125f, 0.0375f, 0.125f, 0.1f),
-    Arc(0.3125f, 0.1f, 0.0625f, 180, 360), Line(0.25f, 0.0375f, 0.25f, 0.1f),
-    Arc(0.4375f, 0.1f, 0.0625f, 180, 360), Line(0.375f, 0.0375f, 0.375f, 0.1f),
+    Arc(0.1875f, 0.1f, 0.0625f, 180, 360), Line(0.125f, 0.06f, 0.125f, 0.1f),
+    Arc(0.3125f, 0.1f, 0.0625f, 180, 360), Line(0.25f, 0.06f, 0.25f, 0.1f),
+    Arc(0.4375f, 0.1f, 0.0625f, 180, 360), Line(0.375f, 0.06f, 0.375f, 0.1f),
     Line(0.5f, 0, 0.5f, 0.1f),
     Line(0, 0.225f, 0.5f, 0.225f), Line(0, 0.275f, 0.5f, 0.275f),
-    Arc(0.1875f, 0.4f, 0.0625f, 0, 180), Line(0.125f, 0.4f, 0.125f, 0.4625f),
-    Arc(0.3125f, 0.4f, 0.0625f, 0, 180), Line(0.25f, 0.4f, 0.25f, 0.4625f),
-    Line(0.375f, 0.4f, 0.375f, 0.4625f),
-    Line(0.125f, 0.4625f, 0, 0.4625f), Line(0, 0.4625f, 0, 0.5f),
-    Line(0.375f, 0.4625f, 0.5f, 0.4625f), Line(0.5f, 0.4625f, 0.5f, 0.5f),
+    Arc(0.1875f, 0.4f, 0.0625f, 0, 180), Line(0.125f, 0.4f, 0.125f, 0.44f),
+    Arc(0.3125f, 0.4f, 0.0625f, 0, 180), Line(0.25f, 0.4f, 0.25f, 0.44f),
+    Line(0.375f, 0.4f, 0.375f, 0.44f),
+    Line(0.125f, 0.44f, 0, 0.44f), Line(0, 0.44f, 0, 0.5f),
+    Line(0.375f, 0.44f, 0.5f, 0.44f), Line(0.5f, 0.44f, 0.5f, 0.5f),
 };
 constexpr Block TransformerBlocks[] = {
     {0, Transformer},
@@ -470,22 +471,22 @@ constexpr Block TransformerBlocks[] = {
 // NEMA ICS 19: control transformer, two primary windings H and one secondary X.
 constexpr Primitive ControlTransformer[] = {
     Arc(0.0625f, 0.1f, 0.0625f, 180, 360), Line(0, 0, 0, 0.1f),
-    Arc(0.1875f, 0.1f, 0.0625f, 180, 360), Line(0.125f, 0.0375f, 0.125f, 0.1f),
-    Arc(0.3125f, 0.1f, 0.0625f, 180, 360), Line(0.25f, 0.0375f, 0.25f, 0.1f),
-    Arc(0.4375f, 0.1f, 0.0625f, 180, 360), Line(0.375f, 0.0375f, 0.375f, 0.1f),
+    Arc(0.1875f, 0.1f, 0.0625f, 180, 360), Line(0.125f, 0.06f, 0.125f, 0.1f),
+    Arc(0.3125f, 0.1f, 0.0625f, 180, 360), Line(0.25f, 0.06f, 0.25f, 0.1f),
+    Arc(0.4375f, 0.1f, 0.0625f, 180, 360), Line(0.375f, 0.06f, 0.375f, 0.1f),
     Line(0.5f, 0, 0.5f, 0.1f),
     Arc(0.8125f, 0.1f, 0.0625f, 180, 360), Line(0.75f, 0, 0.75f, 0.1f),
-    Arc(0.9375f, 0.1f, 0.0625f, 180, 360), Line(0.875f, 0.0375f, 0.875f, 0.1f),
-    Arc(1.0625f, 0.1f, 0.0625f, 180, 360), Line(1, 0.0375f, 1, 0.1f),
-    Arc(1.1875f, 0.1f, 0.0625f, 180, 360), Line(1.125f, 0.0375f, 1.125f, 0.1f),
+    Arc(0.9375f, 0.1f, 0.0625f, 180, 360), Line(0.875f, 0.06f, 0.875f, 0.1f),
+    Arc(1.0625f, 0.1f, 0.0625f, 180, 360), Line(1, 0.06f, 1, 0.1f),
+    Arc(1.1875f, 0.1f, 0.0625f, 180, 360), Line(1.125f, 0.06f, 1.125f, 0.1f),
     Line(1.25f, 0, 1.25f, 0.1f),
     Line(0, 0.225f, 1.25f, 0.225f), Line(0, 0.275f, 1.25f, 0.275f),
     Arc(0.3125f, 0.4f, 0.0625f, 0, 180), Line(0.25f, 0.4f, 0.25f, 0.5f),
-    Arc(0.4375f, 0.4f, 0.0625f, 0, 180), Line(0.375f, 0.4f, 0.375f, 0.4625f),
-    Arc(0.5625f, 0.4f, 0.0625f, 0, 180), Line(0.5f, 0.4f, 0.5f, 0.4625f),
-    Arc(0.6875f, 0.4f, 0.0625f, 0, 180), Line(0.625f, 0.4f, 0.625f, 0.4625f),
-    Arc(0.8125f, 0.4f, 0.0625f, 0, 180), Line(0.75f, 0.4f, 0.75f, 0.4625f),
-    Arc(0.9375f, 0.4f, 0.0625f, 0, 180), Line(0.875f, 0.4f, 0.875f, 0.4625f),
+    Arc(0.4375f, 0.4f, 0.0625f, 0, 180), Line(0.375f, 0.4f, 0.375f, 0.44f),
+    Arc(0.5625f, 0.4f, 0.0625f, 0, 180), Line(0.5f, 0.4f, 0.5f, 0.44f),
+    Arc(0.6875f, 0.4f, 0.0625f, 0, 180), Line(0.625f, 0.4f, 0.625f, 0.44f),
+    Arc(0.8125f, 0.4f, 0.0625f, 0, 180), Line(0.75f, 0.4f, 0.75f, 0.44f),
+    Arc(0.9375f, 0.4f, 0.0625f, 0, 180), Line(0.875f, 0.4f, 0.875f, 0.44f),
     Line(1, 0.4f, 1, 0.5f),
 };
 
