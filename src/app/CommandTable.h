@@ -1,0 +1,33 @@
+// Every menu command, once: name, caption, shortcut and handler. The menus and the shortcuts are
+// made from this table, in its order.
+#pragma once
+
+#include <span>
+#include <string_view>
+
+#include "app/Program.h"
+#include "canvas/MenuEntries.h"
+
+namespace ladrix {
+
+struct Command {
+    Menu entry;
+    Menu menu;              // the menu it stands in; itself for a menu of the bar
+    std::string_view name;  // "mnuFileNew"
+    std::string_view caption;
+    std::string_view shortcut = {};  // "Ctrl+N"; ESC, page and colour keys belong to the form
+    void (*handler)(Program& program) = nullptr;  // nullptr: no action, shown disabled
+    bool separatorBefore = false;
+    bool checkable = false;
+};
+
+std::span<const Command> commandTable();
+const Command& command(Menu entry);
+
+// Shown enabled: it has a handler (or entries below it) and its state says so.
+bool isEnabled(const Program& program, const Command& command);
+
+// Runs the entry's handler if it is enabled.
+void runCommand(Program& program, Menu entry);
+
+}  // namespace ladrix

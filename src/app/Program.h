@@ -1,0 +1,50 @@
+// The whole program as one value: the editor, the forms and the folders. A test builds a fresh one
+// in a line; the main program builds one and shows its window.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "browser/FileBrowser.h"
+#include "canvas/Editor.h"
+#include "platform/Platform.h"
+
+namespace ladrix {
+
+constexpr std::string_view ProgramName = "Ladrix";
+constexpr std::string_view ProgramVersion = "0.1.0";
+
+// Folders end in the separator.
+struct Paths {
+    std::string AppFilePath, MyDocumentsPath, VirtualMyDocuments, BasePath;
+    std::string DrawingsPath, BitmapsPath, DataFilesPath;
+    std::string UserSymbolsFolder, UserButtonsFolder;  // relative names
+    std::string UserLibraryName, UserLibraryFile, UserLibraryFolder, UserLibraryParentFolder;
+    std::string SimulationFolder;
+    bool FirstRun = false;
+};
+
+// frmLog, the viewer of the error log.
+struct LogViewer {
+    bool Visible = false;
+    std::string Caption, txtLog;
+    Single Width = 800, Height = 640;  // pixels
+};
+
+struct Program {
+    explicit Program(Platform& machine);
+    Program(const Program&) = delete;
+    Program& operator=(const Program&) = delete;
+
+    Platform& platform;
+    Paths paths;
+    Editor editor;
+    FileBrowser frmFile;
+    LogViewer frmLog;
+    std::vector<std::string> UserPrefs;
+    std::string LastErrorText;  // description of the last report
+    std::string TraceText;      // the stage of the start, for reports
+    bool Ending = false;        // the run is over; the view closes its windows
+};
+
+}  // namespace ladrix
