@@ -435,7 +435,7 @@ TEST(NEMASymbols, NoStrokeIsDoubledAndNoTwoSymbolsLookAlike) {
             std::set<std::vector<Single>> strokes;
             std::multiset<std::vector<Single>> look;
             for (const Primitive& p : expanded(block)) {
-                auto stroke = figures(p, 1, 1);
+                auto stroke = figures(p, 3, 3);  // tells the unscaled ones apart
                 for (Single& figure : stroke)
                     figure = std::round(figure * 1e4f);
                 auto backwards = stroke;
