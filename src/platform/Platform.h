@@ -70,6 +70,9 @@ class Shell {
     virtual bool onlyInstance() = 0;
     // Hands a document or an address to the platform's default application.
     virtual bool open(const std::string& target) = 0;
+    // Puts a starter of the program on the user's desktop. Throws a Failure.
+    virtual void createShortcut() = 0;
+    // Ends the run: every open form is closed.
     virtual void endProgram() = 0;
 };
 

@@ -73,6 +73,7 @@ class FakeShell final : public Shell {
     bool opens = true;
 
     std::vector<std::string> opened;  // failed ones too
+    int shortcuts = 0;
     bool ended = false;
 
     std::string programFolder() override { return program; }
@@ -80,6 +81,7 @@ class FakeShell final : public Shell {
     std::string computerName() override { return computer; }
     bool onlyInstance() override { return isOnlyInstance; }
     bool open(const std::string& target) override;
+    void createShortcut() override { ++shortcuts; }
     void endProgram() override { ended = true; }
 };
 

@@ -1,0 +1,156 @@
+#include "app/CommandTable.h"
+
+#include <array>
+
+#include "app/CommandHandlers.h"
+#include "app/FailureLog.h"
+#include "canvas/Colors.h"
+#include "canvas/DrawingCommands.h"
+#include "canvas/PaletteButtons.h"
+#include "canvas/Redraw.h"
+#include "canvas/Tools.h"
+
+namespace ladrix {
+
+namespace {
+
+template <void (*Handler)(Editor&)>
+void onEditor(Program& program) {
+    Handler(program.editor);
+}
+
+// clang-format off
+constexpr Command Commands[] = {
+    {Menu::mnuFile, Menu::mnuFile, "mnuFile", "&File", "", nullptr, false, false},
+    {Menu::mnuFileNew, Menu::mnuFile, "mnuFileNew", "New Drawing", "Ctrl+N", onEditor<mnuFileNew_Click>, false, false},
+    {Menu::mnuFileOpen, Menu::mnuFile, "mnuFileOpen", "Open Existing Drawing", "Ctrl+O", onEditor<mnuFileOpen_Click>, false, false},
+    {Menu::mnuFileOpenViewer, Menu::mnuFile, "mnuFileOpenViewer", "Open File Viewer", "", nullptr, false, false},
+    {Menu::mnuFileSave, Menu::mnuFile, "mnuFileSave", "Save Current Drawing", "Ctrl+S", onEditor<mnuFileSave_Click>, true, false},
+    {Menu::mnuFileSaveAs, Menu::mnuFile, "mnuFileSaveAs", "Save &As", "Ctrl+Shift+S", onEditor<mnuFileSaveAs_Click>, false, false},
+    {Menu::mnuFileSaveBitmap, Menu::mnuFile, "mnuFileSaveBitmap", "Save Image as Bitmap", "", nullptr, true, false},
+    {Menu::mnuFileDrawCircuit1, Menu::mnuFile, "mnuFileDrawCircuit1", "Draw Circuit 1", "", nullptr, false, false},
+    {Menu::mnuFilePrintCircuit1, Menu::mnuFile, "mnuFilePrintCircuit1", "Print Circuit", "", nullptr, false, false},
+    {Menu::mnuFileRestore, Menu::mnuFile, "mnuFileRestore", "&Restore File from Crash", "", onEditor<mnuFileRestore_Click>, true, false},
+    {Menu::mnuFileTemplates, Menu::mnuFile, "mnuFileTemplates", "View Available Templates (Requires Internet Connection)", "", nullptr, false, false},
+    {Menu::mnuExit, Menu::mnuFile, "mnuExit", "E&xit", "", exitProgram, true, false},
+    {Menu::mnuLayout, Menu::mnuLayout, "mnuLayout", "&Layout", "", nullptr, false, false},
+    {Menu::mnuLayoutNormal, Menu::mnuLayout, "mnuLayoutNormal", "8.5 x 11 Portrait", "", choosePage<0>, false, false},
+    {Menu::mnuLayoutLandscape, Menu::mnuLayout, "mnuLayoutLandscape", "8.5 x 11 Landscape", "", choosePage<1>, false, false},
+    {Menu::mnuLargePortrait, Menu::mnuLayout, "mnuLargePortrait", "11 x 17 Portrait", "", choosePage<2>, false, false},
+    {Menu::mnuLayoutLargeLandscape, Menu::mnuLayout, "mnuLayoutLargeLandscape", "11 x 17 Landscape", "", choosePage<3>, false, false},
+    {Menu::mnuLayoutMore, Menu::mnuLayout, "mnuLayoutMore", "More &Choices", "", nullptr, true, false},
+    {Menu::mnuLibraries, Menu::mnuLibraries, "mnuLibraries", "Li&braries", "", nullptr, false, false},
+    {Menu::mnuLibManage, Menu::mnuLibraries, "mnuLibManage", "User Symbol Management", "", nullptr, false, false},
+    {Menu::mnuLibManageUserLibraries, Menu::mnuLibManage, "mnuLibManageUserLibraries", "Open User Library Manager", "", nullptr, false, false},
+    {Menu::mnuLibManageRename, Menu::mnuLibManage, "mnuLibManageRename", "&Rename Selected User Button", "", nullptr, false, false},
+    {Menu::mnuLibManageDelete, Menu::mnuLibManage, "mnuLibManageDelete", "&Delete Selected User Button", "", nullptr, false, false},
+    {Menu::mnuLibManageRows, Menu::mnuLibManage, "mnuLibManageRows", "Change Number of Displayed Rows", "", nullptr, false, false},
+    {Menu::mnuLibElectrical, Menu::mnuLibraries, "mnuLibElectrical", "NEMA Electrical", "", onEditor<mnuLibElectrical_Click>, true, true},
+    {Menu::mnuLibElectronic, Menu::mnuLibraries, "mnuLibElectronic", "Electronic", "", onEditor<mnuLibElectronic_Click>, false, true},
+    {Menu::mnuLibIEC, Menu::mnuLibraries, "mnuLibIEC", "IEC", "", onEditor<mnuLibIEC_Click>, false, true},
+    {Menu::mnuLibHyd, Menu::mnuLibraries, "mnuLibHyd", "Hydraulic/Pneumatic", "", onEditor<mnuLibHyd_Click>, false, true},
+    {Menu::mnuLibOpen, Menu::mnuLibraries, "mnuLibOpen", "Open User &Library", "", nullptr, true, false},
+    {Menu::mnuLibNewLibrary, Menu::mnuLibraries, "mnuLibNewLibrary", "Create New User Librar&y", "", nullptr, false, false},
+    {Menu::mnuLibraryNext, Menu::mnuLibraries, "mnuLibraryNext", "Index to Ne&xt User Library", "", nullptr, false, false},
+    {Menu::mnuLibraryPrevious, Menu::mnuLibraries, "mnuLibraryPrevious", "Index to &Previous User Library", "", nullptr, false, false},
+    {Menu::mnuInsert, Menu::mnuInsert, "mnuInsert", "Insert", "", nullptr, false, false},
+    {Menu::mnuInsertPicture, Menu::mnuInsert, "mnuInsertPicture", "&Picture File", "", nullptr, false, false},
+    {Menu::mnuEdit, Menu::mnuEdit, "mnuEdit", "&Edit", "", nullptr, false, false},
+    {Menu::mnuEditFileDescription, Menu::mnuEdit, "mnuEditFileDescription", "&Edit/Add File Description", "", onEditor<mnuEditFileDescription_Click>, false, false},
+    {Menu::mnuEditText, Menu::mnuEdit, "mnuEditText", "Text Attributes", "", nullptr, true, false},
+    {Menu::mnuEditTextCaption, Menu::mnuEditText, "mnuEditTextCaption", "&Caption Only", "", nullptr, false, false},
+    {Menu::mnuEditTextProps, Menu::mnuEditText, "mnuEditTextProps", "Text &Properties", "", nullptr, false, false},
+    {Menu::mnuEditTextAlignLeft, Menu::mnuEditText, "mnuEditTextAlignLeft", "Align Selected Labels Left", "", nullptr, false, false},
+    {Menu::mnuEditTextAlignRight, Menu::mnuEditText, "mnuEditTextAlignRight", "Align Selected Labels Right", "", nullptr, false, false},
+    {Menu::mnuEditTextAlignTop, Menu::mnuEditText, "mnuEditTextAlignTop", "Align Selected Lables Top", "", nullptr, false, false},
+    {Menu::mnuEditDrawing, Menu::mnuEdit, "mnuEditDrawing", "Drawing Attributes", "", nullptr, true, false},
+    {Menu::mnuOptionReset, Menu::mnuEditDrawing, "mnuOptionReset", "Reset Drawing (ESC Key)", "", onEditor<mnuOptionReset_Click>, false, false},
+    {Menu::mnuEditSelectAll, Menu::mnuEditDrawing, "mnuEditSelectAll", "Select All", "", nullptr, true, false},
+    {Menu::mnuEditCopy, Menu::mnuEditDrawing, "mnuEditCopy", "Copy Selected Devices", "", nullptr, false, false},
+    {Menu::mnuEditMove, Menu::mnuEditDrawing, "mnuEditMove", "Move Selected Devices", "", nullptr, false, false},
+    {Menu::mnuEditDelete, Menu::mnuEditDrawing, "mnuEditDelete", "Delete Selected Devices", "", nullptr, false, false},
+    {Menu::mnuEditPaste, Menu::mnuEditDrawing, "mnuEditPaste", "Paste Devices from Memory", "", nullptr, true, false},
+    {Menu::mnuEditRepeat, Menu::mnuEditDrawing, "mnuEditRepeat", "Repea&t Previous Device", "Ctrl+D", onEditor<mnuEditRepeat_Click>, false, false},
+    {Menu::mnuEditUndo, Menu::mnuEditDrawing, "mnuEditUndo", "Undo Last Action", "", nullptr, true, false},
+    {Menu::mnuEditRedo, Menu::mnuEditDrawing, "mnuEditRedo", "&Redo Last Action", "", nullptr, false, false},
+    {Menu::mnuEditSaveUserSymbol, Menu::mnuEditDrawing, "mnuEditSaveUserSymbol", "&Save Selected as New User Symbol", "", nullptr, true, false},
+    {Menu::mnuEditZoomIn, Menu::mnuEditDrawing, "mnuEditZoomIn", "Zoom In (CTRL +)", "", nullptr, true, false},
+    {Menu::mnuEditZoomOut, Menu::mnuEditDrawing, "mnuEditZoomOut", "Zoom Out (CTRL -)", "", nullptr, false, false},
+    {Menu::mnuEditStretch, Menu::mnuEditDrawing, "mnuEditStretch", "Enable Drawing &Window Stretch", "", nullptr, false, true},
+    {Menu::mnuUOptions, Menu::mnuUOptions, "mnuUOptions", "&Options", "", nullptr, false, false},
+    {Menu::mnuToolsParseDeviceString, Menu::mnuUOptions, "mnuToolsParseDeviceString", "Parse Device String", "", parseDevices, false, false},
+    {Menu::mnuOptionSnap, Menu::mnuUOptions, "mnuOptionSnap", "Edit Snap", "", nullptr, true, false},
+    {Menu::mnuOptionGrid, Menu::mnuUOptions, "mnuOptionGrid", "Show Grid", "", nullptr, false, true},
+    {Menu::mnuOptionHalfScale, Menu::mnuUOptions, "mnuOptionHalfScale", "Half Scale", "", nullptr, false, true},
+    {Menu::mnuOptionSmallerFont, Menu::mnuUOptions, "mnuOptionSmallerFont", "Apply Small Font", "", nullptr, true, false},
+    {Menu::mnuOptionLabelColor, Menu::mnuUOptions, "mnuOptionLabelColor", "Enable Color Change for Labels", "", nullptr, false, true},
+    {Menu::mnuOptionAttachLabels, Menu::mnuUOptions, "mnuOptionAttachLabels", "Attach Labels for Popular Devices", "", flipAttachLabels, false, true},
+    {Menu::mnuOptAutoIncrement, Menu::mnuUOptions, "mnuOptAutoIncrement", "Auto-Increment Label Caption", "", nullptr, false, true},
+    {Menu::mnuOptionAddSpace, Menu::mnuUOptions, "mnuOptionAddSpace", "Separate Symbol Name from Number", "", nullptr, false, true},
+    {Menu::mnuOptChangeSelectionColor, Menu::mnuUOptions, "mnuOptChangeSelectionColor", "Change Selection Color", "", nullptr, true, false},
+    {Menu::mnuOptionPrintThin, Menu::mnuUOptions, "mnuOptionPrintThin", "Enable Thin Printing", "", nullptr, false, true},
+    {Menu::mnuOptionThickDevices, Menu::mnuUOptions, "mnuOptionThickDevices", "Enable Thick Symbols", "", onEditor<mnuOptionThickDevices_Click>, false, true},
+    {Menu::mnuOptBlackBackground, Menu::mnuUOptions, "mnuOptBlackBackground", "Enable Black Background", "", onEditor<mnuOptBlackBackground_Click>, false, true},
+    {Menu::mnuOptDashedLineConstant, Menu::mnuUOptions, "mnuOptDashedLineConstant", "Change Dashed Line Spacing", "", nullptr, true, false},
+    {Menu::mnuOptMatchGridToSnap, Menu::mnuUOptions, "mnuOptMatchGridToSnap", "&Match Grid to Snap", "", nullptr, false, true},
+    {Menu::mnuOptPrinter, Menu::mnuUOptions, "mnuOptPrinter", "&Printer Options", "", nullptr, true, false},
+    {Menu::mnuMode, Menu::mnuMode, "mnuMode", "&User Mode", "", nullptr, false, false},
+    {Menu::mnuModeNormal, Menu::mnuMode, "mnuModeNormal", "&Normal (Drawing)", "", chooseNormalMode, false, true},
+    {Menu::mnuModeDesign, Menu::mnuMode, "mnuModeDesign", "&Design Symbol", "", nullptr, false, true},
+    {Menu::mnuModeSimulation, Menu::mnuMode, "mnuModeSimulation", "Circuit &Simulation", "", nullptr, false, false},
+    {Menu::mnuSimCircuit0, Menu::mnuModeSimulation, "mnuSimCircuit0", "Circuit Seal vs. No Seal", "", nullptr, false, true},
+    {Menu::mnuSimCircuit1, Menu::mnuModeSimulation, "mnuSimCircuit1", "On Delay Timer", "", nullptr, false, true},
+    {Menu::mnuSimCircuit2, Menu::mnuModeSimulation, "mnuSimCircuit2", "Off Delay Timer", "", nullptr, false, true},
+    {Menu::mnuModeIllustration, Menu::mnuMode, "mnuModeIllustration", "Illustration Mode", "", nullptr, true, true},
+    {Menu::mnuAdmin, Menu::mnuAdmin, "mnuAdmin", "&Admin", "", nullptr, false, false},
+    {Menu::mnuAdminCreateShortcut, Menu::mnuAdmin, "mnuAdminCreateShortcut", "Create &Shortcut on the Desktop", "", createShortcut, false, false},
+    {Menu::mnuAdminCreateSymbolExportFile, Menu::mnuAdmin, "mnuAdminCreateSymbolExportFile", "Create Symbol Export File", "", nullptr, false, false},
+    {Menu::mnuAdminViewErrorLog, Menu::mnuAdmin, "mnuAdminViewErrorLog", "View Error Log File", "", mnuAdminViewErrorLog_Click, false, false},
+    {Menu::mnuHelp, Menu::mnuHelp, "mnuHelp", "&Help", "", nullptr, false, false},
+    {Menu::mnuHelpContents, Menu::mnuHelp, "mnuHelpContents", "Contents", "", nullptr, false, false},
+    {Menu::mnuHelpOnlineTutorial, Menu::mnuHelp, "mnuHelpOnlineTutorial", "View Online Tutorials (Internet Connection Required)", "", viewTutorials, false, false},
+    {Menu::mnuHelpVersion, Menu::mnuHelp, "mnuHelpVersion", "Display Software Version", "", showVersion, true, false},
+    {Menu::mnuHelpDemo1, Menu::mnuHelp, "mnuHelpDemo1", "Open Demonstrational Drawing 1", "", openDemo<1>, true, false},
+    {Menu::mnuHelpDemo2, Menu::mnuHelp, "mnuHelpDemo2", "Open Demonstrational Drawing 2", "", openDemo<2>, false, false},
+    {Menu::mnuHelpMoreLibraries, Menu::mnuHelp, "mnuHelpMoreLibraries", "Search for Additional Symbol Libraries Online", "", viewLibraries, true, false},
+    {Menu::mnuHelpSupport, Menu::mnuHelp, "mnuHelpSupport", "Software Updates", "", visitSupport, false, false},
+    {Menu::mnuHelpSendMe, Menu::mnuHelp, "mnuHelpSendMe", "Email a Comment", "", sendComment, false, false},
+    {Menu::mnuHelpAdmin, Menu::mnuHelp, "mnuHelpAdmin", "Administrator Login", "", logIn, true, false},
+};
+// clang-format on
+
+bool hasEntriesBelow(Menu entry) {
+    for (const Command& row : Commands)
+        if (row.menu == entry && row.entry != entry) return true;
+    return false;
+}
+
+std::array<const Command*, static_cast<std::size_t>(Menu::Count)> indexByEntry() {
+    std::array<const Command*, static_cast<std::size_t>(Menu::Count)> index{};
+    for (const Command& row : Commands)
+        index[static_cast<std::size_t>(row.entry)] = &row;
+    return index;
+}
+
+}  // namespace
+
+std::span<const Command> commandTable() {
+    return Commands;
+}
+
+const Command& command(Menu entry) {
+    static const auto index = indexByEntry();
+    return *index.at(static_cast<std::size_t>(entry));
+}
+
+bool isEnabled(const Program& program, const Command& row) {
+    if (row.handler == nullptr && !hasEntriesBelow(row.entry)) return false;
+    return program.editor.form.menu[row.entry].Enabled;
+}
+
+void runCommand(Program& program, Menu entry) {
+    const Command& row = command(entry);
+    if (row.handler != nullptr && isEnabled(program, row)) row.handler(program);
+}
+
+}  // namespace ladrix

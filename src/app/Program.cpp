@@ -1,0 +1,17 @@
+#include "app/Program.h"
+
+#include "app/FailureLog.h"
+#include "canvas/Labels.h"
+
+namespace ladrix {
+
+Program::Program(Platform& machine) : platform(machine), editor(machine) {
+    platform.ReportError = [this](std::string_view description, const Failure& failure) {
+        ReportError(*this, description, failure);
+    };
+    editor.symbols.BeginLabel = [this](std::string_view prefix, Single x, Single y) {
+        BeginLabel(editor, prefix, x, y);
+    };
+}
+
+}  // namespace ladrix
