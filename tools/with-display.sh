@@ -74,7 +74,7 @@ exec {number}>&-
 
 mkdir -m 700 "$work/run"
 export DISPLAY=:$display QT_QPA_PLATFORM=xcb XDG_RUNTIME_DIR=$work/run NO_AT_BRIDGE=1
-export DBUS_SESSION_BUS_ADDRESS=disabled:  # there is no session here to talk to
+export DBUS_SESSION_BUS_ADDRESS=disabled:  # no desktop stands behind this display
 unset WAYLAND_DISPLAY XAUTHORITY SESSION_MANAGER
 [[ -n ${LC_ALL:-}${LC_CTYPE:-}${LANG:-} ]] || export LANG=C.UTF-8
 if [[ -n $hermetic ]]; then
