@@ -413,7 +413,7 @@ void DiskFiles::makeFolder(const std::string& path) {
 
 bool DiskFiles::writable(const std::string& folder) {
     const std::string native = nativePath(folder);
-    return isFolder(native) && access(native.c_str(), W_OK | X_OK) == 0;
+    return isFolder(native) && faccessat(AT_FDCWD, native.c_str(), W_OK | X_OK, AT_EACCESS) == 0;
 }
 
 }  // namespace ladrix

@@ -12,13 +12,13 @@ namespace ladrix {
 namespace {
 
 constexpr int Digits = 7;
-constexpr double SevenDigits = 1e7;     // the first whole number with more
-constexpr double SmallestExact = 1e-6;  // see sevenDigits
-constexpr double SmallestPlain = 1e-7;  // below it, and
-constexpr double ExponentFrom = 1e15;   // from here on, text has an exponent
+constexpr double SevenDigits = 1e7;            // the first whole number with more
+constexpr double SmallestExact = 1e-6;         // see sevenDigits
+constexpr double SmallestPlain = 1e-7;         // text has an exponent below it
+constexpr double ExponentFrom = 1.0000005e15;  // from here on; what is less rounds to 1e15
 
-constexpr std::array<double, 16> PowersOfTen = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
-                                                1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+constexpr std::array<double, 17> PowersOfTen = {1e0, 1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7, 1e8,
+                                                1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15, 1e16};
 
 // magnitude = digits / 10^decimals; `decimals` is negative for a large number.
 struct Decimal {
@@ -188,7 +188,32 @@ Parsed<Real> parseUnusual(std::string_view text) {
     return {0, failure::Overflow};
 }
 
-// Nearly every number is plain digits with a full stop; all else takes the long way.
+// A number as appendSingle writes it: at most seven digits and a mark. They and a small power of
+// ten are exact in a Single, so that one division rounds it rightly.
+std::optional<Single> plainSingle(std::string_view text) {
+    const bool negative = !text.empty() && text.front() == '-';
+    if (negative) text.remove_prefix(1);
+    if (text.empty() || text.size() > Digits + 1) return std::nullopt;
+    std::int32_t digits = 0;
+    size_t mark = text.size();
+    for (size_t i = 0; i < text.size(); ++i) {
+        if (isDigit(text[i])) {
+            digits = digits * 10 + (text[i] - '0');
+        } else if ((text[i] == '.' || text[i] == ',') && mark == text.size()) {
+            mark = i;
+        } else {
+            return std::nullopt;
+        }
+    }
+    const bool hasMark = mark < text.size();
+    const size_t count = text.size() - (hasMark ? 1 : 0);
+    if (count == 0 || count > Digits) return std::nullopt;
+    auto value = static_cast<Single>(digits);
+    if (hasMark) value /= static_cast<Single>(PowersOfTen[text.size() - mark - 1]);
+    return negative ? -value : value;
+}
+
+// Of a whole text. What the fast conversion refuses is looked at again in its parts.
 template <class Real>
 Parsed<Real> parse(std::string_view text) {
     text = withoutBlanks(text);
@@ -263,6 +288,7 @@ std::string longText(Long value) {
 }
 
 Single toSingle(std::string_view text) {
+    if (const std::optional<Single> plain = plainSingle(text)) return *plain;
     const Parsed<Single> number = parse<Single>(text);
     if (number.failure) refuse(number.failure);
     return number.value;
