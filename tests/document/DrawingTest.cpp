@@ -1,0 +1,303 @@
+#include "document/Drawing.h"
+
+#include <gtest/gtest.h>
+
+#include "RecordText.h"
+#include "support/FakePlatform.h"
+
+namespace ladrix {
+namespace {
+
+using test::readable;
+
+class DrawingTest : public testing::Test {
+  protected:
+    DrawingTest() {
+        drawing.TakeUndoSnapshot = [this] { ++snapshots; };
+        drawing.LabelsChanged = [this] { ++labelChanges; };
+    }
+
+    Device record(Device device) {
+        RecordDevice(drawing, machine.platform, device);
+        return device;
+    }
+    void label(Label text) { RecordLabel(drawing, machine.platform, std::move(text)); }
+
+    test::FakePlatform machine;
+    Drawing drawing;
+    int snapshots = 0, labelChanges = 0;
+};
+
+// All fields set, so that one kept by mistake shows.
+Device everyField(std::string name) {
+    return {.name = std::move(name),
+            .x = 1.5f,
+            .y = 2.25f,
+            .x2 = 3,
+            .y2 = 4,
+            .radius = 0.5f,
+            .direction = 3,
+            .color = 255,
+            .widthTag = "DrawWidth=2",
+            .aspect = 0.75f,
+            .startAngle = 1,
+            .endAngle = 2,
+            .scaleX = 1.25f,
+            .scaleY = -1,
+            .orientation = 2,
+            .flip = true};
+}
+
+TEST_F(DrawingTest, TheNameChoosesWhatIsRecorded) {
+    for (const char* name : {"InsertSavedSquare", "InsertSolidCircle", "InsertArc",
+                             "InsertSemiCircle", "InsertCoil", "insertarc"}) {
+        record(everyField(name));
+    }
+
+    EXPECT_EQ(readable(drawing.DeviceString),
+              "InsertSavedSquare|1.5|2.25|3|4|255|DrawWidth=2\n"
+              "InsertSolidCircle|1.5|2.25|0.5|255|DrawWidth=2|0.75\n"
+              "InsertArc|1.5|2.25|0.5|3|255|DrawWidth=2|1|2|0.75\n"
+              "InsertSemiCircle|1.5|2.25|0.5|3|255|DrawWidth=2\n"
+              "InsertCoil|1.5|2.25|255|DrawWidth=2|1.25|-1|2|True\n"
+              "insertarc|1.5|2.25|255|DrawWidth=2|1.25|-1|2|True\n");
+    EXPECT_EQ(readable(drawing.DeviceRecord(3)), "InsertSemiCircle|1.5|2.25|0.5|3|255|DrawWidth=2");
+    const Device square = drawing.devices.row(0);
+    EXPECT_EQ(square.radius, 0);
+    EXPECT_EQ(square.scaleX, 0);
+    EXPECT_EQ(square.orientation, 0);
+    EXPECT_FALSE(square.flip);
+    EXPECT_EQ(drawing.devices.row(4).x2, 0);
+    EXPECT_EQ(drawing.devices.row(4).aspect, 0);
+}
+
+TEST_F(DrawingTest, CorrectedFieldsReachTheCallerTheTableAndTheRecord) {
+    EXPECT_EQ(record({.name = "InsertSavedLine", .x2 = 1}).widthTag, "0");
+    EXPECT_EQ(record({.name = "InsertCircle", .x = 2, .y = 2, .radius = 0.25f}).aspect, 1);
+    EXPECT_EQ(record({.name = "InsertArc", .x = 2, .y = 2}).aspect, 1);
+
+    EXPECT_EQ(drawing.devices.DeviceWidthTag[0], "0");
+    EXPECT_EQ(drawing.devices.DeviceAspect[1], 1);
+    EXPECT_EQ(readable(drawing.DeviceString),
+              "InsertSavedLine|0|0|1|0|0|0\n"
+              "InsertCircle|2|2|0.25|0||1\n"
+              "InsertArc|2|2|0|0|0||0|0|1\n");
+}
+
+TEST_F(DrawingTest, ZeroXIsToldForAllButFreeLinesAndSquares) {
+    record({.name = "InsertSavedLine"});
+    record({.name = "InsertSavedSquare"});
+    EXPECT_TRUE(machine.dialogs.boxes.empty());
+
+    record({.name = "InsertCoil", .y = 1});
+
+    ASSERT_EQ(machine.dialogs.boxes.size(), 1u);
+    EXPECT_EQ(machine.dialogs.boxes[0].text, "Bad Device X position.");
+    EXPECT_EQ(machine.dialogs.boxes[0].buttons, Buttons::Ok);
+    EXPECT_EQ(drawing.devices.DeviceCount, 3);
+}
+
+TEST_F(DrawingTest, ASlotThatHoldsTheNameAlreadyIsLeftAlone) {
+    drawing.NewAfterSave = true;
+    drawing.devices.DeviceName.push_back("InsertCoil");
+
+    record({.name = "InsertCoil", .x = 1});
+    EXPECT_EQ(drawing.devices.DeviceCount, 0);
+    EXPECT_EQ(drawing.DeviceString, "");
+    EXPECT_FALSE(drawing.DrawingChanged);
+    EXPECT_FALSE(drawing.NewAfterSave);
+
+    record({.name = "InsertRelay", .x = 1});
+    record({.name = "InsertRelay", .x = 2});
+    EXPECT_EQ(drawing.devices.DeviceCount, 2) << "the same symbol twice is two devices";
+    EXPECT_TRUE(drawing.DrawingChanged);
+    EXPECT_TRUE(drawing.DeviceRecorded);
+}
+
+TEST_F(DrawingTest, SnapshotsWaitForALabelAndForAScript) {
+    record({.name = "InsertCoil", .x = 1});
+    EXPECT_EQ(snapshots, 1);
+
+    drawing.LabelPending = true;
+    record({.name = "InsertCoil", .x = 1});
+    EXPECT_EQ(snapshots, 1);
+    record({.name = "InsertSavedLine"});
+    EXPECT_EQ(snapshots, 2) << "a line has no label to wait for";
+
+    drawing.LabelPending = false;
+    drawing.NoSnapshot = true;
+    record({.name = "InsertCoil", .x = 1});
+    record({.name = "InsertSavedLine"});
+    EXPECT_EQ(snapshots, 2);
+}
+
+TEST_F(DrawingTest, ADashedLineIsOneSnapshot) {
+    drawing.DashedLine = true;
+    drawing.DashesCounted = 5;
+    for (int dash = 0; dash < 5; ++dash) {
+        EXPECT_EQ(snapshots, 0) << "before dash " << dash;
+        record({.name = "InsertSavedLine", .x = 1});
+    }
+    EXPECT_EQ(snapshots, 1);
+    EXPECT_EQ(drawing.DashesRecorded, 0);
+
+    record({.name = "InsertSavedSquare"});
+    EXPECT_EQ(snapshots, 2) << "the style is of lines alone";
+    EXPECT_EQ(drawing.DashesRecorded, 0);
+}
+
+TEST_F(DrawingTest, CountersThatHaveDriftedApartTakeNoSnapshot) {
+    drawing.DashedLine = true;
+    drawing.DashesCounted = 1;
+    drawing.DashesRecorded = 4;
+    for (int dash = 0; dash < 3; ++dash) record({.name = "InsertSavedLine", .x = 1});
+    EXPECT_EQ(snapshots, 0);
+    EXPECT_EQ(drawing.DashesRecorded, 7);
+}
+
+TEST_F(DrawingTest, The32768thDeviceIsReportedAndChangesNothing) {
+    drawing.TakeUndoSnapshot = {};
+    for (int i = 0; i < LargestCount; ++i) record({.name = "InsertSavedLine", .x = 1});
+    ASSERT_EQ(drawing.devices.DeviceCount, LargestCount);
+    ASSERT_TRUE(machine.reports.empty());
+    const std::size_t size = drawing.DeviceString.size();
+
+    record({.name = "InsertSavedLine", .x = 1});
+
+    ASSERT_EQ(machine.reports.size(), 1u);
+    EXPECT_EQ(machine.reports[0].number, failure::Overflow);
+    EXPECT_NE(machine.reports[0].text.find("32767"), std::string::npos);
+    EXPECT_EQ(drawing.devices.DeviceCount, LargestCount);
+    EXPECT_EQ(drawing.devices.DeviceName.size(), static_cast<std::size_t>(LargestCount));
+    EXPECT_EQ(drawing.DeviceString.size(), size);
+}
+
+TEST_F(DrawingTest, ANumberThatCannotBeWrittenLeavesTableAndTextAsTheyWere) {
+    record({.name = "InsertCoil", .x = 1, .y = 1});
+    const std::string before = drawing.DeviceString;
+
+    record({.name = "InsertCoil", .x = 1, .y = std::numeric_limits<Single>::infinity()});
+
+    EXPECT_EQ(machine.reports.size(), 1u);
+    EXPECT_EQ(drawing.devices.DeviceCount, 1);
+    EXPECT_EQ(drawing.DeviceString, before);
+
+    drawing.devices.DeviceY[0] = std::numeric_limits<Single>::quiet_NaN();
+    RebuildDeviceString(drawing, machine.platform);
+    EXPECT_EQ(machine.reports.size(), 2u);
+    EXPECT_EQ(drawing.DeviceString, before);
+}
+
+TEST_F(DrawingTest, ARecordNeverJoinsALineThatWasCutOff) {
+    drawing.DeviceString = "InsertCo";
+    record({.name = "InsertCoil", .x = 1, .scaleX = 1, .scaleY = 1});
+    EXPECT_EQ(readable(drawing.DeviceString), "InsertCoil|1|0|0||1|1|0|False\n");
+    EXPECT_EQ(readable(drawing.DeviceRecord(0)), "InsertCoil|1|0|0||1|1|0|False");
+}
+
+TEST_F(DrawingTest, LabelsAreRecordedWithTheFixedColourWhenThatIsOn) {
+    drawing.NewAfterSave = true;
+    label({.text = "M1", .x = 1, .y = 2, .color = Red, .fontName = "Arial", .fontSize = 8});
+    drawing.FixedLabelColorOn = true;
+    drawing.FixedLabelColor = Blue;
+    label({.x = 1.25f, .y = 2, .color = Red, .fontName = "Arial", .fontSize = 9.5f, .bold = true});
+
+    EXPECT_EQ(readable(drawing.LabelString),
+              "M1|1|2|255|Arial|8|False|False\n"
+              "Type New Text|1.25|2|16711680|Arial|9.5|True|False\n");
+    EXPECT_EQ(drawing.labels.LabelColor[1], Blue);
+    EXPECT_EQ(drawing.CurrentLabel, 1);
+    EXPECT_EQ(readable(drawing.LabelRecord(0)), "M1|1|2|255|Arial|8|False|False");
+    EXPECT_TRUE(drawing.DrawingChanged);
+    EXPECT_FALSE(drawing.NewAfterSave);
+    EXPECT_EQ(labelChanges, 2);
+}
+
+TEST_F(DrawingTest, ALabelOfAPreviewIsPrintedAndNotRecorded) {
+    drawing.DrawingPreview = true;
+    drawing.FixedLabelColorOn = true;
+    drawing.FixedLabelColor = Red;
+    label({.text = "M1", .x = 1, .y = 2, .fontName = "Arial", .fontSize = 8, .italic = true});
+
+    EXPECT_EQ(drawing.labels.LabelCount, 0);
+    EXPECT_EQ(drawing.LabelString, "");
+    EXPECT_FALSE(drawing.DrawingChanged);
+    ASSERT_EQ(machine.picLX.persistent.size(), 1u);
+    const test::Primitive& printed = machine.picLX.persistent[0];
+    EXPECT_EQ(printed.text, "M1");
+    EXPECT_EQ(printed.color, Red);
+    EXPECT_EQ(printed.font, (FontSpec{"Arial", 8, false, true}));
+    EXPECT_EQ(printed.x1, 1);
+    EXPECT_EQ(printed.y1, 2);
+}
+
+TEST_F(DrawingTest, RebuiltTextsFollowTheColumns) {
+    record({.name = "InsertSavedLine", .x = 1});
+    record({.name = "InsertCircle", .x = 1, .radius = 1, .aspect = 0.5f});
+    label({.text = "M1", .fontName = "Arial", .fontSize = 8});
+    drawing.devices.DeviceWidthTag[0].clear();
+    drawing.devices.DeviceAspect[1] = 0;
+    drawing.devices.DeviceX[1] = 7.125f;
+    drawing.labels.LabelText[0] = "M2";
+    drawing.PictureTable = {{0.5f, 1, 2, 1.25f, "logo.bmp", "/elsewhere/logo.bmp", true}};
+    drawing.PictureCount = 1;
+    machine.platform.locale.decimalMark = ',';
+
+    RebuildDeviceString(drawing, machine.platform);
+    RebuildLabelString(drawing, machine.platform);
+    RebuildPictureString(drawing, machine.platform);
+
+    EXPECT_EQ(readable(drawing.DeviceString),
+              "InsertSavedLine|1|0|0|0|0|0\n"
+              "InsertCircle|7,125|0|1|0||1\n");
+    EXPECT_EQ(readable(drawing.DeviceRecord(1)), "InsertCircle|7,125|0|1|0||1");
+    EXPECT_EQ(readable(drawing.LabelString), "M2|0|0|0|Arial|8|False|False\n");
+    EXPECT_EQ(readable(drawing.PictureString), "logo.bmp|0,5|1|2|1,25\n");
+    EXPECT_EQ(drawing.devices.DeviceAspect[1], 0) << "a rebuild changes no column";
+}
+
+TEST_F(DrawingTest, ATextThatNeverBecameRowsOutlivesARebuildOfAnEmptyTable) {
+    drawing.DeviceString = drawing.LabelString = drawing.PictureString = "not understood\r\n";
+    RebuildDeviceString(drawing, machine.platform);
+    RebuildLabelString(drawing, machine.platform);
+    RebuildPictureString(drawing, machine.platform);
+    EXPECT_EQ(drawing.DeviceString, "not understood\r\n");
+    EXPECT_EQ(drawing.LabelString, "not understood\r\n");
+    EXPECT_EQ(drawing.PictureString, "not understood\r\n");
+}
+
+TEST_F(DrawingTest, DeletingTheLastItemEmptiesItsText) {
+    record({.name = "InsertCoil", .x = 1});
+    label({.text = "M1"});
+    drawing.PictureTable.resize(1);
+    drawing.PictureCount = 1;
+    RebuildPictureString(drawing, machine.platform);
+
+    drawing.devices.DeviceSelected[0] = drawing.labels.LabelSelected[0] = 1;
+    drawing.devices.eraseSelected();
+    drawing.labels.eraseSelected();
+    drawing.PictureTable.clear();
+    drawing.PictureCount = 0;
+    RebuildDeviceString(drawing, machine.platform);
+    RebuildLabelString(drawing, machine.platform);
+    RebuildPictureString(drawing, machine.platform);
+
+    EXPECT_EQ(drawing.DeviceString, "");
+    EXPECT_EQ(drawing.LabelString, "");
+    EXPECT_EQ(drawing.PictureString, "");
+}
+
+TEST_F(DrawingTest, ClearedTablesStartFromNothing) {
+    record({.name = "InsertCoil", .x = 1});
+    label({.text = "M1"});
+    ClearTables(drawing);
+    EXPECT_EQ(drawing.DeviceRecord(0), "");
+    EXPECT_EQ(drawing.CurrentLabel, -1);
+
+    record({.name = "InsertCoil", .x = 1});
+    EXPECT_EQ(drawing.devices.DeviceCount, 1);
+    EXPECT_EQ(readable(drawing.DeviceString), "InsertCoil|1|0|0||0|0|0|False\n");
+}
+
+}  // namespace
+}  // namespace ladrix
