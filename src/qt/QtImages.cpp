@@ -1,0 +1,49 @@
+#include "qt/QtImages.h"
+
+#include <QFileInfo>
+#include <QImageReader>
+
+#include "qt/QtText.h"
+
+namespace ladrix {
+
+namespace {
+
+constexpr int LargestImageMegabytes = 800;  // at 8 bytes a pixel
+
+void requireAtMostLargestImage(const QSize& size, const std::string& path) {
+    if (qint64{size.width()} * size.height() > LargestImage)
+        throw Failure{failure::InvalidProperty, path + ": larger than 100 million pixels"};
+}
+
+}  // namespace
+
+const QImage& QtPicture::shrunkTo(const QSize& pixels) const {
+    const QSize wanted = pixels.expandedTo(QSize(1, 1));
+    if (wanted.width() * 2 > image_.width() && wanted.height() * 2 > image_.height()) return image_;
+    const QSize size = wanted.boundedTo(image_.size());
+    if (shrunk_.size() != size)
+        shrunk_ = image_.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    return shrunk_;
+}
+
+std::shared_ptr<const Picture> QtImages::load(const std::string& path) {
+    const QString file = toQString(path);
+    const QFileInfo info(file);
+    if (!info.exists()) throw Failure{failure::FileNotFound, path + ": file not found"};
+    if (!info.isFile()) throw Failure{failure::PathFileAccess, path + ": not a regular file"};
+
+    QImageReader reader(file);
+    reader.setDecideFormatFromContent(true);
+    reader.setAutoTransform(true);
+    QImageReader::setAllocationLimit(LargestImageMegabytes);
+    // Some formats tell their size only once they are decoded.
+    requireAtMostLargestImage(reader.size(), path);
+    QImage image = reader.read();
+    if (image.isNull())
+        throw Failure{failure::InvalidProperty, path + ": " + fromQString(reader.errorString())};
+    requireAtMostLargestImage(image.size(), path);
+    return std::make_shared<QtPicture>(std::move(image));
+}
+
+}  // namespace ladrix
