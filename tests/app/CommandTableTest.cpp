@@ -1,0 +1,103 @@
+#include "app/CommandTable.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <set>
+
+#include "app/Startup.h"
+#include "support/FakePlatform.h"
+
+namespace ladrix {
+namespace {
+
+struct CommandTableTest : testing::Test {
+    test::FakePlatform fake;
+    Program program{fake.platform};
+
+    void SetUp() override { ASSERT_TRUE(startProgram(program)); }
+};
+
+TEST_F(CommandTableTest, EveryEntryStandsOnceUnderAMenuThatComesBeforeIt) {
+    std::set<Menu> seen;
+    for (const Command& row : commandTable()) {
+        EXPECT_TRUE(seen.insert(row.entry).second) << row.name;
+        EXPECT_TRUE(seen.contains(row.menu)) << row.name;
+        EXPECT_FALSE(row.caption.empty()) << row.name;
+    }
+    EXPECT_EQ(seen.size(), static_cast<std::size_t>(Menu::Count));
+}
+
+TEST_F(CommandTableTest, NoTwoShortcutsClashAndNoneTakesAKeyOfTheCanvas) {
+    // The form's own keys: colours, snap and zoom.
+    std::map<std::string_view, std::string_view> owners{{"Ctrl+B", "black"},
+                                                        {"Ctrl+Left", "finer snap"},
+                                                        {"Ctrl+Right", "coarser snap"},
+                                                        {"Ctrl+=", "zoom in"},
+                                                        {"Ctrl+-", "zoom out"},
+                                                        {"Ctrl+Alt+B", "black"},
+                                                        {"Ctrl+Alt+R", "red"},
+                                                        {"Ctrl+Alt+G", "green"},
+                                                        {"Ctrl+Alt+Y", "yellow"},
+                                                        {"Ctrl+Alt+C", "cyan"},
+                                                        {"Ctrl+Alt+M", "magenta"},
+                                                        {"Ctrl+Alt+U", "blue"},
+                                                        {"Ctrl+Alt+V", "violet"},
+                                                        {"Esc", "reset"},
+                                                        {"PgUp", "page up"},
+                                                        {"PgDown", "page down"}};
+    for (const Command& row : commandTable()) {
+        if (row.shortcut.empty()) continue;
+        const auto [owner, isNew] = owners.emplace(row.shortcut, row.name);
+        EXPECT_TRUE(isNew) << row.shortcut << " of " << row.name << " and " << owner->second;
+        EXPECT_NE(row.handler, nullptr) << row.name;
+    }
+}
+
+TEST_F(CommandTableTest, AnEntryWithoutActionIsDisabledAndRunsNothing) {
+    for (const Menu entry :
+         {Menu::mnuFileOpenViewer, Menu::mnuFileDrawCircuit1, Menu::mnuFileTemplates,
+          Menu::mnuOptionHalfScale, Menu::mnuModeIllustration})
+        EXPECT_FALSE(isEnabled(program, command(entry))) << command(entry).name;
+    EXPECT_TRUE(isEnabled(program, command(Menu::mnuFile)));
+    EXPECT_TRUE(isEnabled(program, command(Menu::mnuFileSave)));
+}
+
+TEST_F(CommandTableTest, PagesAreChosenFromTheMenu) {
+    runCommand(program, Menu::mnuLayoutLargeLandscape);
+    EXPECT_EQ(program.editor.drawing.PageLayoutKey, "11x17Landscape");
+    EXPECT_FLOAT_EQ(program.editor.PageWidth, 17);
+    EXPECT_FLOAT_EQ(program.editor.PageHeight, 11);
+}
+
+TEST_F(CommandTableTest, OnlyTheRightPasswordShowsTheAdminMenu) {
+    fake.dialogs.inputAnswers = {"Gravlock", std::nullopt, "gravlock"};
+    runCommand(program, Menu::mnuHelpAdmin);
+    runCommand(program, Menu::mnuHelpAdmin);
+    EXPECT_FALSE(program.editor.form.menu[Menu::mnuAdmin].Visible);
+    runCommand(program, Menu::mnuHelpAdmin);
+    EXPECT_TRUE(program.editor.form.menu[Menu::mnuAdmin].Visible);
+    EXPECT_EQ(fake.dialogs.inputBoxes[0].title, "Author Login");
+}
+
+TEST_F(CommandTableTest, WebPagesAreOpenedOnYesAlone) {
+    fake.dialogs.answers = {Answer::No, Answer::Yes};
+    runCommand(program, Menu::mnuHelpSupport);
+    EXPECT_TRUE(fake.shell.opened.empty());
+    runCommand(program, Menu::mnuHelpSupport);
+    ASSERT_EQ(fake.shell.opened.size(), 1u);
+    EXPECT_TRUE(fake.shell.opened[0].starts_with("https://"));
+}
+
+TEST_F(CommandTableTest, ExitAsksAboutChangesAndCancelKeepsTheProgram) {
+    program.editor.drawing.DrawingChanged = true;
+    fake.dialogs.answers = {Answer::Cancel, Answer::No};
+    runCommand(program, Menu::mnuExit);
+    EXPECT_FALSE(fake.shell.ended);
+    EXPECT_TRUE(program.editor.drawing.DrawingChanged);
+    runCommand(program, Menu::mnuExit);
+    EXPECT_TRUE(fake.shell.ended);
+}
+
+}  // namespace
+}  // namespace ladrix

@@ -1,0 +1,141 @@
+#include "app/Startup.h"
+
+#include <gtest/gtest.h>
+
+#include "canvas/DrawingCommands.h"
+#include "canvas/PaletteButtons.h"
+#include "support/FakePlatform.h"
+
+namespace ladrix {
+namespace {
+
+struct StartTest : testing::Test {
+    test::FakePlatform fake;
+    Program program{fake.platform};
+
+    const test::TemporaryFolder& disk() const { return fake.folder; }
+    std::string documents(std::string_view name) const {
+        return "documents/Ladrix/" + std::string(name);
+    }
+};
+
+TEST_F(StartTest, AFirstRunMakesTheTreeSeedsItAndOpensWithoutAnyBox) {
+    disk().write("program/Demo1.els", "one");
+    disk().write("program/Title.tpl", "two");
+    disk().write("program/readme.txt", "not a drawing");
+
+    ASSERT_TRUE(startProgram(program));
+
+    EXPECT_TRUE(fake.dialogs.boxes.empty());
+    EXPECT_TRUE(program.paths.FirstRun);
+    EXPECT_EQ(
+        disk().entries(documents("")),
+        (std::vector<std::string>{"Bitmaps/", "Data Files/", "Drawings/", "Error Messages.txt"}));
+    EXPECT_EQ(disk().entries(documents("Drawings")),
+              (std::vector<std::string>{"Demo1.els", "Title.tpl"}));
+    EXPECT_FALSE(program.editor.drawing.DrawingChanged);
+    EXPECT_EQ(program.editor.form.Caption,
+              "Ladrix - Current Library: User Symbols - File Name: Untitled");
+}
+
+TEST_F(StartTest, ASecondStartCopiesNothingAndMakesOnlyWhatIsMissing) {
+    disk().write("program/Demo1.els", "one");
+    disk().makeFolder(documents("Drawings"));
+    disk().write(documents("Drawings/mine.els"), "mine");
+
+    ASSERT_TRUE(startProgram(program));
+
+    EXPECT_FALSE(program.paths.FirstRun);
+    EXPECT_EQ(disk().entries(documents("Drawings")), (std::vector<std::string>{"mine.els"}));
+    EXPECT_TRUE(disk().has(documents("Bitmaps")));
+    EXPECT_TRUE(disk().has(documents("Data Files")));
+}
+
+TEST_F(StartTest, AnotherInstanceEndsTheStartAfterItsMessage) {
+    fake.shell.isOnlyInstance = false;
+    EXPECT_FALSE(startProgram(program));
+    ASSERT_EQ(fake.dialogs.boxes.size(), 1u);
+    EXPECT_EQ(fake.dialogs.boxes[0].text,
+              "Another instance of this application is currently running.");
+    EXPECT_FALSE(disk().has(documents("")));
+}
+
+TEST_F(StartTest, AFolderThatCannotBeMadeIsReportedAndTheWindowOpens) {
+    fake.files.fail(test::Operation::MakeFolder, {failure::PermissionDenied, "Permission denied"});
+    EXPECT_TRUE(startProgram(program));
+    ASSERT_FALSE(fake.dialogs.boxes.empty());
+    EXPECT_NE(fake.dialogs.boxes[0].text.find("Main Sub, "), std::string::npos);
+    EXPECT_NE(fake.dialogs.boxes[0].text.find("Permission denied"), std::string::npos);
+    EXPECT_EQ(fake.dialogs.boxes[0].title, "Program Error");
+    EXPECT_TRUE(program.editor.form.cmdSym[0].Visible);
+}
+
+TEST_F(StartTest, TheScreensWidthEndsTheProgramAndItsHeightChoosesThePalette) {
+    fake.platform.screen.Width = 14399;
+    EXPECT_FALSE(startProgram(program));
+    ASSERT_EQ(fake.dialogs.boxes.size(), 2u);
+    EXPECT_EQ(fake.dialogs.boxes[1].text,
+              "The program will now close. Please change your screen seetings and try again.");
+
+    fake.platform.screen = {15360, 11519, 15, 15};
+    Program low{fake.platform};
+    ASSERT_TRUE(startProgram(low));
+    EXPECT_EQ(low.editor.form.cmdSym[24].Tag, "General Purpose Switch, Normally Closed");
+
+    fake.platform.screen.Height = 11520;
+    Program tall{fake.platform};
+    ASSERT_TRUE(startProgram(tall));
+    EXPECT_EQ(tall.editor.form.cmdSym[28].Tag, "General Purpose Switch, Normally Closed");
+}
+
+TEST_F(StartTest, TheDecimalMarkOfTheLocaleIsInTheFields) {
+    fake.platform.locale.decimalMark = ',';
+    ASSERT_TRUE(startProgram(program));
+    EXPECT_EQ(program.editor.form.cmbScale.Text, "1,00");
+    EXPECT_EQ(program.editor.form.cmbScale.List.front(), "0,25");
+    EXPECT_EQ(program.editor.form.cmdSnap.Caption, "Snap: 0,25");
+}
+
+TEST_F(StartTest, TheDiagnosticsNameTheFoldersAndStartAfreshEachRun) {
+    disk().write(documents("Error Messages.txt"), "of the last run");
+    ASSERT_TRUE(startProgram(program));
+    const std::string text = disk().read(documents("Error Messages.txt"));
+    EXPECT_TRUE(text.starts_with("Application Path: "));
+    EXPECT_NE(text.find("Computer Name: TESTBENCH\r\n"), std::string::npos);
+    EXPECT_NE(text.find("My Documents: " + program.paths.MyDocumentsPath), std::string::npos);
+}
+
+TEST_F(StartTest, ThePreferencesDashSpacingIsReadFromTheDataFolderFirst) {
+    std::string lines;
+    for (int i = 0; i < 27; ++i) {
+        const std::string number = i < 10 ? "0" + std::to_string(i) : std::to_string(i);
+        lines += "Reserve Bit " + number + ":" + (i == 26 ? "0,2" : "") + "\r\n";
+    }
+    disk().write("program/UserPreferences.upf", "Reserve Bit 00:\r\n");
+    disk().write(documents("Data Files/UserPreferences.upf"), lines);
+    disk().makeFolder(documents("Drawings"));
+    ASSERT_TRUE(startProgram(program));
+    EXPECT_FLOAT_EQ(program.editor.DashSpacing, 0.2f);
+    EXPECT_EQ(program.UserPrefs.size(), 27u);
+}
+
+TEST_F(StartTest, ATruncatedPreferencesFileIsReportedAndTheDefaultsStand) {
+    std::string lines;
+    for (int i = 0; i < 26; ++i)
+        lines += "Reserve Bit 00:\r\n";
+    disk().write(documents("Data Files/UserPreferences.upf"), lines + "short");
+    ASSERT_TRUE(startProgram(program));
+    ASSERT_EQ(fake.dialogs.boxes.size(), 1u);
+    EXPECT_FLOAT_EQ(program.editor.DashSpacing, 0.125f);
+}
+
+TEST_F(StartTest, WithoutADocumentsFolderTheBaseIsTheFixedRootWithoutADataFolder) {
+    fake.shell.folders[5] = "";
+    settleFolders(program);
+    EXPECT_EQ(program.paths.MyDocumentsPath, "/");
+    EXPECT_TRUE(program.paths.BasePath.ends_with("/Ladrix/"));
+    EXPECT_EQ(program.paths.BasePath.find("documents"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace ladrix
