@@ -100,6 +100,14 @@ double fullTurn(double start, double end) {
     return sweep > 0 ? sweep : sweep + 2 * Pi;
 }
 
+// A control character from a damaged record has no glyph and would spoil an SVG file.
+QString printable(std::string_view text) {
+    QString result = toQString(text);
+    for (QChar& c : result)
+        if (c.unicode() < u' ' || c.unicode() >= 0xFFFE) c = u' ';
+    return result;
+}
+
 }  // namespace
 
 QtPainterPage::QtPainterPage(std::string name, Medium medium)
@@ -408,7 +416,7 @@ void QtPainterPage::Text(Single x, Single y, const FontSpec& font, std::string_v
     painter_->scale(factor, factor);
     painter_->setFont(paper.layout);
     painter_->setPen(toQColor(color));
-    painter_->drawText(QPointF(0, paper.ascent), toQString(text));
+    painter_->drawText(QPointF(0, paper.ascent), printable(text));
     painter_->restore();
 }
 
