@@ -203,6 +203,8 @@ Drawing readDrawing(ExportMachine& machine, const std::string& path) {
     ParseDeviceString(drawing, machine.platform);
     ParseLabelString(drawing, machine.platform);
     requireNothingTold(machine, drawing.CurrentFileName);
+    if (!text.ends_with(LineEnd))
+        machine.dialogs.told.emplace_back("The file's last line is cut short and left out");
     ParsePictureString(drawing, machine.platform);
     return drawing;
 }
@@ -262,8 +264,10 @@ void exportDrawing(ExportMachine& machine, const Request& request, OutputFormat 
     writeOutput(machine, content, format, request);
     if (!leftOut.empty()) machine.dialogs.told.push_back(leftOut);
     if (unknown > 0)
-        machine.dialogs.told.push_back(std::to_string(unknown) +
-                                       " unknown symbols are left out, the first " + unknownName);
+        machine.dialogs.told.push_back(
+            std::to_string(unknown) +
+            (unknown == 1 ? " unknown symbol is" : " unknown symbols are") +
+            " left out: " + unknownName + (unknown == 1 ? "" : ", ..."));
 }
 
 // A file name may hold line ends; a message is one line all the same.
