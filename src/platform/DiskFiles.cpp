@@ -371,8 +371,9 @@ void DiskFiles::append(const std::string& path, std::string_view content) {
         closeChecked(hook_, file, path);
     } catch (const Failure&) {
         // Half an entry is worse than none.
-        if (file) [[maybe_unused]]
-            const int cut = ftruncate(file.number(), length);
+        if (file) {
+            [[maybe_unused]] const int cut = ftruncate(file.number(), length);
+        }
         throw;
     }
 }

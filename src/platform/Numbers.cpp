@@ -206,8 +206,7 @@ std::optional<Single> plainSingle(std::string_view text) {
         }
     }
     const bool hasMark = mark < text.size();
-    const size_t count = text.size() - (hasMark ? 1 : 0);
-    if (count == 0 || count > Digits) return std::nullopt;
+    if (hasMark && text.size() == 1) return std::nullopt;
     auto value = static_cast<Single>(digits);
     if (hasMark) value /= static_cast<Single>(PowersOfTen[text.size() - mark - 1]);
     return negative ? -value : value;
