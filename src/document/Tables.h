@@ -19,13 +19,13 @@ constexpr Short LargestCount = std::numeric_limits<Short>::max();
 
 // One row of the device table, as it is recorded, copied or moved between tables.
 struct Device {
-    std::string name;
+    std::string name{};
     Single x = 0, y = 0;    // insertion point; first corner of a free line or square
     Single x2 = 0, y2 = 0;  // second corner of a free line or square
     Single radius = 0;      // circles and arcs
     Short direction = 0;    // 1 left, 2 right, 3 up, 4 down; arcs and semicircles
     Long color = Black;
-    std::string widthTag;  // "DrawWidth=2": twice the base width
+    std::string widthTag{};  // "DrawWidth=2": twice the base width
     Single aspect = 0;     // height to width of an ellipse
     Single startAngle = 0, endAngle = 0;
     Single scaleX = 0, scaleY = 0;
@@ -57,10 +57,10 @@ struct DeviceTable {
 };
 
 struct Label {
-    std::string text;
+    std::string text{};
     Single x = 0, y = 0;  // upper left corner
     Long color = Black;
-    std::string fontName;
+    std::string fontName{};
     Single fontSize = 0;  // points
     bool bold = false, italic = false;
 };

@@ -150,14 +150,16 @@ TEST_F(DrawingTest, CountersThatHaveDriftedApartTakeNoSnapshot) {
     drawing.DashedLine = true;
     drawing.DashesCounted = 1;
     drawing.DashesRecorded = 4;
-    for (int dash = 0; dash < 3; ++dash) record({.name = "InsertSavedLine", .x = 1});
+    for (int dash = 0; dash < 3; ++dash)
+        record({.name = "InsertSavedLine", .x = 1});
     EXPECT_EQ(snapshots, 0);
     EXPECT_EQ(drawing.DashesRecorded, 7);
 }
 
 TEST_F(DrawingTest, The32768thDeviceIsReportedAndChangesNothing) {
     drawing.TakeUndoSnapshot = {};
-    for (int i = 0; i < LargestCount; ++i) record({.name = "InsertSavedLine", .x = 1});
+    for (int i = 0; i < LargestCount; ++i)
+        record({.name = "InsertSavedLine", .x = 1});
     ASSERT_EQ(drawing.devices.DeviceCount, LargestCount);
     ASSERT_TRUE(machine.reports.empty());
     const std::size_t size = drawing.DeviceString.size();

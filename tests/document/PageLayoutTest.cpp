@@ -19,8 +19,7 @@ TEST(PageLayout, EveryPrefixHasBothOrientations) {
         EXPECT_EQ(landscape->PageHeight, portrait->PageWidth) << prefix;
         EXPECT_FALSE(entry.caption.empty()) << prefix;
         // The preview's shape is the page's, but for the one that is half an inch short.
-        const Single height =
-            portrait->PageHeight / portrait->PageWidth * entry.previewWidth;
+        const Single height = portrait->PageHeight / portrait->PageWidth * entry.previewWidth;
         const Single slack = prefix == "7.5x10.5" ? 0.501f : entry.previewWidth * 0.005f;
         EXPECT_NEAR(entry.previewHeight, height, slack) << prefix;
         EXPECT_LE(entry.previewHeight, entry.previewUnit) << prefix;

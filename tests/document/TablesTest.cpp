@@ -15,8 +15,10 @@ Device numbered(int number) {
 
 TEST(Tables, ErasingSelectedDevicesKeepsEveryColumnOfTheOthersInOrder) {
     DeviceTable table;
-    for (int i = 0; i < 6; ++i) table.append(numbered(i));
-    for (const std::size_t row : {0u, 2u, 3u}) table.DeviceSelected[row] = 1;
+    for (int i = 0; i < 6; ++i)
+        table.append(numbered(i));
+    for (const std::size_t row : {0u, 2u, 3u})
+        table.DeviceSelected[row] = 1;
 
     table.eraseSelected();
 
