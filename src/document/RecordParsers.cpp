@@ -31,18 +31,17 @@ struct TextForm {
 class Fields {
   public:
     Fields(std::string_view line, std::string_view separator)
-        : rest_(line), separator_(separator) {}
+        : rest_(line), separator_(separator), end_(find()) {}
 
     std::string_view next() {
-        const std::size_t at = find();
-        const std::string_view field = rest_.substr(0, at);
-        rest_ = at == std::string_view::npos ? std::string_view{}
-                                             : rest_.substr(at + separator_.size());
+        const std::string_view field = rest_.substr(0, end_);
+        rest_ = hasMore() ? rest_.substr(end_ + separator_.size()) : std::string_view{};
+        end_ = find();
         return field;
     }
     // The last field: all that remains, separators too.
     std::string_view rest() const { return rest_; }
-    bool hasMore() const { return find() != std::string_view::npos; }
+    bool hasMore() const { return end_ != std::string_view::npos; }
 
     Single single() { return toSingle(next()); }
     Long number() { return toLong(next()); }
@@ -53,6 +52,7 @@ class Fields {
     }
 
     std::string_view rest_, separator_;
+    std::size_t end_;  // of the next field, in rest_
 };
 
 // The lines of a text: those ended by CR LF. What comes behind the last line end is no line.
