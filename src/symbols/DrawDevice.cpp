@@ -75,7 +75,9 @@ void recordSymbol(Symbols& symbols, Drawing& drawing, const Platform& platform,
     const Single scaleY = symbol.labelAbsolute ? 1 : block.CurScaleY;
     const Single x = block.CurX + scaleX * symbol.labelA;
     const Single y = block.CurY + scaleY * symbol.labelB;
+    const Short before = drawing.devices.DeviceCount;
     RecordDevice(drawing, platform, device);
+    if (drawing.devices.DeviceCount == before) return;  // the table is full
     if (symbols.BeginLabel) symbols.BeginLabel(symbol.prefix, x, y);
 }
 
@@ -201,7 +203,9 @@ Extent deviceExtent(const DeviceTable& table, Short index) {
     if (const Shape* shape = findShape(name))
         return shape->placedExtent(table.DeviceOrientation[i], table.DeviceX[i], table.DeviceY[i],
                                    scaleX, scaleY);
-    return freeShapeExtent(freeShapeOf(name), table, index);
+    // What a user symbol covers is known to its script alone.
+    const FreeShape shape = freeShapeOf(name);
+    return shape == FreeShape::None ? Extent::everything() : freeShapeExtent(shape, table, index);
 }
 
 void drawRow(Symbols& symbols, Drawing& drawing, const Platform& platform, Surface& surface,
