@@ -1,5 +1,7 @@
 #include "canvas/DrawingCommands.h"
 
+#include <utility>
+
 #include "canvas/DrawingIO.h"
 #include "canvas/Redraw.h"
 #include "canvas/View.h"
@@ -51,10 +53,15 @@ void keepTemplate(Drawing& drawing) {
     drawing.TemplateLabels = drawing.LabelString;
 }
 
-void startUntitled(Editor& editor) {
-    editor.drawing.CurrentFileName.clear();
-    if (!NewDrawing(editor)) return;
-    editor.drawing.DrawingChanged = false;
+// False if the new drawing is refused: the present one keeps its name.
+bool startUntitled(Editor& editor) {
+    const std::string name = std::exchange(editor.drawing.CurrentFileName, {});
+    if (NewDrawing(editor)) {
+        editor.drawing.DrawingChanged = false;
+        return true;
+    }
+    editor.drawing.CurrentFileName = name;
+    return false;
 }
 
 void goOnAfterSave(Editor& editor) {
@@ -85,6 +92,20 @@ std::string tempDrawing(const Editor& editor) {
 void removeTempDrawing(Editor& editor) {
     if (FileExists(*editor.platform.files, editor.drawing.TempFolder, "Temp_Drawing.els"))
         editor.platform.files->remove(tempDrawing(editor));
+}
+
+// A file that could not be read gives the drawing no name: a save must not replace it.
+void readNamedFile(Editor& editor) {
+    Drawing& drawing = editor.drawing;
+    try {
+        openText(editor, readDrawingFile(*editor.platform.files,
+                                         drawing.CurrentFolder + drawing.CurrentFileName));
+    } catch (const Failure&) {
+        drawing.CurrentFileName.clear();
+        drawing.TitleState = 0;
+        UpdateTitle(editor);
+        throw;
+    }
 }
 
 void report(Editor& editor, std::string_view description, const Failure& failure) {
@@ -170,10 +191,8 @@ void OpenDrawing(Editor& editor) {
     Drawing& drawing = editor.drawing;
     drawing.Reading = true;
     try {
-        const FileText file = readDrawingFile(*editor.platform.files,
-                                              drawing.CurrentFolder + drawing.CurrentFileName);
         if (drawing.TemplateActive || NewDrawing(editor)) {
-            openText(editor, file);
+            readNamedFile(editor);
             removeTempDrawing(editor);
         }
     } catch (const Failure& failure) {
@@ -211,8 +230,10 @@ void AskToSaveChanges(Editor& editor) {
         "The current file has been changed. Do you want to save those changes?", "File Has Changed",
         Buttons::YesNoCancel)) {
         case Answer::Yes:
-            if (drawing.ExitAfterSave) drawing.ExitCancelled = true;
+            // An untitled drawing is saved in the browser, and that save ends the program.
+            drawing.ExitCancelled = drawing.ExitAfterSave && !drawing.CurrentFileName.empty();
             SaveDrawing(editor);
+            if (drawing.ExitAfterSave && drawing.DrawingChanged) drawing.ExitCancelled = true;
             break;
         case Answer::No:
             drawing.DrawingChanged = false;
@@ -226,6 +247,7 @@ void AskToSaveChanges(Editor& editor) {
 bool Form_QueryUnload(Editor& editor) {
     Drawing& drawing = editor.drawing;
     askFor(drawing, After::Exit);
+    drawing.ExitCancelled = false;
     if (drawing.DrawingChanged) AskToSaveChanges(editor);
     if (!drawing.ExitCancelled) return true;
     drawing.ExitCancelled = false;
@@ -246,10 +268,9 @@ void RestoreTempDrawing(Editor& editor) {
     Drawing& drawing = editor.drawing;
     askFor(drawing, After::Nothing);
     if (!mayGoOn(editor)) return;
-    drawing.CurrentFileName.clear();
     drawing.Reading = true;
     try {
-        if (NewDrawing(editor) &&
+        if (startUntitled(editor) &&
             FileExists(*editor.platform.files, drawing.TempFolder, "Temp_Drawing.els")) {
             restoreText(editor, readDrawingFile(*editor.platform.files, tempDrawing(editor)));
             editor.platform.files->remove(tempDrawing(editor));

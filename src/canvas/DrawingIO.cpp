@@ -1,5 +1,7 @@
 #include "canvas/DrawingIO.h"
 
+#include <utility>
+
 #include "canvas/DrawingCommands.h"
 #include "canvas/Redraw.h"
 #include "canvas/View.h"
@@ -27,15 +29,8 @@ void copyPictures(Editor& editor) {
 void parseAll(Editor& editor) {
     ParseDeviceString(editor.drawing, editor.platform);
     ParseLabelString(editor.drawing, editor.platform);
-    if (!editor.drawing.PictureString.empty()) ParsePictureString(editor.drawing, editor.platform);
+    ParsePictureString(editor.drawing, editor.platform);
     loadPictures(editor);
-}
-
-// The editor keeps what was taken last as the template's own items.
-void joinTemplate(Drawing& drawing) {
-    drawing.TemplateActive = false;
-    drawing.DeviceString = drawing.TemplateDevices + drawing.DeviceString;
-    drawing.LabelString = drawing.TemplateLabels + drawing.LabelString;
 }
 
 void layOutPage(Editor& editor) {
@@ -67,7 +62,6 @@ void openText(Editor& editor, const FileText& file) {
     takeParts(drawing, std::move(parts));
     drawing.PictureFolderName = nameWithoutExtension(drawing.CurrentFileName);
     drawing.PictureParentFolder = drawing.CurrentFolder;
-    if (joining) joinTemplate(drawing);
     if (extensionOf(drawing.CurrentFileName) == ".tpl") {
         drawing.TemplateActive = true;
         drawing.TemplateDevices = drawing.DeviceString;
@@ -85,7 +79,10 @@ void openText(Editor& editor, const FileText& file) {
 
 void restoreText(Editor& editor, const FileText& file) {
     Drawing& drawing = editor.drawing;
+    // A template in force stays so: the crash copy holds its items already.
+    const bool withTemplate = std::exchange(drawing.TemplateActive, false);
     takeParts(drawing, splitFile(file.content, file.modified));
+    drawing.TemplateActive = withTemplate;
     parseAll(editor);
     layOutPage(editor);
     RedrawDrawing(editor);
