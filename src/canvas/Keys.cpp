@@ -1,6 +1,7 @@
 #include "canvas/Keys.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "canvas/Colors.h"
 #include "canvas/Redraw.h"
@@ -98,7 +99,9 @@ void setSnapByKey(Editor& editor, Single step) {
 
 void pageByKey(Editor& editor, Short keyCode) {
     ScrollBar& bar = editor.form.VScroll1;
-    const auto hundredths = [](Single inches) { return static_cast<int>(inches * 100); };
+    const auto hundredths = [](Single inches) {
+        return static_cast<int>(std::lround(inches * 100));
+    };
     const Single visible = editor.VisibleHeight;
     if (keyCode == key::PageDown)
         bar.Value = editor.ScaleTop + 2 * visible < editor.PageHeight
@@ -168,7 +171,8 @@ void walkPalette(Editor& editor, Short keyCode) {
         default:
             return;
     }
-    if (target < 0 || target > editor.LastBuiltInButton) return;
+    if (target < 0) return;
+    if (target > editor.CurrentTool && target > editor.LastBuiltInButton) return;
     if (editor.form.cmdSym[static_cast<std::size_t>(target)].Tag.empty()) return;
     cmdSym_Click(editor, static_cast<Short>(target));
 }

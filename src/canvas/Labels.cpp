@@ -110,7 +110,7 @@ void drawTextGhost(Editor& editor, Single x, Single y, Long color) {
         openTextBox(editor, editor.TextBuffer);
         editor.form.lblMessage.Caption = "Move to desired location and edit as required.";
     }
-    editor.LastSelectedLabel = -1;
+    finishLabelEdit(editor);
     if (editor.MouseIsDown) return;
     const FontSpec font = defaultFont(editor);
     const Corner corner = cornerOfCentred(editor, font, editor.TextBuffer, x, y);

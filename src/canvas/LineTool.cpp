@@ -33,7 +33,8 @@ std::vector<Segment> dashesOf(const Segment& line, Single length) {
     return dashes;
 }
 
-void drawAndRecord(Editor& editor, std::string_view name, const Segment& s, Long color,
+// False if the table is full: the line is drawn, but recorded nowhere.
+bool drawAndRecord(Editor& editor, std::string_view name, const Segment& s, Long color,
                    std::string_view tag) {
     DeviceBlock& block = editor.symbols.block;
     block.obj = editor.platform.picLX;
@@ -53,7 +54,9 @@ void drawAndRecord(Editor& editor, std::string_view name, const Segment& s, Long
     device.y2 = s.y2;
     device.color = color;
     device.widthTag = tag;
+    const Short before = editor.drawing.devices.DeviceCount;
     RecordDevice(editor.drawing, editor.platform, device);
+    return editor.drawing.devices.DeviceCount > before;
 }
 
 bool takesStart(Editor& editor) {
@@ -81,7 +84,7 @@ void InsertSavedLine(Editor& editor, Long color, std::string_view widthTag) {
     if (editor.drawing.DashedLine) {
         for (const Segment& dash : dashesOf(line, editor.DashSpacing)) {
             ++editor.drawing.DashesCounted;
-            drawAndRecord(editor, "InsertSavedLine", dash, color, widthTag);
+            if (!drawAndRecord(editor, "InsertSavedLine", dash, color, widthTag)) break;
         }
     } else {
         drawAndRecord(editor, "InsertSavedLine", normalised(line), color, widthTag);

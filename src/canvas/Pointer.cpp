@@ -146,7 +146,8 @@ void placeLine(Editor& editor) {
 }
 
 void placeSquare(Editor& editor) {
-    InsertSavedSquare(editor, editor.CurrentColor, editor.ToolName == "Dashed Square" ? "3" : "");
+    editor.DashedMode = editor.ToolName == "Dashed Square" ? 1 : 0;
+    InsertSavedSquare(editor, editor.CurrentColor, editor.DashedMode != 0 ? "3" : "");
     editor.SquareStarted = !editor.SquareStarted;
     editor.form.lblMessage.Caption =
         editor.SquareStarted

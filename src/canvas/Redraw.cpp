@@ -92,6 +92,12 @@ void clearSelection(Editor& editor) {
     editor.LastSelectedLabel = -1;
 }
 
+void endBand(Editor& editor) {
+    editor.BandArmed = editor.BandShown = false;
+    editor.form.pointer.shpSelect.Visible = false;
+    editor.form.pointer.shpSelectLight.Visible = false;
+}
+
 void resetMenus(Editor& editor) {
     MenuStates& menu = editor.form.menu;
     menu[Menu::mnuEditTextAlignLeft].Enabled = false;
@@ -168,6 +174,8 @@ void RedrawDrawing(Editor& editor) {
 
 void ResetEditor(Editor& editor) {
     editor.MouseIsDown = false;
+    endBand(editor);
+    editor.SnapXFound = editor.SnapYFound = false;
     editor.ZoomInPending = editor.ZoomOutPending = false;
     editor.symbols.block.CurDevice.clear();
     editor.ToolName.clear();

@@ -1,5 +1,6 @@
 #include "canvas/Tools.h"
 
+#include "canvas/Labels.h"
 #include "canvas/Pointer.h"
 #include "canvas/Redraw.h"
 #include "platform/Numbers.h"
@@ -123,6 +124,7 @@ void cmdSym_Click(Editor& editor, Short index) {
     editor.MouseIsDown = false;
     editor.ZoomInPending = editor.ZoomOutPending = false;
     if (editor.SelectedCount != 0) ResetEditor(editor);
+    finishLabelEdit(editor);
     editor.ToolCursor = true;
     releaseButton(editor, editor.PreviousTool);
     beginTemporaryGraphics(editor);
