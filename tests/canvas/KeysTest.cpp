@@ -1,0 +1,236 @@
+// What the keys mean, on the form and on the canvas.
+#include "canvas/Keys.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "Bench.h"
+#include "canvas/View.h"
+#include "document/Records.h"
+
+namespace ladrix::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+TEST(Escape, LeavesEveryStateTheSameWay) {
+    for (const char* script :
+         {"tool Ground; move 1 1", "tool Line; click 1 1; click 2 1", "tool Square; click 1 1",
+          "tool Text; move 1 1", "press 1 1; drag 2 2"}) {
+        Bench bench;
+        bench.editor.ZoomInPending = bench.editor.TextAlignPending = true;
+        bench.play(script);
+        bench.editor.CopyArmed = bench.editor.MoveMode = true;
+        bench.editor.CopyStage = 2;
+        bench.play("key 27 0");
+        const Editor& editor = bench.editor;
+        EXPECT_EQ(editor.CurrentTool, -1) << script;
+        EXPECT_FALSE(editor.ToolActive || editor.ToolCursor || editor.ToolBlocksBand) << script;
+        EXPECT_FALSE(editor.ZoomInPending || editor.TextAlignPending) << script;
+        EXPECT_FALSE(editor.CopyArmed || editor.MoveMode || editor.CopyStage != 0) << script;
+        EXPECT_FALSE(editor.SquareStarted || editor.BandArmed || editor.MouseIsDown) << script;
+        EXPECT_EQ(editor.LineStartX, NoPoint) << script;
+        EXPECT_THAT(bench.canvas.temporary, IsEmpty()) << script;
+        EXPECT_FALSE(editor.form.picText.Visible || editor.form.picRadius.Visible) << script;
+    }
+    EXPECT_FALSE(Form_KeyPress(key::Escape)) << "its character reaches no text box";
+    EXPECT_TRUE(Form_KeyPress('a'));
+    EXPECT_TRUE(Form_KeyPress(key::Enter));
+}
+
+TEST(PageKeys, StepByTheVisibleHeightAndStopAtTheEnds) {
+    struct Case {
+        const char* page;
+        Single visible;  // inches
+        int from;
+        const char* key;
+        int to;
+    };
+    const Case cases[] = {
+        {"8.5x11Portrait", 3, 0, "key 34 0", 300},       // down
+        {"8.5x11Portrait", 3, 300, "key 34 0", 600},     //
+        {"8.5x11Portrait", 3, 600, "key 34 0", 800},     // the rest is less than a page
+        {"8.5x11Portrait", 3, 800, "key 34 0", 800},     //
+        {"210x297Portrait", 6.75f, 0, "key 34 0", 494},  // 4.94 inches are left
+        {"8.5x11Portrait", 12, 0, "key 34 0", 0},        // all of it is visible
+        {"8.5x11Portrait", 3, 800, "key 33 0", 500},     // up
+        {"8.5x11Portrait", 3, 300, "key 33 0", 0},       //
+        {"8.5x11Portrait", 3, 0, "key 33 0", 0},         //
+    };
+    for (const Case& c : cases) {
+        Bench bench;
+        bench.drawing.PageLayoutKey = c.page;
+        ApplyPageLayout(bench.editor);
+        Form_Resize(bench.editor, 8.5f * TwipsPerInch, c.visible * TwipsPerInch);
+        bench.editor.form.VScroll1.Value = c.from;
+        VScroll1_Change(bench.editor);
+        bench.play(c.key);
+        EXPECT_EQ(bench.editor.form.VScroll1.Value, c.to) << c.key << " from " << c.from;
+        EXPECT_FLOAT_EQ(bench.canvas.scaleTop, static_cast<Single>(c.to) / 100);
+    }
+}
+
+TEST(ControlKeys, HalveAndDoubleTheSnapWithoutLimit) {
+    Bench bench;
+    bench.play("key 37 2; key 37 2");
+    EXPECT_EQ(bench.editor.SnapStep, 0.0625f);
+    EXPECT_EQ(bench.editor.form.cmdSnap.Caption, "Snap: 0.0625");
+    EXPECT_EQ(bench.canvas.persistentCls, 0) << "the grid does not follow";
+    bench.editor.GridFollowsSnap = bench.editor.GridOn = true;
+    bench.play("key 39 2");
+    EXPECT_EQ(bench.editor.SnapStep, 0.125f);
+    EXPECT_EQ(bench.editor.form.cmdSnap.Caption, "Snap: 0.125");
+    EXPECT_GT(bench.canvas.persistentCls, 0);
+    EXPECT_FLOAT_EQ(bench.canvas.persistent.at(0).x1, 0.25f) << "a line at every second step";
+    for (int i = 0; i < 20; ++i)
+        bench.play("key 39 2");
+    EXPECT_EQ(bench.editor.SnapStep, 0.125f * 1048576);
+}
+
+TEST(ColourKeys, ChooseTheColourWithControlAndAlt) {
+    struct Case {
+        char key;
+        Long color;
+    };
+    for (const Case& c : {Case{'B', 0},
+                          {'R', 255},
+                          {'G', 0xFF00},
+                          {'Y', 0xFFFF},
+                          {'C', 0xFFFF00},
+                          {'M', 0xFF00FF},
+                          {'U', 0xFF0000},
+                          {'V', 0x800080}}) {
+        Bench bench;
+        bench.editor.CurrentColor = 77;
+        Form_KeyDown(bench.editor, static_cast<Short>(c.key), ControlAlt);
+        EXPECT_EQ(bench.editor.CurrentColor, c.color) << c.key;
+        EXPECT_EQ(bench.editor.form.picSelectedColor.BackColor, c.color) << c.key;
+    }
+    Bench bench;
+    bench.editor.CurrentColor = 77;
+    Form_KeyDown(bench.editor, 'R', ControlKey);
+    Form_KeyDown(bench.editor, 'R', NoShift);
+    EXPECT_EQ(bench.editor.CurrentColor, 77);
+    Form_KeyDown(bench.editor, 'B', ControlKey);
+    EXPECT_EQ(bench.editor.CurrentColor, Black) << "black with Control alone too";
+    EXPECT_EQ(bench.editor.form.picSelectedColor.BackColor, Black);
+}
+
+TEST(PaletteWalk, MovesByOneAndByARowWithinTheButtons) {
+    struct Case {
+        Short from;
+        Short keyCode;
+        Short to;
+    };
+    const Case cases[] = {
+        {13, key::Down, 17}, {13, key::Up, 9},     {13, key::Right, 14}, {13, key::Left, 12},
+        {88, key::Down, 88}, {87, key::Down, 91},  {91, key::Right, 91}, {3, key::Up, 3},
+        {4, key::Up, 0},     {0, key::Left, 0},    {96, key::Up, 92},    {93, key::Left, 92},
+        {92, key::Left, 91}, {92, key::Right, 92}, {92, key::Down, 92},
+    };
+    for (const Case& c : cases) {
+        Bench bench;
+        for (std::size_t i = 92; i < 100; ++i)
+            bench.editor.form.cmdSym[i].Tag = "Mine " + std::to_string(i);
+        bench.editor.CurrentTool = bench.editor.PreviousTool = c.from;
+        Form_KeyDown(bench.editor, c.keyCode, NoShift);
+        EXPECT_EQ(bench.editor.CurrentTool, c.to) << c.keyCode << " from " << c.from;
+    }
+}
+
+TEST(PaletteWalk, NeedsAToolAndAFreeKeyboardAndStopsAtAnEmptyPlace) {
+    Bench bench;
+    bench.play("key 40 0");
+    EXPECT_EQ(bench.editor.CurrentTool, -1);
+    bench.play("tool Ground; key 38 1");
+    EXPECT_EQ(bench.editor.CurrentTool, bench.buttonOf("Ground"));
+    bench.editor.TextBoxFocused = true;
+    bench.play("key 38 0");
+    EXPECT_EQ(bench.editor.CurrentTool, bench.buttonOf("Ground"));
+    bench.editor.TextBoxFocused = false;
+    bench.button("Screw Terminal") = {};
+    bench.play("key 37 0");
+    EXPECT_EQ(bench.editor.CurrentTool, bench.buttonOf("Ground"));
+    bench.play("key 38 0");
+    EXPECT_EQ(bench.editor.CurrentTool, bench.buttonOf("Ground") - 4);
+}
+
+// Devices, a label and a picture, all selected as a pick would leave them.
+void selectAll(Bench& bench) {
+    bench.drawing.LabelString = line("Motor|1|2|0|Arial|8|False|False");
+    ParseLabelString(bench.drawing, bench.machine.platform);
+    bench.drawing.devices.DeviceSelected.assign(bench.drawing.devices.DeviceSelected.size(), 1);
+    bench.drawing.labels.LabelSelected.assign(1, 1);
+    bench.editor.SelectedCount = 1;
+    bench.drawing.DrawingChanged = false;
+    bench.snapshots = 0;
+}
+
+TEST(ArrowKeys, StretchLinesAlongTheirAxisAndSquaresBothWays) {
+    struct Case {
+        const char* shape;
+        const char* key;
+        const char* device;
+    };
+    const Case cases[] = {
+        {"tool Line; click 1 1; click 3 1", "key 39 0", "InsertSavedLine|1|1|3.25|1|0|0"},
+        {"tool Line; click 1 1; click 3 1", "key 37 0", "InsertSavedLine|1|1|2.75|1|0|0"},
+        {"tool Line; click 1 1; click 3 1", "key 40 0", "InsertSavedLine|1|1|3|1|0|0"},
+        {"tool Line; click 1 1; click 1 3", "key 40 0", "InsertSavedLine|1|1|1|3.25|0|0"},
+        {"tool Line; click 1 1; click 1 3", "key 38 0", "InsertSavedLine|1|1|1|2.75|0|0"},
+        {"tool Line; click 1 1; click 1 3", "key 39 0", "InsertSavedLine|1|1|1|3|0|0"},
+        {"tool Line; click 1 1; click 2 3", "key 39 0", "InsertSavedLine|1|1|2|3|0|0"},
+        {"tool Square; click 1 1; click 2 3", "key 39 0", "InsertSavedSquare|1|1|2.25|3|0|0"},
+        {"tool Square; click 1 1; click 2 3", "key 38 0", "InsertSavedSquare|1|1|2|2.75|0|0"},
+        {"tool Ground; click 1 1", "key 39 0", "InsertGround|1|1|0||1|1|0|False"},
+    };
+    for (const Case& c : cases) {
+        Bench bench;
+        bench.play(std::string(c.shape) + "; key 27 0");
+        const std::string before = bench.devices().at(0);
+        selectAll(bench);
+        bench.play(c.key);
+        EXPECT_THAT(bench.devices(), ElementsAre(c.device)) << c.shape << ", " << c.key;
+        const bool changed = before != c.device;
+        EXPECT_EQ(bench.drawing.DrawingChanged, changed) << c.shape << ", " << c.key;
+        EXPECT_EQ(bench.snapshots, changed ? 1 : 0) << c.shape << ", " << c.key;
+        EXPECT_THAT(bench.labels(), ElementsAre("Motor|1|2|0|Arial|8|False|False"));
+    }
+}
+
+TEST(ArrowKeys, MoveAllThatIsSelectedWithShift) {
+    Bench bench;
+    bench.play("tool Line; click 1 1; click 2 3; tool Lamp; click 4 4; tool Square; click 1 5");
+    bench.play("click 2 6; key 27 0");
+    bench.drawing.PictureTable = {{1, 1, 2, 1, "a.png", "", true}};
+    bench.drawing.PictureCount = 1;
+    selectAll(bench);
+    bench.play("key 39 1; key 38 1");
+    EXPECT_THAT(bench.devices(), ElementsAre("InsertSavedLine|1.25|0.75|2.25|2.75|0|0",
+                                             "InsertLamp|4.25|3.75|0||1|1|0|False",
+                                             "InsertSavedSquare|1.25|4.75|2.25|5.75|0|0"));
+    EXPECT_THAT(bench.labels(), ElementsAre("Motor|1.25|1.75|0|Arial|8|False|False"));
+    EXPECT_FLOAT_EQ(bench.drawing.PictureTable[0].Left, 1.25f);
+    EXPECT_EQ(bench.drawing.PictureString, line("a.png|1.25|0.75|2|1"));
+    EXPECT_TRUE(bench.drawing.DrawingChanged);
+    EXPECT_TRUE(bench.editor.form.menu[Menu::mnuEditUndo].Enabled);
+}
+
+TEST(ArrowKeys, OtherShiftsAndUnselectedItemsStay) {
+    Bench bench;
+    bench.play("tool Lamp; click 4 4; click 5 4; key 27 0");
+    selectAll(bench);
+    bench.drawing.devices.DeviceSelected[1] = 0;
+    bench.play("key 39 3; key 39 4; key 65 1");
+    EXPECT_FALSE(bench.drawing.DrawingChanged);
+    bench.play("key 39 1");
+    EXPECT_THAT(bench.devices(),
+                ElementsAre("InsertLamp|4.25|4|0||1|1|0|False", "InsertLamp|5|4|0||1|1|0|False"));
+    bench.editor.SelectedCount = 0;
+    bench.play("key 39 1");
+    EXPECT_FLOAT_EQ(bench.drawing.devices.DeviceX[0], 4.25f);
+}
+
+}  // namespace
+}  // namespace ladrix::test
