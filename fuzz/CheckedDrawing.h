@@ -86,8 +86,8 @@ inline void rebuildAll(Drawing& drawing, const Platform& platform) {
     RebuildPictureString(drawing, platform);
 }
 
-// Counts, columns and records tell of the same number of rows, and each record begins with the
-// first field of its row unless a renaming came between.
+// Counts, columns and records tell of the same number of rows, a label's record begins with its
+// text, and no picture lies outside its folder.
 inline void checkTables(const Drawing& drawing) {
     const auto devices = static_cast<std::size_t>(drawing.devices.DeviceCount);
     const auto labels = static_cast<std::size_t>(drawing.labels.LabelCount);

@@ -134,6 +134,12 @@ void takeText(std::string& column, std::string_view field, const TextForm& form)
     if (form.repairMark) std::replace(column.begin(), column.end(), form.writtenMark, form.ownMark);
 }
 
+// The words as they are written, before any other spelling.
+bool truth(std::string_view field) {
+    if (field == "False") return false;
+    return field == "True" || toBoolean(field);
+}
+
 Failure inLine(const Failure& failure, Short index) {
     return {failure.number, "Line " + std::to_string(index + 1) + ": " + failure.text};
 }
@@ -252,7 +258,7 @@ class DeviceReader {
         table_.DeviceScaleY[i] = fields.single();
         if (!fields.hasMore()) return;
         table_.DeviceOrientation[i] = toShort(fields.next());
-        table_.DeviceFlip[i] = toBoolean(fields.rest());
+        table_.DeviceFlip[i] = truth(fields.rest());
     }
 
     // The first generation of lines ends in one field that is a width tag or an orientation.
@@ -290,8 +296,8 @@ class LabelReader {
         if (hasFont) {
             takeText(table_.LabelFontName[i], fields.next(), form_);
             table_.LabelFontSize[i] = fields.single();
-            table_.LabelBold[i] = toBoolean(fields.next());
-            table_.LabelItalic[i] = toBoolean(fields.rest());
+            table_.LabelBold[i] = truth(fields.next());
+            table_.LabelItalic[i] = truth(fields.rest());
         } else if (!form_.oldForm) {
             table_.LabelFontName[i] = drawing_.DefaultFontName;
             table_.LabelFontSize[i] = drawing_.DefaultFontSize;

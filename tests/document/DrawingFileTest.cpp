@@ -195,7 +195,8 @@ TEST(DrawingFile, ATemplateComesBeforeTheNextFileOnce) {
     EXPECT_EQ(readable(drawing.DeviceString), "InsertCoil|1|1|0|\n");
 }
 
-// A text of line ends alone tempts every search to begin anew at each byte.
+// Texts of beginnings of what the splitting looks for, at the cost of a search from each byte if
+// that were done.
 TEST(DrawingFile, SplittingIsLinear) {
     const auto milliseconds = [](const std::string& text) {
         const auto start = std::chrono::steady_clock::now();
