@@ -26,7 +26,7 @@ struct Device {
     Short direction = 0;    // 1 left, 2 right, 3 up, 4 down; arcs and semicircles
     Long color = Black;
     std::string widthTag{};  // "DrawWidth=2": twice the base width
-    Single aspect = 0;     // height to width of an ellipse
+    Single aspect = 0;       // height to width of an ellipse
     Single startAngle = 0, endAngle = 0;
     Single scaleX = 0, scaleY = 0;
     Short orientation = 0;
