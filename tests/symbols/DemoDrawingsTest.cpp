@@ -1,0 +1,427 @@
+// The shipped demonstration drawings, read as an electrician reads them: from the file, by where
+// wires, dots and terminals lie. Nothing here knows how the drawings were made.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <fstream>
+#include <functional>
+#include <iterator>
+#include <map>
+#include <optional>
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "document/DrawingFile.h"
+#include "document/PageLayout.h"
+#include "document/Records.h"
+#include "support/FakePlatform.h"
+#include "symbols/DrawDevice.h"
+
+namespace ladrix::test {
+namespace {
+
+constexpr Single Raster = 0.125f, Near = 0.002f;
+
+struct Point {
+    Single x = 0, y = 0;
+};
+bool same(Point a, Point b) {
+    return std::fabs(a.x - b.x) < Near && std::fabs(a.y - b.y) < Near;
+}
+bool onRaster(Point p) {
+    return same(p, {std::round(p.x / Raster) * Raster, std::round(p.y / Raster) * Raster});
+}
+std::ostream& operator<<(std::ostream& out, Point p) {
+    return out << '(' << p.x << ", " << p.y << ')';
+}
+
+struct Wire {
+    Point from, to;
+};
+// Within the wire, its ends left out.
+bool passes(const Wire& wire, Point p) {
+    if (same(p, wire.from) || same(p, wire.to)) return false;
+    const Single dx = wire.to.x - wire.from.x, dy = wire.to.y - wire.from.y;
+    const Single length = std::hypot(dx, dy);
+    const Single along = ((p.x - wire.from.x) * dx + (p.y - wire.from.y) * dy) / length;
+    const Single across = ((p.x - wire.from.x) * dy - (p.y - wire.from.y) * dx) / length;
+    return along > 0 && along < length && std::fabs(across) < Near;
+}
+
+// Terminals of the symbols, from their insertion points.
+const std::map<std::string, std::vector<Point>> Terminals = {
+    {"InsertDisconnect90", {{0, 0}, {0.5f, 0}}},
+    {"InsertFuse", {{0, 0}, {0.5f, 0}}},
+    {"InsertFuse90", {{0, 0}, {0, 0.5f}}},
+    {"InsertContactNO", {{0, 0}, {0.5f, 0}}},
+    {"InsertContactNC", {{0, 0}, {0.5f, 0}}},
+    {"InsertThermalOverload", {{0, 0}, {0.5f, 0}}},
+    {"InsertPBNC", {{0, 0}, {0.5f, 0}}},
+    {"InsertPBNO", {{0, 0}, {0.5f, 0}}},
+    {"InsertRelayCoil", {{0, 0}, {0.5f, 0}}},
+    {"InsertLamp", {{0, 0}, {0.5f, 0}}},
+    {"InsertGround", {{0, 0}}},
+    {"InsertControlTransformer",
+     {{0, 0}, {0.5f, 0}, {0.75f, 0}, {1.25f, 0}, {0.25f, 0.5f}, {1, 0.5f}}},
+};
+
+struct Part {
+    std::string name, tag = {};
+    std::vector<Point> terminals = {};
+    Point middle = {};
+};
+
+struct Schematic {
+    FakePlatform machine;
+    Drawing drawing;
+    std::vector<Wire> wires;
+    std::vector<Point> dots;
+    std::vector<Part> parts;
+
+    explicit Schematic(const std::string& file) {
+        std::ifstream in(LADRIX_DATA "/" + file, std::ios::binary);
+        const std::string text{std::istreambuf_iterator<char>(in), {}};
+        takeParts(drawing, splitFile(text, std::chrono::system_clock::now()));
+        ParseDeviceString(drawing, machine.platform);
+        ParseLabelString(drawing, machine.platform);
+        const DeviceTable& table = drawing.devices;
+        for (Short i = 0; i < table.DeviceCount; ++i)
+            takeWire(table.row(i));
+        for (Short i = 0; i < table.DeviceCount; ++i)
+            takePart(table.row(i));
+    }
+
+    Extent box(Short label) const {
+        const Label l = drawing.labels.row(label);
+        // Arial's average for capitals and figures; small letters are narrower.
+        const Single width = 0.62f * l.fontSize / 72 * static_cast<Single>(l.text.size());
+        return {l.x, l.y, l.x + width, l.y + 1.117f * l.fontSize / 72};
+    }
+
+    const Part& part(const std::string& name, const std::string& tag) const {
+        const auto found = std::find_if(parts.begin(), parts.end(), [&](const Part& p) {
+            return p.name == name && p.tag == tag;
+        });
+        if (found == parts.end()) throw std::runtime_error("No " + name + " " + tag);
+        return *found;
+    }
+    // The supply terminal that stands beside this label.
+    Point supply(const std::string& label) const { return part("terminal", label).terminals[0]; }
+
+    // Branches and terminals that end at a point; a wire that passes counts as two.
+    int meeting(Point p) const {
+        int count = 0;
+        for (const Wire& wire : wires) {
+            count += (same(wire.from, p) ? 1 : 0) + (same(wire.to, p) ? 1 : 0);
+            if (hasDot(p) && passes(wire, p)) count += 2;
+        }
+        for (const Part& each : parts) {
+            for (const Point& terminal : each.terminals)
+                count += same(terminal, p) ? 1 : 0;
+        }
+        return count;
+    }
+    bool hasDot(Point p) const {
+        return std::any_of(dots.begin(), dots.end(), [&](Point dot) { return same(dot, p); });
+    }
+
+  private:
+    // Lines that are not black carry no current.
+    void takeWire(const Device& device) {
+        const Point at{device.x, device.y};
+        if (device.name == "InsertSolidCircle") dots.push_back(at);
+        if (device.name != "InsertSavedLine" || device.color != Black) return;
+        wires.push_back({at, {device.x2, device.y2}});
+    }
+    void takePart(const Device& device) {
+        const Point at{device.x, device.y};
+        if (device.name == "InsertCircle") {
+            takeCircle(at, device.radius);
+        } else if (const auto found = Terminals.find(device.name); found != Terminals.end()) {
+            Part made{.name = device.name};
+            for (const Point& t : found->second)
+                made.terminals.push_back({at.x + t.x, at.y + t.y});
+            const Point first = made.terminals.front();
+            const Point last = made.terminals[made.terminals.size() > 1 ? 1 : 0];
+            made.middle = {(first.x + last.x) / 2, (first.y + last.y) / 2};
+            made.tag = nearestTag(made.middle);
+            parts.push_back(std::move(made));
+        } else {
+            const std::set<std::string> known = {"InsertSavedLine", "InsertSolidCircle",
+                                                 "InsertSavedSquare"};
+            EXPECT_TRUE(known.contains(device.name)) << device.name;
+        }
+    }
+    // A supply terminal or the motor: wires may end at the circle's four sides.
+    void takeCircle(Point at, Single r) {
+        Part made{.name = r < 0.1f ? "terminal" : "motor", .middle = {at.x + r, at.y}};
+        for (const Point& side : {Point{at.x, at.y},
+                                  {at.x + r, at.y - r},
+                                  {at.x + r, at.y + r},
+                                  {at.x + 2 * r, at.y}}) {
+            const bool wired = std::any_of(wires.begin(), wires.end(), [&](const Wire& w) {
+                return same(w.from, side) || same(w.to, side);
+            });
+            if (wired) made.terminals.push_back(side);
+        }
+        made.tag = nearestTag(made.middle);
+        parts.push_back(std::move(made));
+    }
+    // The nearest label above or beside; wire numbers and remarks are not in black.
+    std::string nearestTag(Point p) const {
+        std::string tag;
+        Single least = 0.55f;
+        for (Short i = 0; i < drawing.labels.LabelCount; ++i) {
+            if (drawing.labels.row(i).color != Black) continue;
+            const Extent extent = box(i);
+            if (extent.top > p.y) continue;
+            const Single away = std::hypot((extent.left + extent.right) / 2 - p.x,
+                                           (extent.top + extent.bottom) / 2 - p.y);
+            if (away >= least) continue;
+            least = away;
+            tag = drawing.labels.row(i).text;
+        }
+        return tag;
+    }
+};
+
+// Which points are one conductor, parts that conduct included.
+class Nets {
+  public:
+    explicit Nets(const Schematic& schematic) {
+        for (const Wire& wire : schematic.wires) {
+            join(wire.from, wire.to);
+            for (const Point& dot : schematic.dots) {
+                if (passes(wire, dot)) join(dot, wire.from);
+            }
+        }
+    }
+    void join(Point a, Point b) { net_[root(index(a))] = root(index(b)); }
+    bool joined(Point a, Point b) { return root(index(a)) == root(index(b)); }
+
+  private:
+    std::vector<Point> points_;
+    std::vector<std::size_t> net_;
+
+    std::size_t index(Point p) {
+        for (std::size_t i = 0; i < points_.size(); ++i) {
+            if (same(points_[i], p)) return i;
+        }
+        points_.push_back(p);
+        net_.push_back(net_.size());
+        return net_.size() - 1;
+    }
+    std::size_t root(std::size_t i) const { return net_[i] == i ? i : root(net_[i]); }
+};
+
+// The circuit under the hands of its user. `held` are the buttons that are down, "OL" the tripped
+// overload relay. The coil picks up and drops out until nothing changes.
+struct Circuit {
+    const Schematic& schematic;
+    Point hot, neutral;
+    std::set<std::string> held;
+    bool M = false;
+
+    bool conducts(const Part& part) const {
+        const bool acted = part.tag == "M" ? M : held.contains(part.tag);
+        if (part.name == "InsertContactNO" || part.name == "InsertPBNO") return acted;
+        if (part.name == "InsertContactNC" || part.name == "InsertPBNC") return !acted;
+        return part.name == "InsertFuse" || part.name == "InsertFuse90" ||
+               part.name == "InsertDisconnect90" || part.name == "InsertThermalOverload";
+    }
+    Nets nets() const {
+        Nets nets(schematic);
+        for (const Part& part : schematic.parts) {
+            if (conducts(part)) nets.join(part.terminals[0], part.terminals[1]);
+        }
+        return nets;
+    }
+    bool live(const std::string& name, const std::string& tag) const {
+        const Part& load = schematic.part(name, tag);
+        Nets now = nets();
+        EXPECT_FALSE(now.joined(hot, neutral)) << "short circuit";
+        return (now.joined(load.terminals[0], hot) && now.joined(load.terminals[1], neutral)) ||
+               (now.joined(load.terminals[1], hot) && now.joined(load.terminals[0], neutral));
+    }
+    bool lit(const std::string& tag) const { return live("InsertLamp", tag); }
+    bool operate(std::set<std::string> buttons) {
+        held = std::move(buttons);
+        for (int settling = 0; settling < 4; ++settling)
+            M = live("InsertRelayCoil", "M");
+        return M;
+    }
+};
+
+class DemoDrawing : public testing::TestWithParam<const char*> {};
+INSTANTIATE_TEST_SUITE_P(, DemoDrawing, testing::Values("Demo1", "Demo2"),
+                         [](const auto& test) { return std::string(test.param); });
+
+TEST_P(DemoDrawing, IsReadWithoutARemarkAndFitsItsPage) {
+    const Schematic schematic(std::string(GetParam()) + ".els");
+    EXPECT_TRUE(schematic.machine.reports.empty());
+    EXPECT_TRUE(schematic.machine.dialogs.boxes.empty());
+    EXPECT_FALSE(schematic.drawing.FileDescription.empty());
+    ASSERT_GT(schematic.parts.size(), 10u);
+    const auto page = pageSize(schematic.drawing.PageLayoutKey);
+    ASSERT_TRUE(page);
+    for (Short i = 0; i < schematic.drawing.devices.DeviceCount; ++i) {
+        const Extent extent = deviceExtent(schematic.drawing.devices, i);
+        EXPECT_GE(std::min(extent.left, extent.top), 0.5f) << i;
+        EXPECT_LE(extent.right, page->PageWidth - 0.5f) << i;
+        EXPECT_LE(extent.bottom, page->PageHeight - 0.5f) << i;
+    }
+}
+
+TEST_P(DemoDrawing, HasEveryWireEndAndTerminalConnectedAndDotsWhereThreeMeet) {
+    const Schematic schematic(std::string(GetParam()) + ".els");
+    for (const Wire& wire : schematic.wires) {
+        for (const Point& end : {wire.from, wire.to}) {
+            EXPECT_TRUE(onRaster(end)) << end;
+            EXPECT_GE(schematic.meeting(end), 2) << "loose end at " << end;
+            EXPECT_EQ(schematic.meeting(end) > 2, schematic.hasDot(end)) << end;
+            for (const Wire& other : schematic.wires) {
+                EXPECT_TRUE(!passes(other, end) || schematic.hasDot(end)) << "no dot at " << end;
+            }
+        }
+    }
+    for (const Point& dot : schematic.dots)
+        EXPECT_GE(schematic.meeting(dot), 3) << dot;
+    for (const Part& part : schematic.parts) {
+        EXPECT_FALSE(part.terminals.empty()) << part.name << ' ' << part.tag;
+        for (const Point& terminal : part.terminals) {
+            EXPECT_TRUE(onRaster(terminal)) << part.name << terminal;
+            EXPECT_EQ(schematic.meeting(terminal), 2) << part.name << " open at " << terminal;
+        }
+        if (part.name == "InsertGround" || part.name == "InsertControlTransformer" ||
+            part.name == "InsertDisconnect90") {
+            continue;
+        }
+        EXPECT_FALSE(part.tag.empty()) << part.name << " without a label at " << part.middle;
+    }
+}
+
+// Whether the label's box and the straight primitive have a point in common, by halving.
+bool crosses(const Extent& box, Point a, Point b, int depth = 10) {
+    Extent extent;
+    extent.add(a.x, a.y);
+    extent.add(b.x, b.y);
+    if (!extent.meets(box)) return false;
+    if (depth == 0) return true;
+    const Point middle{(a.x + b.x) / 2, (a.y + b.y) / 2};
+    return crosses(box, a, middle, depth - 1) || crosses(box, middle, b, depth - 1);
+}
+
+// A circle as a polygon: a label inside it does not cross it.
+bool crossesCircle(const Extent& box, const Primitive& circle) {
+    constexpr int Sides = 32;
+    const auto corner = [&](int i) {
+        const auto angle = static_cast<Single>(2 * Pi * i / Sides);
+        return Point{circle.x1 + circle.radius * std::cos(angle),
+                     circle.y1 - circle.radius * std::sin(angle)};
+    };
+    for (int i = 0; i < Sides; ++i) {
+        if (crosses(box, corner(i), corner(i + 1))) return true;
+    }
+    return false;
+}
+
+TEST_P(DemoDrawing, HasNoLabelOnALineOrOnAnotherLabel) {
+    Schematic schematic(std::string(GetParam()) + ".els");
+    RecordingPage page;
+    Symbols symbols;
+    for (Short i = 0; i < schematic.drawing.devices.DeviceCount; ++i) {
+        drawRow(symbols, schematic.drawing, schematic.machine.platform, page,
+                schematic.drawing.devices, i, Black);
+    }
+    ASSERT_GT(page.primitives.size(), schematic.parts.size());
+    const Short labels = schematic.drawing.labels.LabelCount;
+    for (Short i = 0; i < labels; ++i) {
+        const Extent box = schematic.box(i);
+        const std::string text = schematic.drawing.labels.row(i).text;
+        for (const Primitive& p : page.primitives) {
+            if (p.kind != Primitive::Kind::Line) {
+                EXPECT_FALSE(crossesCircle(box, p)) << text << ": " << p;
+            } else if (p.form == LineForm::Plain) {
+                EXPECT_FALSE(crosses(box, {p.x1, p.y1}, {p.x2, p.y2})) << text << ": " << p;
+            }
+        }
+        for (Short j = 0; j < i; ++j) {
+            EXPECT_FALSE(box.meets(schematic.box(j)))
+                << text << ": " << schematic.drawing.labels.row(j).text;
+        }
+    }
+}
+
+TEST(MotorStarterDemo, StartsHoldsStopsAndTrips) {
+    const Schematic schematic("Demo1.els");
+    const Part& transformer = schematic.part("InsertControlTransformer", "");
+    Circuit circuit{schematic, transformer.terminals[4], transformer.terminals[5], {}};
+    EXPECT_FALSE(circuit.operate({}));
+    EXPECT_TRUE(circuit.lit("W"));
+    EXPECT_TRUE(circuit.operate({"2PB"}));
+    EXPECT_TRUE(circuit.operate({})) << "seal-in";
+    EXPECT_FALSE(circuit.operate({"1PB"}));
+    EXPECT_FALSE(circuit.operate({})) << "no restart by itself";
+    EXPECT_FALSE(circuit.operate({"1PB", "2PB"})) << "stop has precedence";
+    circuit.operate({"2PB"});
+    EXPECT_FALSE(circuit.operate({"OL"}));
+    EXPECT_FALSE(circuit.operate({}));
+}
+
+TEST(MotorStarterDemo, SwitchesThreePhasesToTheMotorAndTwoToTheTransformer) {
+    const Schematic schematic("Demo1.els");
+    const Part& transformer = schematic.part("InsertControlTransformer", "");
+    const Part& motor = schematic.part("motor", "MOTOR");
+    const std::array<Point, 3> supply = {schematic.supply("L1"), schematic.supply("L2"),
+                                         schematic.supply("L3")};
+    for (const bool running : {false, true}) {
+        Circuit circuit{schematic, transformer.terminals[4], transformer.terminals[5], {}, running};
+        Nets nets = circuit.nets();
+        std::multiset<int> windings;  // motor terminals on each phase
+        for (std::size_t phase = 0; phase < 3; ++phase) {
+            EXPECT_FALSE(nets.joined(supply[phase], supply[(phase + 1) % 3]));
+            windings.insert(static_cast<int>(
+                std::count_if(motor.terminals.begin(), motor.terminals.end(),
+                              [&](Point t) { return nets.joined(t, supply[phase]); })));
+        }
+        const int each = running ? 1 : 0;
+        EXPECT_EQ(windings, (std::multiset<int>{each, each, each}));
+        EXPECT_TRUE(nets.joined(transformer.terminals[0], supply[0]));
+        EXPECT_TRUE(nets.joined(transformer.terminals[3], supply[1]));
+        EXPECT_TRUE(nets.joined(transformer.terminals[1], transformer.terminals[2]));
+        EXPECT_FALSE(nets.joined(transformer.terminals[4], supply[0]));
+    }
+    Nets wiring(schematic);
+    const auto grounded =
+        std::count_if(schematic.parts.begin(), schematic.parts.end(), [&](const Part& part) {
+            return part.name == "InsertGround" &&
+                   wiring.joined(part.terminals[0], transformer.terminals[5]);
+        });
+    EXPECT_EQ(grounded, 1) << "X2 is the grounded side";
+}
+
+TEST(TwoStationDemo, StartsAndStopsFromEitherStationAndShowsIt) {
+    const Schematic schematic("Demo2.els");
+    Circuit circuit{schematic, schematic.supply("L1"), schematic.supply("N"), {}};
+    for (const char* start : {"3PB", "4PB"}) {
+        for (const char* stop : {"1PB", "2PB", "OL"}) {
+            SCOPED_TRACE(std::string(start) + " then " + stop);
+            EXPECT_FALSE(circuit.operate({}));
+            EXPECT_FALSE(circuit.lit("G"));
+            EXPECT_TRUE(circuit.lit("R"));
+            EXPECT_TRUE(circuit.operate({start}));
+            EXPECT_TRUE(circuit.operate({})) << "seal-in";
+            EXPECT_TRUE(circuit.lit("G"));
+            EXPECT_FALSE(circuit.lit("R"));
+            EXPECT_FALSE(circuit.operate({start, stop})) << "stop has precedence";
+            EXPECT_FALSE(circuit.operate({})) << "no restart by itself";
+        }
+    }
+}
+
+}  // namespace
+}  // namespace ladrix::test
