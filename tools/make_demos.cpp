@@ -215,7 +215,7 @@ void drawStarter(DemoSheet& sheet) {
           {"1PB", "Push button, red, STOP"},
           {"2PB", "Push button, green, START"},
           {"1LT", "Pilot light, white, 120 V"}});
-    sheet.from("Numbers at the left: lines. At the right of a coil's line: lines of its contacts.",
+    sheet.from("Line numbers at the left; at the right of a coil, the lines of its contacts.",
                0.75f, 9.625f, Remark);
 }
 
@@ -307,9 +307,9 @@ void drawStations(DemoSheet& sheet) {
          {{"1PB, 3PB", "Push buttons of station 1"},
           {"2PB, 4PB", "Push buttons of station 2"},
           {"1LT, 2LT", "Pilot lights, 120 V"}});
-    sheet.from("Numbers at the left: lines. At the right of a", 7, 6.375f, Remark);
-    sheet.from("coil's line: lines of its contacts, those", 7, 6.5625f, Remark);
-    sheet.from("closed at rest underscored.", 7, 6.75f, Remark);
+    sheet.from("Line numbers at the left; at the right of", 7, 6.375f, Remark);
+    sheet.from("a coil, the lines of its contacts, those that", 7, 6.5625f, Remark);
+    sheet.from("are closed at rest underscored.", 7, 6.75f, Remark);
 }
 
 // --------------------------------------------------------------------------------------------

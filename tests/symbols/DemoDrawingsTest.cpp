@@ -250,8 +250,12 @@ struct Circuit {
     bool lit(const std::string& tag) const { return live("InsertLamp", tag); }
     bool operate(std::set<std::string> buttons) {
         held = std::move(buttons);
-        for (int settling = 0; settling < 4; ++settling)
-            M = live("InsertRelayCoil", "M");
+        for (int settling = 0; settling < 4; ++settling) {
+            const bool energised = live("InsertRelayCoil", "M");
+            if (energised == M) return M;
+            M = energised;
+        }
+        ADD_FAILURE() << "the coil chatters";
         return M;
     }
 };
