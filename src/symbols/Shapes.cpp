@@ -77,6 +77,15 @@ void addArc(Extent& extent, const Primitive& p) {
         if (angleWithin(axis, p.start, p.end)) at(axis);
 }
 
+Single reachOf(std::span<const Primitive> primitives) {
+    Single reach = 0;
+    for (const Primitive& p : primitives) {
+        reach = std::max({reach, std::fabs(p.a1) + p.r, std::fabs(p.b1) + p.r});
+        if (isTwoPoint(p.kind)) reach = std::max({reach, std::fabs(p.a2), std::fabs(p.b2)});
+    }
+    return reach;
+}
+
 }  // namespace
 
 Primitive turned(const Primitive& p, Turn turn, Single moveA, Single moveB) {
@@ -138,13 +147,13 @@ Extent Shape::placedExtent(Short orientation, Single x, Single y, Single scaleX,
     const Extent own = extent(orientation);
     Extent placed;
     if (own.empty()) return placed;
-    // A circle keeps its radius by the horizontal scale, so the larger scale bounds both axes.
     const Single widest =
         std::max({std::fabs(scaleX), std::fabs(scaleY), hasAbsolute ? 1.0f : 0.0f});
-    const Single reach = widest *
-                         std::max({std::fabs(own.left), std::fabs(own.top), std::fabs(own.right),
-                                   std::fabs(own.bottom)}) *
-                         (scaleX == scaleY && !hasAbsolute ? 1.0f : 2.0f);
+    // Unequal scales move an arc's ends along a circle that stays round: the whole circle counts.
+    const Single whole = reaches[anyOrientation ? 0 : static_cast<std::size_t>(orientation)];
+    const Single seen = std::max(
+        {std::fabs(own.left), std::fabs(own.top), std::fabs(own.right), std::fabs(own.bottom)});
+    const Single reach = widest * (scaleX == scaleY && !hasAbsolute ? seen : whole);
     placed.add(x - reach, y - reach);
     placed.add(x + reach, y + reach);
     return placed;
@@ -159,6 +168,7 @@ Shape shapeOf(const Symbol& symbol) {
             shape.anyOrientation ? std::size_t{0} : static_cast<std::size_t>(block.orientation);
         shape.orientations.at(index) = expanded(block);
         shape.extents.at(index) = extentOf(shape.orientations[index]);
+        shape.reaches.at(index) = reachOf(shape.orientations[index]);
         for (const Primitive& p : shape.orientations[index])
             if (p.absolute != 0) shape.hasAbsolute = true;
     }

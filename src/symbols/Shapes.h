@@ -26,6 +26,8 @@ struct Shape {
     const Symbol* symbol = nullptr;
     std::array<std::vector<Primitive>, MaxOrientations> orientations;
     std::array<Extent, MaxOrientations> extents;
+    // How far the points and whole circles go from the insertion point on either axis, at scale 1.
+    std::array<Single, MaxOrientations> reaches{};
     bool hasAbsolute = false;  // some figures are inches: extents hold at scale 1 only
     bool anyOrientation = false;
 
