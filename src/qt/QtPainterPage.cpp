@@ -232,18 +232,21 @@ void QtPainterPage::segment(const QLineF& line) {
 // cannot be seen is counted, not drawn.
 void QtPainterPage::dashes(const QLineF& line, double& phase) {
     if (!isFinite(line)) return;
-    const std::span<const double> pattern = dashPattern(pen_.style);
-    const double period = patternLength(pattern);
-    const double length = line.length() / view_.scale;
-    const double start = phase;
-    phase = std::fmod(phase + length, period);
     const std::optional<Span> span = inside(line, seen_);
-    if (!span || length <= 0) return;
     const auto piece = [&](double from, double to) {
         addToBatch(straight_, onPixels({line.pointAt(from), line.pointAt(to)}));
     };
-    if (period * view_.scale * deviceScale_ < ShortestDashPeriod)
-        return piece(span->from, span->to);
+    const std::span<const double> pattern = dashPattern(pen_.style);
+    const double period = patternLength(pattern);
+    // So far out a dash is less than what the numbers tell apart.
+    if (isFarOut(line) || period * view_.scale * deviceScale_ < ShortestDashPeriod) {
+        if (span) piece(span->from, span->to);
+        return;
+    }
+    const double length = line.length() / view_.scale;
+    const double start = phase;
+    phase = std::fmod(phase + length, period);
+    if (!span || length <= 0) return;
     const double first = span->from * length;
     const double last = span->to * length;
     double at = std::floor((start + first) / period) * period - start;
