@@ -189,6 +189,7 @@ void openChosen(FileBrowser& browser, Editor& editor) {
     // A drawing that has been opened has cleared the flag. One that has not must not lend its name
     // to what the tables hold instead.
     if (!std::exchange(drawing.OpenAfterSave, false)) return;
+    if (drawing.CurrentFileName != browser.BrowserFile) return;
     drawing.CurrentFolder = std::move(formerFolder);
     drawing.CurrentFileName = std::move(formerName);
 }

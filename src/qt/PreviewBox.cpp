@@ -1,0 +1,82 @@
+#include "qt/PreviewBox.h"
+
+#include <QPainter>
+#include <algorithm>
+
+#include "qt/QtPainterPage.h"
+
+namespace ladrix {
+
+namespace {
+
+constexpr int Margin = 12;
+constexpr int ShadowDepth = 4;
+constexpr double ThinnestPen = 0.75;  // pixels, so that a small page stays legible
+
+const QColor Desk(0xdf, 0xe2, 0xe7);
+const QColor PageEdge(0xbd, 0xc3, 0xcc);
+
+void paintShadow(QPainter& painter, const QRect& page) {
+    for (int i = 1; i <= ShadowDepth; ++i)
+        painter.fillRect(page.translated(i / 2, i).adjusted(-1, 0, 1, 0), QColor(0, 0, 0, 10));
+}
+
+}  // namespace
+
+PreviewBox::PreviewBox(Program& program, QWidget* parent) : QWidget(parent), program_(program) {
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+}
+
+QSize PreviewBox::sizeHint() const {
+    const int side = 16 * fontMetrics().height();
+    return {side, side};
+}
+
+QRect PreviewBox::pageRect() const {
+    const QRect room = rect().adjusted(Margin, Margin, -Margin, -Margin);
+    const FileBrowser& browser = program_.frmFile;
+    const QSizeF page(static_cast<double>(browser.PreviewWidth),
+                      static_cast<double>(browser.PreviewHeight));
+    QRect fitted(QPoint(), page.scaled(room.size(), Qt::KeepAspectRatio).toSize());
+    fitted.moveCenter(room.center());
+    return fitted;
+}
+
+void PreviewBox::renderPage(const QRect& page) {
+    const qreal ratio = devicePixelRatioF();
+    const QSize pixels = page.size() * ratio;
+    if (image_.size() == pixels && version_ == program_.frmFile.PreviewVersion) return;
+    version_ = program_.frmFile.PreviewVersion;
+    image_ = QPixmap(pixels);
+    image_.setDevicePixelRatio(ratio);
+    image_.fill(Qt::white);
+    QPainter painter(&image_);
+    PageView view;
+    view.scale = page.width() / static_cast<double>(program_.frmFile.PreviewWidth);
+    view.penUnit = std::max(view.scale / 96, ThinnestPen / ratio);
+    view.target = QRectF(QPointF(), QSizeF(page.size()));
+    QtPainterPage surface("picPreview");
+    surface.reset(&painter, view);
+    drawPreview(program_.frmFile, program_.editor, surface);
+    surface.flush();
+}
+
+void PreviewBox::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.fillRect(rect(), Desk);
+    const QRect page = pageRect();
+    if (page.width() <= 0 || page.height() <= 0) return;
+    if (!program_.frmFile.PreviewShown) {
+        painter.setPen(palette().color(QPalette::PlaceholderText));
+        painter.drawText(page, Qt::AlignCenter | Qt::TextWordWrap,
+                         tr("Select a drawing to see it here."));
+        return;
+    }
+    paintShadow(painter, page);
+    renderPage(page);
+    painter.drawPixmap(page.topLeft(), image_);
+    painter.setPen(PageEdge);
+    painter.drawRect(page.adjusted(-1, -1, 0, 0));
+}
+
+}  // namespace ladrix

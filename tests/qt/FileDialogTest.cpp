@@ -1,0 +1,385 @@
+// The browser's real dialog, driven through its widgets by keys and clicks.
+#include "qt/FileDialog.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QThread>
+#include <QTimer>
+#include <QTreeView>
+#include <functional>
+
+#include "canvas/DrawingCommands.h"
+#include "platform/Encoding.h"
+#include "qt/DescriptionDialog.h"
+#include "qt/LogDialog.h"
+#include "support/FakePlatform.h"
+
+namespace ladrix {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+void ensureApplication() {
+    if (QCoreApplication::instance()) return;
+    static int count = 1;
+    static char name[] = "qt_tests";
+    static char* arguments[] = {name, nullptr};
+    static QApplication application(count, arguments);
+}
+
+void settle() {
+    for (int i = 0; i < 5; ++i)
+        QCoreApplication::processEvents();
+}
+
+void press(int key, const QString& text = {}, Qt::KeyboardModifiers modifiers = {}) {
+    QWidget* const target = QApplication::focusWidget();
+    ASSERT_TRUE(target) << "nothing has the focus";
+    QKeyEvent down(QEvent::KeyPress, key, modifiers, text);
+    QKeyEvent up(QEvent::KeyRelease, key, modifiers, text);
+    QCoreApplication::sendEvent(target, &down);
+    QCoreApplication::sendEvent(target, &up);
+    settle();
+}
+
+void type(const QString& text) {
+    for (const QChar c : text)
+        press(0, QString(c));
+}
+
+template <class Widget>
+Widget& named(QWidget& window, const char* name) {
+    auto* const found = window.findChild<Widget*>(QString::fromLatin1(name));
+    if (!found) throw std::logic_error(std::string("no widget ") + name);
+    return *found;
+}
+
+QStringList shownNames(QWidget& dialog) {
+    const QAbstractItemModel& model = *named<QTreeView>(dialog, "FileList1").model();
+    QStringList names;
+    for (int row = 0; row < model.rowCount(); ++row)
+        names << model.index(row, 0).data().toString();
+    return names;
+}
+
+class FileDialogTest : public testing::Test {
+  protected:
+    FileDialogTest() {
+        ensureApplication();
+        fake.folder.makeFolder("drawings");
+        program.paths.DrawingsPath = fake.folder / "drawings/";
+        program.editor.drawing.TempFolder = fake.folder / "program/";
+    }
+
+    void write(const std::string& name, std::string_view description) {
+        fake.folder.write("drawings/" + name,
+                          "///File Description///\r\n" + std::string(description) +
+                              "\r\n///End File Description///\r\n11x17Landscape\r\n\r\n"
+                              "InsertSavedLine\xFF"
+                              "1\xFF"
+                              "5.5\xFF"
+                              "16\xFF"
+                              "5.5\xFF"
+                              "0\xFF"
+                              "0\r\n\r\n"
+                              "///Picture Files///\r\n");
+    }
+
+    // Shows the dialog and acts on it while it is up; closes what the steps left open.
+    template <class Dialog>
+    void drive(const std::function<void(Dialog&)>& steps) {
+        Dialog dialog(program, nullptr);
+        QTimer::singleShot(0, &dialog, [&] {
+            dialog.activateWindow();
+            for (int i = 0; i < 1000 && !QApplication::focusWidget(); ++i) {
+                QThread::msleep(5);
+                QCoreApplication::processEvents();
+            }
+            try {
+                steps(dialog);
+            } catch (const std::exception& fault) {
+                ADD_FAILURE() << fault.what();
+            }
+            if (dialog.isVisible()) dialog.reject();
+        });
+        dialog.run();
+        EXPECT_FALSE(dialog.isVisible());
+    }
+    void open(const std::function<void(FileDialog&)>& steps) {
+        program.editor.drawing.SaveInProgress = false;
+        drive(steps);
+    }
+    void save(const std::function<void(FileDialog&)>& steps) {
+        program.editor.drawing.SaveInProgress = true;
+        drive(steps);
+    }
+
+    test::FakePlatform fake;
+    Program program{fake.platform};
+};
+
+TEST_F(FileDialogTest, ADrawingIsFoundSeenAndOpenedByKeysAlone) {
+    write("Motor 2.els", "Second");
+    write("Motor 10.els", "Tenth");
+    open([&](FileDialog& dialog) {
+        EXPECT_THAT(shownNames(dialog), ElementsAre("Motor 2.els", "Motor 10.els"));
+        EXPECT_FALSE(named<QPushButton>(dialog, "cmdOpenOK").isEnabled());
+        EXPECT_EQ(program.frmFile.Selected, -1) << "nothing is previewed unasked";
+        type("motor 1");
+        EXPECT_EQ(dialog.windowTitle(), "Open... Motor 10.els");
+        EXPECT_EQ(named<QPlainTextEdit>(dialog, "txtDescription").toPlainText(), "Tenth");
+        press(Qt::Key_Up);
+        EXPECT_EQ(named<QPlainTextEdit>(dialog, "txtDescription").toPlainText(), "Second");
+        press(Qt::Key_Return);
+        EXPECT_FALSE(dialog.isVisible());
+    });
+    EXPECT_EQ(program.editor.drawing.CurrentFileName, "Motor 2.els");
+    EXPECT_EQ(program.editor.drawing.devices.DeviceCount, 1);
+}
+
+TEST_F(FileDialogTest, ThePreviewShowsThePageInItsShapeWithItsLines) {
+    write("a.els", "");
+    open([&](FileDialog& dialog) {
+        press(Qt::Key_Down);
+        const QImage image = named<QWidget>(dialog, "picPreview").grab().toImage();
+        // The page is what is white; the line goes across its middle.
+        QRect page;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                if (image.pixelColor(x, y) == Qt::white) page |= QRect(x, y, 1, 1);
+        EXPECT_NEAR(page.width() * 11.0 / 17, page.height(), 3);
+        int dark = 0;
+        for (int y = page.top(); y <= page.bottom(); ++y)
+            dark += image.pixelColor(page.center().x(), y).lightness() < 160;
+        EXPECT_GE(dark, 1);
+        EXPECT_LE(dark, 3) << "a single thin line";
+    });
+}
+
+TEST_F(FileDialogTest, EnterEntersAFolderOnceAndBackspaceLeavesItMarked) {
+    fake.folder.makeFolder("drawings/b/c");
+    fake.folder.makeFolder("drawings/a");
+    open([&](FileDialog& dialog) {
+        type("b");
+        press(Qt::Key_Return);
+        EXPECT_THAT(shownNames(dialog), ElementsAre("c")) << "the default button did not act too";
+        press(Qt::Key_Down);
+        press(Qt::Key_Return);
+        EXPECT_THAT(shownNames(dialog), IsEmpty());
+        press(Qt::Key_Backspace);
+        press(Qt::Key_Backspace);
+        EXPECT_THAT(shownNames(dialog), ElementsAre("a", "b"));
+        EXPECT_EQ(program.frmFile.Selected, 1);
+        press(Qt::Key_Escape);
+        EXPECT_FALSE(dialog.isVisible());
+    });
+}
+
+TEST_F(FileDialogTest, ThePathCanBeClickedAndTyped) {
+    fake.folder.makeFolder("drawings/deep/deeper");
+    write("x & y.els", "Typed");
+    open([&](FileDialog& dialog) {
+        QWidget& path = named<QWidget>(dialog, "Dir1");
+        QLineEdit& text = named<QLineEdit>(path, "txtPath");
+        const auto go = [&](const QString& typed) {
+            press(Qt::Key_L, {}, Qt::ControlModifier);
+            text.setText(typed);
+            emit text.returnPressed();
+            settle();
+        };
+        go("deep/deeper");
+        EXPECT_EQ(program.frmFile.BrowserFolder, fake.folder / "drawings/deep/deeper/");
+        QAbstractButton* above = nullptr;
+        for (auto* const button : path.findChildren<QAbstractButton*>())
+            if (button->accessibleName() == "drawings") above = button;
+        ASSERT_TRUE(above);
+        above->click();
+        settle();
+        EXPECT_EQ(program.frmFile.BrowserFolder, fake.folder / "drawings/");
+        go("x & y.els");
+        EXPECT_EQ(dialog.windowTitle(), "Open... x & y.els");
+    });
+}
+
+TEST_F(FileDialogTest, ABadFileShowsItsBoxAndAnotherCanBeChosenByAClick) {
+    write("bad.els", "");
+    write("good.els", "Good");
+    fake.files.fail(test::Operation::Read, {failure::DeviceIO, "Input/output error"}, "bad");
+    open([&](FileDialog& dialog) {
+        QTreeView& list = named<QTreeView>(dialog, "FileList1");
+        const auto click = [&](int row) {
+            const QPointF at = list.visualRect(list.model()->index(row, 0)).center();
+            for (const auto kind : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+                const auto held = kind == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton;
+                QMouseEvent event(kind, at, list.viewport()->mapToGlobal(at), Qt::LeftButton, held,
+                                  Qt::NoModifier);
+                QCoreApplication::sendEvent(list.viewport(), &event);
+            }
+            settle();
+        };
+        click(0);
+        ASSERT_EQ(fake.dialogs.boxes.size(), 1u);
+        EXPECT_EQ(fake.dialogs.boxes[0].title, "Bad File Structure");
+        click(1);
+        EXPECT_EQ(fake.dialogs.boxes.size(), 1u);
+        EXPECT_EQ(named<QPlainTextEdit>(dialog, "txtDescription").toPlainText(), "Good");
+        named<QPushButton>(dialog, "cmdOpenOK").click();
+    });
+    EXPECT_EQ(program.editor.drawing.CurrentFileName, "good.els");
+}
+
+TEST_F(FileDialogTest, SavingTypesOverTheNameAndKeepsItsExtension) {
+    program.editor.drawing.CurrentFolder = program.paths.DrawingsPath;
+    program.editor.drawing.CurrentFileName = "Old.els";
+    save([&](FileDialog& dialog) {
+        QLineEdit& name = named<QLineEdit>(dialog, "txtSaveAs");
+        EXPECT_EQ(QApplication::focusWidget(), &name);
+        EXPECT_EQ(name.selectedText(), "Old");
+        EXPECT_FALSE(named<QWidget>(dialog, "framPreview").isVisible());
+        type(QStringLiteral("N\u00e4chste \u03a9"));
+        named<QRadioButton>(dialog, "optFileType1").click();
+        settle();
+        EXPECT_EQ(name.text(), QStringLiteral("N\u00e4chste \u03a9.tpl"));
+        name.setFocus();
+        press(Qt::Key_Return);
+        EXPECT_FALSE(dialog.isVisible());
+    });
+    EXPECT_EQ(toUtf8(program.editor.drawing.CurrentFileName),
+              "N\xC3\xA4"
+              "chste \xCE\xA9.tpl");
+    EXPECT_TRUE(std::filesystem::exists(fake.folder.native("drawings") /
+                                        std::filesystem::path(u8"N\u00e4chste \u03a9.tpl")));
+}
+
+TEST_F(FileDialogTest, ReplacingAsksAndARefusedNameLeavesTheDialogUp) {
+    fake.folder.write("drawings/there.els", "old");
+    save([&](FileDialog& dialog) {
+        type("wh?t");
+        press(Qt::Key_Return);
+        ASSERT_EQ(fake.dialogs.boxes.size(), 1u);
+        EXPECT_EQ(fake.dialogs.boxes[0].title, "Illegal Filename");
+        named<QLineEdit>(dialog, "txtSaveAs").selectAll();
+        type("there");
+        fake.dialogs.answers = {Answer::No};
+        press(Qt::Key_Return);
+        EXPECT_TRUE(dialog.isVisible());
+        EXPECT_EQ(fake.folder.read("drawings/there.els"), "old");
+        fake.dialogs.answers = {Answer::Yes};
+        press(Qt::Key_Return);
+        EXPECT_FALSE(dialog.isVisible());
+    });
+    EXPECT_NE(fake.folder.read("drawings/there.els"), "old");
+}
+
+TEST_F(FileDialogTest, ANewFolderAppearsAndIsMarked) {
+    write("a.els", "");
+    save([&](FileDialog& dialog) {
+        fake.dialogs.inputAnswers = {"Pumps"};
+        named<QPushButton>(dialog, "cmdNewFolder").click();
+        settle();
+        EXPECT_THAT(shownNames(dialog), ElementsAre("Pumps", "a.els"));
+        EXPECT_EQ(named<QTreeView>(dialog, "FileList1").currentIndex().row(), 0);
+    });
+}
+
+TEST_F(FileDialogTest, OneDefaultButtonAndTheSizeIsRemembered) {
+    const auto defaults = [](QWidget& dialog) {
+        QStringList names;
+        for (const auto* const button : dialog.findChildren<QPushButton*>())
+            if (button->isDefault() && button->isVisible()) names << button->objectName();
+        return names;
+    };
+    open([&](FileDialog& dialog) {
+        EXPECT_THAT(defaults(dialog), ElementsAre("cmdOpenOK"));
+        dialog.resize(777, 555);
+        settle();
+    });
+    save([&](FileDialog& dialog) {
+        EXPECT_THAT(defaults(dialog), ElementsAre("cmdSaveAs"));
+        EXPECT_EQ(dialog.size(), QSize(777, 555));
+    });
+}
+
+TEST_F(FileDialogTest, NothingIsCutOffInLargeType) {
+    const QFont former = QApplication::font();
+    QFont large = former;
+    large.setPointSizeF(2 * former.pointSizeF());
+    QApplication::setFont(large);
+    const auto check = [](FileDialog& dialog) {
+        QList<QWidget*> texts;
+        for (auto* const widget : dialog.findChildren<QLabel*>())
+            texts << widget;
+        for (auto* const widget : dialog.findChildren<QPushButton*>())
+            texts << widget;
+        for (auto* const widget : dialog.findChildren<QRadioButton*>())
+            texts << widget;
+        for (const QWidget* const widget : texts) {
+            if (!widget->isVisible()) continue;
+            EXPECT_GE(widget->width(), widget->sizeHint().width())
+                << widget->objectName().toStdString();
+            EXPECT_GE(widget->height(), widget->sizeHint().height())
+                << widget->objectName().toStdString();
+        }
+        EXPECT_LE(dialog.height(), dialog.screen()->availableSize().height());
+    };
+    open(check);
+    save(check);
+    QApplication::setFont(former);
+}
+
+TEST_F(FileDialogTest, StrangeNamesStayOnOneLineAndLeadToTheirFiles) {
+    write("two\x0Alines.els", "Split");
+    open([&](FileDialog& dialog) {
+        EXPECT_FALSE(shownNames(dialog).front().contains('\n'));
+        press(Qt::Key_Down);
+        EXPECT_EQ(named<QPlainTextEdit>(dialog, "txtDescription").toPlainText(), "Split");
+    });
+}
+
+TEST_F(FileDialogTest, TheDescriptionTakesWhatAFileCanHold) {
+    fake.dialogs.duringForm = [&](Form) {
+        drive<DescriptionDialog>([&](DescriptionDialog& dialog) {
+            QPlainTextEdit& box = named<QPlainTextEdit>(dialog, "txtDescription");
+            EXPECT_EQ(box.toPlainText(), "One\nTwo");
+            type(QStringLiteral(" \u03a9\u00fc"));
+            press(Qt::Key_Return, "\n");
+            type("3");
+            EXPECT_EQ(box.toPlainText(), QStringLiteral("One\nTwo \u00fc\n3"));
+            named<QPushButton>(dialog, "cmdSave").click();
+            EXPECT_FALSE(dialog.isVisible());
+        });
+    };
+    program.editor.drawing.FileDescription = "One\r\nTwo";
+    mnuEditFileDescription_Click(program.editor);
+    EXPECT_EQ(program.editor.drawing.FileDescription, "One\r\nTwo \xFC\r\n3");
+    EXPECT_TRUE(program.editor.drawing.DrawingChanged);
+}
+
+TEST_F(FileDialogTest, TheLogIsShownAtItsSizeAndCannotBeEdited) {
+    program.frmLog.Visible = true;
+    program.frmLog.Caption = "Error Log";
+    program.frmLog.txtLog = "first\r\nlast\r\n";
+    drive<LogDialog>([&](LogDialog& dialog) {
+        EXPECT_EQ(dialog.size(), QSize(800, 640));
+        EXPECT_EQ(dialog.windowTitle(), "Error Log");
+        QPlainTextEdit& log = named<QPlainTextEdit>(dialog, "txtLog");
+        log.setFocus();
+        type("x");
+        EXPECT_EQ(log.toPlainText(), "first\nlast\n");
+        press(Qt::Key_Escape);
+        EXPECT_FALSE(program.frmLog.Visible);
+    });
+}
+
+}  // namespace
+}  // namespace ladrix
