@@ -1,0 +1,5 @@
+#include "qt/Application.h"
+
+int main(int argc, char** argv) {
+    return ladrix::runEditor(argc, argv);
+}

@@ -1,0 +1,10 @@
+// The editor as a program.
+#pragma once
+
+namespace ladrix {
+
+// Runs until the window is closed. With "--demo-screenshot FILE" it opens the first demonstration
+// drawing, writes the window's picture to FILE and ends: 0, or 1 if it could not.
+int runEditor(int argc, char** argv);
+
+}  // namespace ladrix

@@ -1,0 +1,273 @@
+#include "qt/CanvasWidget.h"
+
+#include <QCoreApplication>
+#include <QGridLayout>
+#include <QPaintEvent>
+#include <QSignalBlocker>
+
+#include "canvas/Pointer.h"
+#include "canvas/View.h"
+#include "qt/Theme.h"
+
+namespace ladrix {
+
+namespace {
+
+constexpr Single TwipsPerPixel = 15;
+constexpr int OverlayRoom = 2;  // logical pixels that an overlay's pen takes around it
+constexpr QColor CrossHair{0x7D, 0x93, 0xB2};
+
+Short buttonNumber(Qt::MouseButton button) {
+    if (button == Qt::LeftButton) return LeftButton;
+    if (button == Qt::RightButton) return RightButton;
+    return button == Qt::MiddleButton ? Short{4} : Short{0};
+}
+
+Short heldButton(Qt::MouseButtons buttons) {
+    if (buttons & Qt::LeftButton) return LeftButton;
+    return buttons & Qt::RightButton ? Short{RightButton} : Short{0};
+}
+
+Short shiftState(Qt::KeyboardModifiers modifiers) {
+    int shift = 0;
+    if (modifiers & Qt::ShiftModifier) shift |= 1;
+    if (modifiers & Qt::ControlModifier) shift |= 2;
+    if (modifiers & Qt::AltModifier) shift |= 4;
+    return static_cast<Short>(shift);
+}
+
+void showBar(QScrollBar& bar, ScrollBar& shown, const ScrollBar& state) {
+    if (shown == state) return;
+    shown = state;
+    const QSignalBlocker quiet(bar);
+    bar.setVisible(state.Visible);
+    bar.setRange(0, state.Max);
+    bar.setPageStep(state.LargeChange);
+    bar.setSingleStep(state.SmallChange);
+    bar.setValue(state.Value);
+}
+
+}  // namespace
+
+CanvasWidget::CanvasWidget(Program& program, QtCanvas& canvas, QWidget* parent)
+    : QWidget(parent), program_(program), canvas_(canvas) {
+    setObjectName("picLX");
+    setAccessibleName(tr("Drawing"));
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
+    setMinimumSize(120, 120);
+}
+
+void CanvasWidget::refresh() {
+    const PointerState& now = program_.editor.form.pointer;
+    if (shown_ != now) {
+        updateOverlay(shown_.LineV, now.LineV);
+        updateOverlay(shown_.LineH, now.LineH);
+        updateOverlay(shown_.shpSelect, now.shpSelect);
+        updateOverlay(shown_.shpSelectLight, now.shpSelectLight);
+        updateOverlay(shown_.picGrip, now.picGrip);
+        if (shown_.Pointer != now.Pointer) showPointer(now.Pointer);
+        shown_ = now;
+    }
+    if (labelVersion_ != program_.editor.form.LabelVersion) {
+        labelVersion_ = program_.editor.form.LabelVersion;
+        update();
+    }
+    if (const QRegion damage = canvas_.takeDamage(); !damage.isEmpty()) update(damage);
+}
+
+void CanvasWidget::showPointer(MousePointer pointer) {
+    switch (pointer) {
+        case MousePointer::Default:
+            return unsetCursor();
+        case MousePointer::Cross:
+            return setCursor(theme::cursor("cursor-cross", 12, 12));
+        case MousePointer::ZoomIn:
+            return setCursor(theme::cursor("cursor-zoom-in", 10, 10));
+        case MousePointer::ZoomOut:
+            return setCursor(theme::cursor("cursor-zoom-out", 10, 10));
+    }
+}
+
+QRect CanvasWidget::pixelRect(const Overlay& overlay) const {
+    return QRectF(canvas_.toPixels(overlay.Left, overlay.Top),
+                  QSizeF(overlay.Width, overlay.Height) * canvas_.scale())
+        .toAlignedRect();
+}
+
+void CanvasWidget::updateOverlay(const Overlay& before, const Overlay& now) {
+    if (before == now) return;
+    const auto damage = [this](const Overlay& overlay) {
+        if (overlay.Visible)
+            update(
+                pixelRect(overlay).adjusted(-OverlayRoom, -OverlayRoom, OverlayRoom, OverlayRoom));
+    };
+    damage(before);
+    damage(now);
+}
+
+// The frame's inner size that the core sees leaves the margin out on both sides: at the ends of the
+// scroll bars the page stands off from the frame by it.
+void CanvasWidget::fitViewport() {
+    canvas_.resize(size(), devicePixelRatioF());
+    const auto twips = [](int pixels) {
+        return static_cast<Single>(std::max(1, pixels - 2 * QtCanvas::Margin)) * TwipsPerPixel;
+    };
+    Form_Resize(program_.editor, twips(width()), twips(height()));
+    loaded_ = true;
+    emit handled();
+}
+
+void CanvasWidget::resizeEvent(QResizeEvent*) {
+    fitViewport();
+}
+
+void CanvasWidget::paintEvent(QPaintEvent* event) {
+    if (loaded_ && canvas_.persistentLayer().devicePixelRatio() != devicePixelRatioF())
+        fitViewport();
+    QPainter painter(this);
+    painter.drawImage(QPointF(0, 0), canvas_.persistentLayer());
+    const QRect clip = event->rect();
+    canvas_.paintTemporaryLayer(painter, clip);
+    paintLabels(painter, clip);
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    paintCrossHair(painter);
+    paintBand(painter);
+    paintGrip(painter);
+}
+
+// A label's size is the fitted one for the zoom; the page scales by the zoom itself.
+void CanvasWidget::paintLabels(QPainter& painter, const QRect& clip) {
+    const FormLX& form = program_.editor.form;
+    if (form.lbl.empty()) return;
+    painter.save();
+    labels_.reset(&painter, canvas_.viewFor(clip));
+    const Single zoom = program_.editor.ZoomFactor;
+    FontSpec onPaper;
+    for (const LabelControl& label : form.lbl) {
+        if (!label.Visible) continue;
+        const double points = label.Font.size / zoom;
+        const QRectF bounds =
+            canvas_.textBounds(label.Left, label.Top, points, label.Caption.size());
+        if (!bounds.intersects(clip)) continue;
+        onPaper = label.Font;
+        onPaper.size = static_cast<Single>(points);
+        labels_.Text(label.Left, label.Top, onPaper, label.Caption, canvas_.ink(label.ForeColor));
+    }
+    labels_.flush();
+    painter.restore();
+}
+
+void CanvasWidget::paintCrossHair(QPainter& painter) const {
+    const auto line = [&](const Overlay& overlay) {
+        if (!overlay.Visible) return;
+        painter.setPen(QPen(CrossHair, 0));
+        painter.drawLine(
+            canvas_.toPixels(overlay.Left, overlay.Top),
+            canvas_.toPixels(overlay.Left + overlay.Width, overlay.Top + overlay.Height));
+    };
+    line(shown_.LineV);
+    line(shown_.LineH);
+}
+
+void CanvasWidget::paintBand(QPainter& painter) const {
+    const auto band = [&](const Overlay& overlay, QColor color) {
+        if (!overlay.Visible) return;
+        const QRect rect = pixelRect(overlay);
+        painter.setPen(QPen(color, 1));
+        color.setAlpha(36);
+        painter.setBrush(color);
+        painter.drawRect(rect.adjusted(0, 0, -1, -1));
+    };
+    band(shown_.shpSelect, theme::Accent);
+    band(shown_.shpSelectLight, QColor(0xD6, 0xE4, 0xFF));
+}
+
+void CanvasWidget::paintGrip(QPainter& painter) const {
+    if (!shown_.picGrip.Visible) return;
+    painter.setPen(QPen(theme::Accent, 1));
+    painter.setBrush(Qt::white);
+    painter.drawRect(pixelRect(shown_.picGrip).adjusted(0, 0, -1, -1));
+}
+
+void CanvasWidget::mousePressEvent(QMouseEvent* event) {
+    const QPointF at = event->position();
+    picLX_MouseDown(program_.editor, buttonNumber(event->button()), shiftState(event->modifiers()),
+                    canvas_.inchesX(at.x()), canvas_.inchesY(at.y()));
+    emit handled();
+}
+
+void CanvasWidget::mouseMoveEvent(QMouseEvent* event) {
+    const QPointF at = event->position();
+    picLX_MouseMove(program_.editor, heldButton(event->buttons()), shiftState(event->modifiers()),
+                    canvas_.inchesX(at.x()), canvas_.inchesY(at.y()));
+    emit handled();
+}
+
+void CanvasWidget::mouseReleaseEvent(QMouseEvent* event) {
+    const QPointF at = event->position();
+    picLX_MouseUp(program_.editor, buttonNumber(event->button()), shiftState(event->modifiers()),
+                  canvas_.inchesX(at.x()), canvas_.inchesY(at.y()));
+    emit handled();
+}
+
+// Comes in place of the second press.
+void CanvasWidget::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton) return mousePressEvent(event);
+    picLX_DblClick(program_.editor);
+    emit handled();
+}
+
+CanvasFrame::CanvasFrame(Program& program, QtCanvas& canvas, QWidget* parent)
+    : QWidget(parent), program_(program), picLX_(new CanvasWidget(program, canvas, this)) {
+    setObjectName("picFrame");
+    FormLX& form = program.editor.form;
+    HScroll1_ = makeBar(Qt::Horizontal, "HScroll1", form.HScroll1, &HScroll1_Change);
+    VScroll1_ = makeBar(Qt::Vertical, "VScroll1", form.VScroll1, &VScroll1_Change);
+    auto* grid = new QGridLayout(this);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setSpacing(0);
+    grid->addWidget(picLX_, 0, 0);
+    grid->addWidget(VScroll1_, 0, 1);
+    grid->addWidget(HScroll1_, 1, 0);
+    connect(picLX_, &CanvasWidget::handled, this, &CanvasFrame::handled);
+    connect(picLX_, &CanvasWidget::wheelTurned, this, &CanvasFrame::scrollByWheel);
+}
+
+QScrollBar* CanvasFrame::makeBar(Qt::Orientation orientation, const char* name, ScrollBar& state,
+                                 Handler changed) {
+    auto* bar = new QScrollBar(orientation, this);
+    bar->setObjectName(name);
+    bar->setFocusPolicy(Qt::NoFocus);
+    bar->hide();
+    QSizePolicy policy = bar->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    bar->setSizePolicy(policy);
+    connect(bar, &QScrollBar::valueChanged, this, [this, &state, changed](int value) {
+        state.Value = value;
+        changed(program_.editor);
+        emit handled();
+    });
+    return bar;
+}
+
+void CanvasFrame::scrollByWheel(QWheelEvent* event) {
+    const bool sideways = event->modifiers() & Qt::ShiftModifier;
+    QScrollBar* bar = sideways ? HScroll1_ : VScroll1_;
+    if (bar->isHidden()) return event->accept();
+    QCoreApplication::sendEvent(bar, event);
+}
+
+void CanvasFrame::paintEvent(QPaintEvent* event) {
+    QPainter(this).fillRect(event->rect(), theme::Desk);
+}
+
+void CanvasFrame::refresh() {
+    const FormLX& form = program_.editor.form;
+    showBar(*HScroll1_, shownHScroll1_, form.HScroll1);
+    showBar(*VScroll1_, shownVScroll1_, form.VScroll1);
+    picLX_->refresh();
+}
+
+}  // namespace ladrix

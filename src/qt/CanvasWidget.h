@@ -1,0 +1,86 @@
+// The canvas on the screen and its frame with the scroll bars. The widget turns pointer events into
+// the canvas handlers' calls and paints what the state says: the canvas' two layers, then labels,
+// cross-hair, band and grip, which are state and not widgets. A frame repaints only what changed.
+#pragma once
+
+#include <QScrollBar>
+#include <QWidget>
+
+#include "app/Program.h"
+#include "qt/QtCanvas.h"
+
+namespace ladrix {
+
+class CanvasWidget final : public QWidget {
+    Q_OBJECT
+
+  public:
+    CanvasWidget(Program& program, QtCanvas& canvas, QWidget* parent);
+
+    // Shows what the state says now.
+    void refresh();
+
+    // Where a point of the page stands, in the widget's pixels.
+    QPointF pixelOf(Single x, Single y) const { return canvas_.toPixels(x, y); }
+
+  signals:
+    void handled();  // a handler has run
+    void wheelTurned(QWheelEvent* event);
+
+  protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override { emit wheelTurned(event); }
+
+  private:
+    QRect pixelRect(const Overlay& overlay) const;
+    void updateOverlay(const Overlay& before, const Overlay& now);
+    void showPointer(MousePointer pointer);
+    void fitViewport();
+    void paintLabels(QPainter& painter, const QRect& clip);
+    void paintCrossHair(QPainter& painter) const;
+    void paintBand(QPainter& painter) const;
+    void paintGrip(QPainter& painter) const;
+
+    Program& program_;
+    QtCanvas& canvas_;
+    QtPainterPage labels_{"picLX"};
+    PointerState shown_;
+    unsigned labelVersion_ = 0;
+    bool loaded_ = false;  // the form has its first size
+};
+
+// picFrame: the canvas with its scroll bars. Room for both bars is kept free, so that the view
+// never jumps when one comes or goes.
+class CanvasFrame final : public QWidget {
+    Q_OBJECT
+
+  public:
+    CanvasFrame(Program& program, QtCanvas& canvas, QWidget* parent);
+
+    void refresh();
+    CanvasWidget& canvas() { return *picLX_; }
+
+  signals:
+    void handled();
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    using Handler = void (*)(Editor&);
+    QScrollBar* makeBar(Qt::Orientation orientation, const char* name, ScrollBar& state,
+                        Handler changed);
+    void scrollByWheel(QWheelEvent* event);
+
+    Program& program_;
+    CanvasWidget* picLX_;
+    QScrollBar *HScroll1_, *VScroll1_;
+    ScrollBar shownHScroll1_, shownVScroll1_;
+};
+
+}  // namespace ladrix

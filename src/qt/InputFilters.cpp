@@ -1,0 +1,42 @@
+#include "qt/InputFilters.h"
+
+#include "canvas/Colors.h"
+#include "platform/Encoding.h"
+
+namespace ladrix {
+
+namespace {
+
+// A character outside the 16-bit plane is two units, neither of which is accepted alone.
+template <class Accepts>
+void keepOnly(QString& input, int& cursor, Accepts accepts) {
+    QString kept;
+    int keptCursor = 0;
+    for (int i = 0; i < input.size(); ++i) {
+        if (!accepts(input.at(i))) continue;
+        kept += input.at(i);
+        if (i < cursor) ++keptCursor;
+    }
+    if (kept.size() == input.size()) return;
+    input = kept;
+    cursor = keptCursor;
+}
+
+}  // namespace
+
+QValidator::State RecordTextFilter::validate(QString& input, int& cursor) const {
+    keepOnly(input, cursor, [](QChar character) {
+        return !character.isSurrogate() && recordText(QString(character).toStdString()).has_value();
+    });
+    return Acceptable;
+}
+
+QValidator::State NumberFilter::validate(QString& input, int& cursor) const {
+    keepOnly(input, cursor, [](QChar character) {
+        return character.unicode() < 128 &&
+               numberKeyAllowed(static_cast<Short>(character.unicode()));
+    });
+    return Acceptable;
+}
+
+}  // namespace ladrix

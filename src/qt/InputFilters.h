@@ -1,0 +1,26 @@
+// What a field lets in: characters that its text cannot hold never enter, typed or pasted.
+#pragma once
+
+#include <QValidator>
+
+namespace ladrix {
+
+// Text for a record.
+class RecordTextFilter final : public QValidator {
+    Q_OBJECT
+
+  public:
+    using QValidator::QValidator;
+    State validate(QString& input, int& cursor) const override;
+};
+
+// The digits and decimal marks of a number field.
+class NumberFilter final : public QValidator {
+    Q_OBJECT
+
+  public:
+    using QValidator::QValidator;
+    State validate(QString& input, int& cursor) const override;
+};
+
+}  // namespace ladrix

@@ -1,0 +1,311 @@
+#include "qt/MainWindow.h"
+
+#include <QCloseEvent>
+#include <QCursor>
+#include <QKeyEvent>
+#include <QMenuBar>
+#include <QPainter>
+
+#include "canvas/DrawingCommands.h"
+#include "canvas/Keys.h"
+#include "qt/QtText.h"
+#include "qt/Theme.h"
+
+namespace ladrix {
+
+namespace {
+
+constexpr int FootHeight = 28;
+constexpr QSize SmallestWindow{800, 560};
+
+}  // namespace
+
+Short classicShift(Qt::KeyboardModifiers modifiers) {
+    int shift = 0;
+    if (modifiers & Qt::ShiftModifier) shift |= ShiftKey;
+    if (modifiers & Qt::ControlModifier) shift |= ControlKey;
+    if (modifiers & Qt::AltModifier) shift |= 4;
+    return static_cast<Short>(shift);
+}
+
+Short classicKeyCode(const QKeyEvent& event) {
+    switch (event.key()) {
+        case Qt::Key_Backspace:
+            return key::Backspace;
+        case Qt::Key_Tab:
+            return 9;
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            return key::Enter;
+        case Qt::Key_Escape:
+            return key::Escape;
+        case Qt::Key_PageUp:
+            return key::PageUp;
+        case Qt::Key_PageDown:
+            return key::PageDown;
+        case Qt::Key_End:
+            return 35;
+        case Qt::Key_Home:
+            return 36;
+        case Qt::Key_Left:
+            return key::Left;
+        case Qt::Key_Up:
+            return key::Up;
+        case Qt::Key_Right:
+            return key::Right;
+        case Qt::Key_Down:
+            return key::Down;
+        case Qt::Key_Insert:
+            return 45;
+        case Qt::Key_Delete:
+            return 46;
+        case Qt::Key_Equal:
+        case Qt::Key_Plus:
+            return key::Plus;
+        case Qt::Key_Minus:
+        case Qt::Key_Underscore:
+            return key::Minus;
+        default:
+            break;
+    }
+    const bool letterOrDigit = (event.key() >= Qt::Key_A && event.key() <= Qt::Key_Z) ||
+                               (event.key() >= Qt::Key_0 && event.key() <= Qt::Key_9);
+    return letterOrDigit ? static_cast<Short>(event.key()) : Short{0};
+}
+
+void ElidedLabel::setText(const QString& text) {
+    if (text_ == text) return;
+    text_ = text;
+    setAccessibleName(text);
+    arrangeTip();
+    update();
+}
+
+void ElidedLabel::arrangeTip() {
+    const bool cut = fontMetrics().horizontalAdvance(text_) > width();
+    setToolTip(cut ? text_ : QString());
+}
+
+void ElidedLabel::resizeEvent(QResizeEvent*) {
+    arrangeTip();
+}
+
+void ElidedLabel::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setPen(palette().color(foregroundRole()));
+    painter.drawText(rect(), Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
+                     fontMetrics().elidedText(text_, Qt::ElideRight, width()));
+}
+
+MainWindow::MainWindow(Program& program, QtCanvas& canvas) : program_(program) {
+    setObjectName("frmLX");
+    setMinimumSize(SmallestWindow);
+    makeMenus();
+
+    auto* inside = new QWidget(this);
+    auto* column = new QVBoxLayout(inside);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    picTop_ = new ToolStrip(program, inside);
+    column->addWidget(picTop_);
+    auto* middle = new QHBoxLayout;
+    middle->setSpacing(0);
+    picTools_ = new PalettePanel(program, buttonImages_, inside);
+    picFrame_ = new CanvasFrame(program, canvas, inside);
+    middle->addWidget(picTools_);
+    middle->addWidget(picFrame_, 1);
+    column->addLayout(middle, 1);
+    makeFoot(*column);
+    setCentralWidget(inside);
+    picMoreSym_ = new FlyOutWidget(program, buttonImages_, picTools_->palette(), inside);
+
+    connect(picTop_, &ToolStrip::handled, this, &MainWindow::refresh);
+    connect(picTools_, &PalettePanel::handled, this, &MainWindow::refresh);
+    connect(picFrame_, &CanvasFrame::handled, this, &MainWindow::refresh);
+    connect(picMoreSym_, &FlyOutWidget::handled, this, &MainWindow::refresh);
+    connect(picTop_, &ToolStrip::escapePressed, this, [this] {
+        Form_KeyDown(program_.editor, key::Escape, NoShift);
+        refresh();
+    });
+    bindings_.watch(program.editor.form.Caption,
+                  [this](const std::string& caption) { setWindowTitle(toQString(caption)); });
+    bindings_.watch(program.editor.form.menu, [this](const MenuStates&) { showMenus(); });
+    watchKeys();
+    refresh();
+    picFrame_->canvas().setFocus();
+}
+
+// An entry with entries below it is a menu of its own.
+void MainWindow::makeMenus() {
+    menuBar()->setObjectName("menuBar");
+    for (const Command& command : commandTable())
+        if (command.menu != command.entry) menus_[command.menu] = nullptr;
+    for (const Command& command : commandTable()) {
+        QAction* entry = makeEntry(command);
+        entries_[command.entry] = entry;
+        if (command.menu == command.entry) {
+            menuBar()->addAction(entry);
+        } else {
+            QMenu& menu = *menus_.at(command.menu);
+            if (command.separatorBefore) menu.addSeparator();
+            menu.addAction(entry);
+        }
+    }
+}
+
+QAction* MainWindow::makeEntry(const Command& command) {
+    const QString name =
+        QString::fromLatin1(command.name.data(), static_cast<int>(command.name.size()));
+    const bool opensMenu = command.menu == command.entry || menus_.contains(command.entry);
+    if (opensMenu) {
+        auto* menu = new QMenu(toQString(command.caption), this);
+        menu->setObjectName(name);
+        menus_[command.entry] = menu;
+        menu->menuAction()->setObjectName(name);
+        return menu->menuAction();
+    }
+    auto* entry = new QAction(toQString(command.caption), this);
+    entry->setObjectName(name);
+    entry->setCheckable(command.checkable);
+    entry->setMenuRole(QAction::NoRole);
+    if (!command.shortcut.empty()) entry->setShortcut(QKeySequence(toQString(command.shortcut)));
+    // The toolkit has flipped the check mark; the state puts it right.
+    connect(entry, &QAction::triggered, this, [this, which = command.entry] {
+        runCommand(program_, which);
+        showMenus();
+        refresh();
+    });
+    return entry;
+}
+
+void MainWindow::showMenus() {
+    for (const Command& command : commandTable()) {
+        const MenuState& state = program_.editor.form.menu[command.entry];
+        QAction& entry = *entries_.at(command.entry);
+        entry.setVisible(state.Visible);
+        entry.setEnabled(ladrix::isEnabled(program_, command));
+        if (command.checkable) entry.setChecked(state.Checked);
+    }
+}
+
+void MainWindow::popUp(std::string_view menuName) {
+    for (const auto& [entry, menu] : menus_)
+        if (command(entry).name == menuName) menu->popup(QCursor::pos());
+}
+
+void MainWindow::makeFoot(QBoxLayout& column) {
+    const FormLX& form = program_.editor.form;
+    auto* picBottom = new QWidget(this);
+    picBottom->setObjectName("picBottom");
+    picBottom->setFixedHeight(FootHeight);
+    auto* row = new QHBoxLayout(picBottom);
+    row->setContentsMargins(3 * theme::Unit, 0, 3 * theme::Unit, 0);
+    row->setSpacing(4 * theme::Unit);
+    auto* lblMessage = new ElidedLabel(picBottom);
+    lblMessage->setObjectName("lblMessage");
+    row->addWidget(lblMessage, 1);
+    bindings_.watch(form.lblMessage, [lblMessage](const Control& state) {
+        lblMessage->setText(toQString(state.Caption));
+    });
+    makeField("lblUndoCount", form.lblUndoCount, *row);
+    makeField("lblTime", form.lblTime, *row);
+    QLabel* lblCoords = makeField("lblCoords", form.lblCoords, *row);
+    lblCoords->setMinimumWidth(
+        lblCoords->fontMetrics().horizontalAdvance("X = 00.0000, Y = 00.0000"));
+    makeField("lblSelected", form.lblSelected, *row);
+    column.addWidget(picBottom);
+}
+
+QLabel* MainWindow::makeField(const char* name, const Control& state, QBoxLayout& row) {
+    auto* label = new QLabel(this);
+    label->setObjectName(name);
+    label->setForegroundRole(QPalette::PlaceholderText);
+    row.addWidget(label);
+    bindings_.watch(state, [label](const Control& now) {
+        label->setText(toQString(now.Caption));
+        label->setVisible(now.Visible && (!now.Caption.empty() || label->minimumWidth() > 0));
+    });
+    return label;
+}
+
+void MainWindow::refresh() {
+    if (refreshing_) {
+        refreshAgain_ = true;
+        return;
+    }
+    refreshing_ = true;
+    do {
+        refreshAgain_ = false;
+        showState();
+    } while (refreshAgain_);
+    refreshing_ = false;
+    if (program_.Ending && isVisible()) close();
+}
+
+void MainWindow::showState() {
+    bindings_.refresh();
+    picTop_->refresh();
+    picTools_->refresh();
+    picFrame_->refresh();
+    picMoreSym_->refresh();
+    giveFocus();
+}
+
+// A field in a panel that is closed cannot take the focus; it asks again when the panel opens.
+void MainWindow::giveFocus() {
+    const Focus wanted = std::exchange(program_.editor.form.FocusRequest, Focus::None);
+    switch (wanted) {
+        case Focus::Canvas:
+            return picFrame_->canvas().setFocus();
+        case Focus::TextEdit:
+            if (picTop_->txtEdit().isVisible()) picTop_->txtEdit().setFocus();
+            return;
+        case Focus::CircleEnd:
+            if (picTop_->txtCircleEnd().isVisible()) picTop_->txtCircleEnd().setFocus();
+            return;
+        case Focus::None:
+            return;
+    }
+}
+
+void MainWindow::watchKeys() {
+    for (QWidget* widget : findChildren<QWidget*>())
+        if (widget->focusPolicy() != Qt::NoFocus && widget != menuBar())
+            widget->installEventFilter(this);
+}
+
+void MainWindow::pressFormKey(const QKeyEvent& event) {
+    Form_KeyDown(program_.editor, classicKeyCode(event), classicShift(event.modifiers()));
+}
+
+// The form sees keys before the widget that has the focus.
+bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::KeyPress) return QMainWindow::eventFilter(watched, event);
+    const auto& press = *static_cast<QKeyEvent*>(event);
+    if (press.key() == Qt::Key_Tab || press.key() == Qt::Key_Backtab) return false;
+    pressFormKey(press);
+    const bool onCanvas = watched == &picFrame_->canvas();
+    if (onCanvas)
+        picLX_KeyDown(program_.editor, classicKeyCode(press), classicShift(press.modifiers()));
+    refresh();
+    return onCanvas || press.key() == Qt::Key_Escape;
+}
+
+// What no widget has taken comes here; the filter has seen it already unless nothing had the focus.
+void MainWindow::keyPressEvent(QKeyEvent* event) {
+    QWidget* focused = focusWidget();
+    if (focused && focused != this && focused->hasFocus()) return QMainWindow::keyPressEvent(event);
+    pressFormKey(*event);
+    refresh();
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    if (!program_.Ending && !Form_QueryUnload(program_.editor)) {
+        event->ignore();
+        return refresh();
+    }
+    program_.Ending = true;
+    event->accept();
+}
+
+}  // namespace ladrix

@@ -1,0 +1,88 @@
+// frmLX, the main window: menus from the command table, the tool strip, the palette, the canvas and
+// the foot. It passes events on to the handlers and then shows what the state says.
+#pragma once
+
+#include <QAction>
+#include <QMainWindow>
+#include <QMenu>
+#include <map>
+
+#include "app/CommandTable.h"
+#include "app/Program.h"
+#include "qt/Binding.h"
+#include "qt/CanvasWidget.h"
+#include "qt/PaletteWidget.h"
+#include "qt/ToolStrip.h"
+
+namespace ladrix {
+
+// A line of text that is cut with an ellipsis where it is too long, and then tells itself whole in
+// its tip.
+class ElidedLabel final : public QWidget {
+    Q_OBJECT
+    Q_PROPERTY(QString text READ text)
+
+  public:
+    using QWidget::QWidget;
+    const QString& text() const { return text_; }
+    void setText(const QString& text);
+    QSize minimumSizeHint() const override { return {40, fontMetrics().height()}; }
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+  private:
+    void arrangeTip();
+
+    QString text_;
+};
+
+class MainWindow final : public QMainWindow {
+    Q_OBJECT
+
+  public:
+    MainWindow(Program& program, QtCanvas& canvas);
+
+    // Shows what the state says now. Called after every handler; costs what has changed.
+    void refresh();
+
+    CanvasWidget& canvas() { return picFrame_->canvas(); }
+    PaletteWidget& palette() { return picTools_->palette(); }
+
+    // Pops up the menu of this name at the pointer.
+    void popUp(std::string_view menuName);
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
+  private:
+    void makeMenus();
+    QAction* makeEntry(const Command& command);
+    void makeFoot(QBoxLayout& column);
+    QLabel* makeField(const char* name, const Control& state, QBoxLayout& row);
+    void watchKeys();
+    void pressFormKey(const QKeyEvent& event);
+    void showState();
+    void showMenus();
+    void giveFocus();
+
+    Program& program_;
+    ButtonImages buttonImages_;
+    Bindings bindings_;
+    std::map<Menu, QAction*> entries_;
+    std::map<Menu, QMenu*> menus_;
+    ToolStrip* picTop_ = nullptr;
+    PalettePanel* picTools_ = nullptr;
+    CanvasFrame* picFrame_ = nullptr;
+    FlyOutWidget* picMoreSym_ = nullptr;
+    bool refreshing_ = false, refreshAgain_ = false;
+};
+
+// The classic code of a key and the state of its modifiers: 1 Shift, 2 Ctrl, 4 Alt.
+Short classicKeyCode(const QKeyEvent& event);
+Short classicShift(Qt::KeyboardModifiers modifiers);
+
+}  // namespace ladrix

@@ -1,0 +1,235 @@
+#include "qt/QtCanvas.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "qt/QtImages.h"
+#include "qt/Theme.h"
+
+namespace ladrix {
+
+namespace {
+
+constexpr double PixelsPerInch = 96;
+constexpr double PenRoom = 4;   // logical pixels around what a pen draws
+constexpr int ShadowRings = 8;  // soft edge of the page's shadow, logical pixels
+constexpr int ShadowDrop = 2;
+
+}  // namespace
+
+QtCanvas::QtCanvas() {
+    arrange();
+}
+
+QtCanvas::~QtCanvas() {
+    endPainting();
+}
+
+void QtCanvas::resize(QSize viewport, double pixelRatio) {
+    endPainting();
+    viewport_ = viewport;
+    pixelRatio_ = pixelRatio;
+    image_ = QImage((QSizeF(viewport) * pixelRatio).toSize(), QImage::Format_RGB32);
+    image_.setDevicePixelRatio(pixelRatio);
+    image_.fill(theme::Desk);
+    allDamaged_ = true;
+    arrange();
+}
+
+void QtCanvas::SetScale(Single left, Single top, Single zoom) {
+    endPainting();
+    scaleLeft_ = left;
+    scaleTop_ = top;
+    zoom_ = zoom;
+    arrange();
+}
+
+// The page's corner falls on a whole device pixel, so that scrolling never blurs a line.
+void QtCanvas::arrange() {
+    view_.scale = PixelsPerInch * zoom_;
+    const auto onPixel = [this](double at) { return std::round(at * pixelRatio_) / pixelRatio_; };
+    view_.left = onPixel(Margin - scaleLeft_ * view_.scale);
+    view_.top = onPixel(Margin - scaleTop_ * view_.scale);
+    view_.penUnit = 1;
+    view_.target = QRectF(QPointF(0, 0), QSizeF(viewport_));
+    visible_ = {inchesX(-PenRoom), inchesY(-PenRoom), inchesX(viewport_.width() + PenRoom),
+                inchesY(viewport_.height() + PenRoom)};
+}
+
+QPointF QtCanvas::toPixels(double x, double y) const {
+    return {view_.left + x * view_.scale, view_.top + y * view_.scale};
+}
+
+Single QtCanvas::inchesX(double pixel) const {
+    return static_cast<Single>((pixel - view_.left) / view_.scale);
+}
+
+Single QtCanvas::inchesY(double pixel) const {
+    return static_cast<Single>((pixel - view_.top) / view_.scale);
+}
+
+PageView QtCanvas::viewFor(const QRect& clip) const {
+    PageView view = view_;
+    view.target = clip;
+    return view;
+}
+
+QtPainterPage* QtCanvas::persistentPage() {
+    if (painter_.isActive()) return &page_;
+    if (image_.isNull()) return nullptr;
+    painter_.begin(&image_);
+    page_.reset(&painter_, view_);
+    return &page_;
+}
+
+void QtCanvas::endPainting() {
+    if (!painter_.isActive()) return;
+    page_.flush();
+    painter_.end();
+}
+
+const QImage& QtCanvas::persistentLayer() {
+    endPainting();
+    return image_;
+}
+
+void QtCanvas::paintTemporaryLayer(QPainter& painter, const QRect& clip) {
+    if (temporary_.empty()) return;
+    painter.save();
+    overlay_.reset(&painter, viewFor(clip));
+    for (const auto& primitive : temporary_)
+        primitive(overlay_);
+    overlay_.flush();
+    painter.restore();
+}
+
+void QtCanvas::wipeTemporaryLayer() {
+    if (temporary_.empty()) return;
+    wipedBounds_ |= temporaryBounds_;
+    temporaryBounds_ = {};
+    temporary_.clear();
+}
+
+QRegion QtCanvas::takeDamage() {
+    QRegion region;
+    if (allDamaged_) {
+        region = QRect(QPoint(0, 0), viewport_);
+    } else {
+        region += wipedBounds_.toAlignedRect();
+        region += persistentDamage_.toAlignedRect();
+        if (temporaryGrown_) region += temporaryBounds_.toAlignedRect();
+        region &= QRect(QPoint(0, 0), viewport_);
+    }
+    allDamaged_ = temporaryGrown_ = false;
+    wipedBounds_ = persistentDamage_ = {};
+    return region;
+}
+
+// Hands the primitive to the layer in force, with the drawing properties of this moment.
+template <class Draw>
+void QtCanvas::draw(const QRectF& bounds, Draw primitive) {
+    const auto paint = [fillStyle = FillStyle, fillColor = ink(FillColor), width = DrawWidth,
+                        style = DrawStyle, primitive](QtPainterPage& page) {
+        page.FillStyle = fillStyle;
+        page.FillColor = fillColor;
+        page.DrawWidth = width;
+        page.DrawStyle = style;
+        primitive(page);
+    };
+    const QRectF seen = bounds & view_.target;
+    if (!AutoRedraw) {
+        temporaryBounds_ |= seen;
+        temporaryGrown_ = true;
+        temporary_.emplace_back(paint);
+        return;
+    }
+    wipeTemporaryLayer();
+    if (!allDamaged_) persistentDamage_ |= seen;
+    if (QtPainterPage* page = persistentPage()) paint(*page);
+}
+
+QRectF QtCanvas::pixelBounds(Single x1, Single y1, Single x2, Single y2) const {
+    const double room = PenRoom + DrawWidth;
+    return QRectF(toPixels(x1, y1), toPixels(x2, y2))
+        .normalized()
+        .adjusted(-room, -room, room, room);
+}
+
+QRectF QtCanvas::textBounds(Single x, Single y, double points, std::size_t length) const {
+    const double size = points / 72 * view_.scale;
+    const QPointF corner = toPixels(x, y);
+    return QRectF(corner.x() - size, corner.y() - size / 2,
+                  size * (2 + 1.5 * static_cast<double>(length)), size * 2.5);
+}
+
+void QtCanvas::Line(Single x1, Single y1, Single x2, Single y2, Long color, LineForm form) {
+    draw(pixelBounds(x1, y1, x2, y2),
+         [=, inked = ink(color)](QtPainterPage& page) { page.Line(x1, y1, x2, y2, inked, form); });
+}
+
+void QtCanvas::Circle(Single x, Single y, Single radius, Long color, Single aspect) {
+    draw(
+        pixelBounds(x - radius, y - radius, x + radius, y + radius),
+        [=, inked = ink(color)](QtPainterPage& page) { page.Circle(x, y, radius, inked, aspect); });
+}
+
+void QtCanvas::Arc(Single x, Single y, Single radius, Long color, double start, double end,
+                   Single aspect) {
+    draw(pixelBounds(x - radius, y - radius, x + radius, y + radius),
+         [=, inked = ink(color)](QtPainterPage& page) {
+             page.Arc(x, y, radius, inked, start, end, aspect);
+         });
+}
+
+void QtCanvas::Text(Single x, Single y, const FontSpec& font, std::string_view text, Long color) {
+    draw(textBounds(x, y, font.size, text.size()),
+         [=, kept = std::string(text), inked = ink(color)](QtPainterPage& page) {
+             page.Text(x, y, font, kept, inked);
+         });
+}
+
+void QtCanvas::PaintPicture(const Picture& picture, Single x, Single y, Single width,
+                            Single height) {
+    const auto* known = dynamic_cast<const QtPicture*>(&picture);
+    if (!known) throw Failure{failure::InvalidCall, "Not a picture of this toolkit"};
+    const QRectF bounds = pixelBounds(x, y, x + width, y + height);
+    if (AutoRedraw)
+        return draw(bounds, [&, x, y, width, height](QtPainterPage& page) {
+            page.PaintPicture(*known, x, y, width, height);
+        });
+    // The temporary layer may outlive the picture; the image's pixels are shared, not copied.
+    draw(bounds, [=, kept = QtPicture(known->image())](QtPainterPage& page) {
+        page.PaintPicture(kept, x, y, width, height);
+    });
+}
+
+void QtCanvas::Cls() {
+    wipeTemporaryLayer();
+    if (!AutoRedraw) return;
+    allDamaged_ = true;
+    endPainting();
+    if (image_.isNull()) return;
+    QPainter painter(&image_);
+    paintDesk(painter);
+}
+
+void QtCanvas::paintDesk(QPainter& painter) const {
+    const Single width = editor_ ? editor_->PageWidth : 8.5f;
+    const Single height = editor_ ? editor_->PageHeight : 11.0f;
+    const QRectF page(toPixels(0, 0), toPixels(width, height));
+    painter.fillRect(view_.target, theme::Desk);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(Qt::NoBrush);
+    for (int ring = 1; ring <= ShadowRings; ++ring) {
+        const int fading = (ShadowRings + 1 - ring) * 4;
+        painter.setPen(QPen(QColor(30, 40, 60, fading), 1));
+        const double out = ring - 0.5;
+        painter.drawRoundedRect(page.adjusted(-out, -out, out, out).translated(0, ShadowDrop),
+                                ring + 1, ring + 1);
+    }
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    painter.fillRect(page.adjusted(-1, -1, 1, 1), theme::PageEdge);
+    painter.fillRect(page, theme::color(BackColor));
+}
+
+}  // namespace ladrix

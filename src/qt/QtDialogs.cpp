@@ -1,0 +1,109 @@
+#include "qt/QtDialogs.h"
+
+#include <QDialog>
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QVBoxLayout>
+#include <cstdio>
+
+#include "platform/Encoding.h"
+#include "qt/InputFilters.h"
+#include "qt/QtText.h"
+#include "qt/Theme.h"
+
+namespace ladrix {
+
+namespace {
+
+constexpr int InputWidth = 360;
+
+QMessageBox::StandardButtons buttonsOf(Buttons buttons) {
+    switch (buttons) {
+        case Buttons::Ok:
+            return QMessageBox::Ok;
+        case Buttons::OkCancel:
+            return QMessageBox::Ok | QMessageBox::Cancel;
+        case Buttons::YesNo:
+            return QMessageBox::Yes | QMessageBox::No;
+        case Buttons::YesNoCancel:
+            return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+    }
+    return QMessageBox::Ok;
+}
+
+Answer answerOf(int button, Buttons buttons) {
+    if (buttons == Buttons::Ok) return Answer::Ok;
+    switch (button) {
+        case QMessageBox::Ok:
+            return Answer::Ok;
+        case QMessageBox::Yes:
+            return Answer::Yes;
+        case QMessageBox::No:
+            return Answer::No;
+        default:
+            return Answer::Cancel;
+    }
+}
+
+}  // namespace
+
+bool QtDialogs::turnedAway(std::string_view text) {
+    if (!unattended) return false;
+    refused = true;
+    std::fprintf(stderr, "ladrix: %s\n", toUtf8(text).c_str());
+    return true;
+}
+
+Answer QtDialogs::message(std::string_view text, std::string_view title, Buttons buttons) {
+    if (turnedAway(text)) return buttons == Buttons::Ok ? Answer::Ok : Answer::Cancel;
+    if (beforeModal) beforeModal();
+    QMessageBox box(window);
+    box.setObjectName("messageBox");
+    box.setIcon(buttons == Buttons::Ok ? QMessageBox::Information : QMessageBox::Question);
+    box.setTextFormat(Qt::PlainText);
+    box.setWindowTitle(toQString(title));
+    box.setText(toQString(text));
+    box.setStandardButtons(buttonsOf(buttons));
+    return answerOf(box.exec(), buttons);
+}
+
+std::optional<std::string> QtDialogs::input(std::string_view prompt, std::string_view title,
+                                            std::string_view value) {
+    if (turnedAway(prompt)) return std::nullopt;
+    if (beforeModal) beforeModal();
+    QDialog box(window);
+    box.setObjectName("inputBox");
+    box.setWindowTitle(toQString(title));
+    box.setMinimumWidth(InputWidth);
+    auto* label = new QLabel(toQString(prompt), &box);
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    auto* field = new QLineEdit(toQString(value), &box);
+    field->setValidator(new RecordTextFilter(field));
+    field->selectAll();
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, &box);
+    QObject::connect(buttons, &QDialogButtonBox::accepted, &box, &QDialog::accept);
+    QObject::connect(buttons, &QDialogButtonBox::rejected, &box, &QDialog::reject);
+    auto* column = new QVBoxLayout(&box);
+    column->setContentsMargins(4 * theme::Unit, 4 * theme::Unit, 4 * theme::Unit, 3 * theme::Unit);
+    column->setSpacing(3 * theme::Unit);
+    column->addWidget(label);
+    column->addWidget(field);
+    column->addWidget(buttons);
+    if (box.exec() != QDialog::Accepted) return std::nullopt;
+    return fromQString(field->text());
+}
+
+void QtDialogs::show(Form form) {
+    if (turnedAway("a dialog was to be shown") || !runForm) return;
+    if (beforeModal) beforeModal();
+    runForm(form);
+}
+
+void QtDialogs::popUp(std::string_view menuName) {
+    if (popUpMenu) popUpMenu(menuName);
+}
+
+}  // namespace ladrix

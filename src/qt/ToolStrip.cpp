@@ -1,0 +1,300 @@
+#include "qt/ToolStrip.h"
+
+#include <QFocusEvent>
+#include <QPainter>
+
+#include "canvas/Colors.h"
+#include "canvas/Labels.h"
+#include "canvas/Redraw.h"
+#include "qt/InputFilters.h"
+#include "qt/QtText.h"
+#include "qt/Theme.h"
+
+namespace ladrix {
+
+namespace {
+
+constexpr int StripHeight = theme::ControlHeight + 3 * theme::Unit;
+constexpr int NumberFieldWidth = 64;
+constexpr int TextFieldWidth = 360;
+
+void addDivider(QBoxLayout& row) {
+    auto* line = new QFrame;
+    line->setFrameShape(QFrame::VLine);
+    line->setFixedHeight(theme::ControlHeight - 2 * theme::Unit);
+    QPalette palette = line->palette();
+    palette.setColor(QPalette::WindowText, theme::Hairline);
+    line->setPalette(palette);
+    row.addSpacing(theme::Unit);
+    row.addWidget(line);
+    row.addSpacing(theme::Unit);
+}
+
+QBoxLayout* panelLayout(QWidget& panel) {
+    auto* layout = new QHBoxLayout(&panel);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(theme::Unit);
+    return layout;
+}
+
+// The field has left the focus to another window, a menu or a pop-up: it will be back.
+bool comesBack(const QFocusEvent& event) {
+    return event.reason() == Qt::ActiveWindowFocusReason ||
+           event.reason() == Qt::PopupFocusReason || event.reason() == Qt::MenuBarFocusReason;
+}
+
+}  // namespace
+
+ToolStrip::ToolStrip(Program& program, QWidget* parent) : QWidget(parent), program_(program) {
+    setObjectName("picTop");
+    setFixedHeight(StripHeight);
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(2 * theme::Unit, 0, 2 * theme::Unit, 1);
+    row->setSpacing(theme::Unit);
+    makeColors(*row);
+    addDivider(*row);
+    makeWidths(*row);
+    addDivider(*row);
+    makeScale(*row);
+    addDivider(*row);
+    makeSnapAndZoom(*row);
+    addDivider(*row);
+    makeReset(*row);
+    addDivider(*row);
+    makeRadiusPanel(*row);
+    makeTextPanel(*row);
+    row->addStretch(1);
+}
+
+void ToolStrip::run(Handler handler) {
+    handler(program_.editor);
+    emit handled();
+}
+
+QToolButton* ToolStrip::makeButton(const char* name, const Control& state, Handler handler,
+                                   Look look, const QString& textOrIcon, const QString& tip) {
+    auto* button = new QToolButton(this);
+    button->setObjectName(name);
+    button->setToolTip(tip);
+    button->setAccessibleName(tip);
+    button->setFocusPolicy(Qt::TabFocus);
+    button->setFixedHeight(theme::ControlHeight);
+    if (look == Look::Icon) {
+        button->setIcon(theme::icon(textOrIcon.toLatin1().constData()));
+        button->setAutoRaise(true);
+        button->setFixedWidth(theme::ControlHeight);
+    } else {
+        button->setText(textOrIcon);
+    }
+    bindings_.add(*button, state,
+                  handler ? Bindings::Handler::Present : Bindings::Handler::Missing);
+    if (handler) connect(button, &QToolButton::clicked, this, [this, handler] { run(handler); });
+    return button;
+}
+
+QLabel* ToolStrip::makeLabel(const char* name, const Control& state, const QString& text) {
+    auto* label = new QLabel(text, this);
+    label->setObjectName(name);
+    label->setForegroundRole(QPalette::PlaceholderText);
+    bindings_.add(*label, state);
+    return label;
+}
+
+void ToolStrip::makeColors(QBoxLayout& row) {
+    const FormLX& form = program_.editor.form;
+    auto* swatch = new ColorSwatch(this);
+    swatch->setObjectName("picSelectedColor");
+    swatch->setToolTip(tr("Colour of new items"));
+    bindings_.add(*swatch, form.picSelectedColor);
+    connect(swatch, &ColorSwatch::clicked, this, [this] { run(&picSelectedColor_Click); });
+    QToolButton* drop = makeButton("cmdColors", form.cmdColors, &cmdColors_Click, Look::Icon,
+                                   "colours", tr("Choose a colour"));
+    picColors_ = new ColorPanel(program_, swatch);
+    connect(picColors_, &ColorPanel::handled, this, &ToolStrip::handled);
+    connect(picColors_, &ColorPanel::escapePressed, this, &ToolStrip::escapePressed);
+    row.addWidget(swatch);
+    row.addWidget(drop);
+}
+
+void ToolStrip::makeWidths(QBoxLayout& row) {
+    const FormLX& form = program_.editor.form;
+    QToolButton* thin = makeButton(
+        "cmdDrawWidth1", form.cmdDrawWidth[1],
+        [](Editor& editor) { cmdDrawWidth_Click(editor, 1); }, Look::Icon, "width-thin",
+        tr("Thin lines"));
+    QToolButton* thick = makeButton(
+        "cmdDrawWidth0", form.cmdDrawWidth[0],
+        [](Editor& editor) { cmdDrawWidth_Click(editor, 0); }, Look::Icon, "width-thick",
+        tr("Thick lines"));
+    row.addWidget(thin);
+    row.addWidget(thick);
+}
+
+void ToolStrip::makeScale(QBoxLayout& row) {
+    FormLX& form = program_.editor.form;
+    auto* picScale = new QWidget(this);
+    picScale->setObjectName("picScale");
+    cmbScale_ = new QComboBox(picScale);
+    cmbScale_->setObjectName("cmbScale");
+    cmbScale_->setAccessibleName(tr("Scale of new symbols"));
+    cmbScale_->setToolTip(tr("Scale of new symbols"));
+    cmbScale_->setEditable(true);
+    cmbScale_->setCompleter(nullptr);
+    cmbScale_->setInsertPolicy(QComboBox::NoInsert);
+    cmbScale_->setValidator(new NumberFilter(cmbScale_));
+    cmbScale_->setFixedSize(76, theme::ControlHeight);
+    cmbScale_->setMaxVisibleItems(12);
+    const auto take = [this](Handler handler) {
+        program_.editor.form.cmbScale.Text = fromQString(cmbScale_->currentText());
+        if (handler) run(handler);
+    };
+    connect(cmbScale_, &QComboBox::activated, this, [take] { take(&cmbScale_Click); });
+    connect(cmbScale_, &QComboBox::editTextChanged, this, [take] { take(nullptr); });
+    connect(cmbScale_->lineEdit(), &QLineEdit::returnPressed, this,
+            [take] { take(&cmdScaleOK_Click); });
+    bindings_.watch(form.cmbScale, [this](const ComboBox& state) { showScaleList(state); });
+
+    QBoxLayout* inside = panelLayout(*picScale);
+    inside->addWidget(makeLabel("lblScale", form.lblScale, tr("Scale")));
+    inside->addWidget(cmbScale_);
+    inside->addWidget(makeButton("cmdScaleOK", form.cmdScaleOK, &cmdScaleOK_Click, Look::Text,
+                                 tr("OK"), tr("Use the typed scale")));
+    row.addWidget(picScale);
+}
+
+void ToolStrip::showScaleList(const ComboBox& state) {
+    const QSignalBlocker quiet(cmbScale_);
+    cmbScale_->setVisible(state.Visible);
+    cmbScale_->setEnabled(state.Enabled);
+    QStringList items;
+    for (const std::string& item : state.List)
+        items << toQString(item);
+    if (cmbScale_->count() != items.size()) {
+        cmbScale_->clear();
+        cmbScale_->addItems(items);
+    }
+    const QString text = toQString(state.Text);
+    if (cmbScale_->currentText() == text) return;
+    cmbScale_->setCurrentIndex(static_cast<int>(items.indexOf(text)));
+    cmbScale_->setEditText(text);
+}
+
+void ToolStrip::makeSnapAndZoom(QBoxLayout& row) {
+    const FormLX& form = program_.editor.form;
+    row.addWidget(makeButton("cmdSnapLower", form.cmdSnapLower, nullptr, Look::Icon, "snap-finer",
+                             tr("Halve the snap pitch")));
+    QToolButton* snap =
+        makeButton("cmdSnap", form.cmdSnap, nullptr, Look::Text, tr("Snap"), tr("Snap pitch"));
+    snap->setMinimumWidth(84);
+    row.addWidget(snap);
+    row.addWidget(makeButton("cmdSnapHigher", form.cmdSnapHigher, nullptr, Look::Icon,
+                             "snap-coarser", tr("Double the snap pitch")));
+    addDivider(row);
+    row.addWidget(
+        makeButton("cmdZoomIn", form.cmdZoomIn, nullptr, Look::Icon, "zoom-in", tr("Zoom in")));
+    row.addWidget(
+        makeButton("cmdZoomOut", form.cmdZoomOut, nullptr, Look::Icon, "zoom-out", tr("Zoom out")));
+}
+
+void ToolStrip::makeReset(QBoxLayout& row) {
+    QToolButton* reset = makeButton("cmdReset", program_.editor.form.cmdReset, &cmdReset_Click,
+                                    Look::Text, tr("Reset"), tr("End what is under way (Esc)"));
+    reset->setIcon(theme::icon("reset"));
+    reset->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    row.addWidget(reset);
+}
+
+QLineEdit* ToolStrip::makeNumberField(const char* name, TextBox& state, Handler changed,
+                                      const QString& tip) {
+    auto* field = new QLineEdit(this);
+    field->setObjectName(name);
+    field->setAccessibleName(tip);
+    field->setToolTip(tip);
+    field->setFixedSize(NumberFieldWidth, theme::ControlHeight);
+    field->setValidator(new NumberFilter(field));
+    bindings_.add(*field, state);
+    connect(field, &QLineEdit::textEdited, this, [this, &state, changed](const QString& text) {
+        state.Text = fromQString(text);
+        run(changed);
+    });
+    return field;
+}
+
+void ToolStrip::makeRadiusPanel(QBoxLayout& row) {
+    FormLX& form = program_.editor.form;
+    auto* picRadius = new QWidget(this);
+    picRadius->setObjectName("picRadius");
+    QLineEdit* radius =
+        makeNumberField("txtRadius", form.txtRadius, &txtRadius_Change, tr("Radius in inches"));
+    QLineEdit* start = makeNumberField("txtCircleStart", form.txtCircleStart,
+                                       &txtCircleStart_Change, tr("Start angle in degrees"));
+    txtCircleEnd_ = makeNumberField("txtCircleEnd", form.txtCircleEnd, &txtCircleEnd_Change,
+                                    tr("End angle in degrees"));
+    connect(start, &QLineEdit::returnPressed, txtCircleEnd_, [this] {
+        txtCircleEnd_->setFocus();
+        txtCircleEnd_->selectAll();
+    });
+    auto* angles = new QWidget(picRadius);
+    QBoxLayout* ofAngles = panelLayout(*angles);
+    ofAngles->addWidget(makeLabel("lblCircle1", form.lblCircle[1], tr("Start")));
+    ofAngles->addWidget(start);
+    ofAngles->addWidget(makeLabel("lblCircle2", form.lblCircle[2], tr("End")));
+    ofAngles->addWidget(txtCircleEnd_);
+    QBoxLayout* inside = panelLayout(*picRadius);
+    inside->addWidget(makeLabel("lblCircle0", form.lblCircle[0], tr("Radius")));
+    inside->addWidget(radius);
+    inside->addWidget(angles);
+    inside->addWidget(makeButton("cmdCircle", form.cmdCircle, nullptr, Look::Text, tr("Apply"),
+                                 tr("Apply to the selected circles and arcs")));
+    bindings_.addPanel(*picRadius, form.picRadius);
+    bindings_.watch(form.RadiusPanelWide, [angles](bool wide) { angles->setVisible(wide); });
+    row.addWidget(picRadius);
+}
+
+void ToolStrip::makeTextPanel(QBoxLayout& row) {
+    FormLX& form = program_.editor.form;
+    auto* picText = new QWidget(this);
+    picText->setObjectName("picText");
+    txtEdit_ = new QLineEdit(this);
+    txtEdit_->setObjectName("txtEdit");
+    txtEdit_->setAccessibleName(tr("Text of the label"));
+    txtEdit_->setFixedHeight(theme::ControlHeight);
+    txtEdit_->setMinimumWidth(120);
+    txtEdit_->setMaximumWidth(TextFieldWidth);
+    txtEdit_->setValidator(new RecordTextFilter(txtEdit_));
+    txtEdit_->installEventFilter(this);
+    bindings_.add(*txtEdit_, form.txtEdit);
+    connect(txtEdit_, &QLineEdit::textEdited, this, [this](const QString& text) {
+        program_.editor.form.txtEdit.Text = fromQString(text);
+        run(&txtEdit_Change);
+    });
+    connect(txtEdit_, &QLineEdit::returnPressed, this, [this] { run(&txtEdit_EnterPressed); });
+    auto* caption = new QLabel(tr("Text"), this);
+    caption->setForegroundRole(QPalette::PlaceholderText);
+    QBoxLayout* inside = panelLayout(*picText);
+    inside->addWidget(caption);
+    inside->addWidget(txtEdit_, 1);
+    bindings_.addPanel(*picText, form.picText);
+    row.addWidget(picText, 100);
+}
+
+bool ToolStrip::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::FocusIn && !comesBack(*static_cast<QFocusEvent*>(event)))
+        run(&txtEdit_GotFocus);
+    if (event->type() == QEvent::FocusOut && !comesBack(*static_cast<QFocusEvent*>(event)))
+        run(&txtEdit_LostFocus);
+    return QWidget::eventFilter(watched, event);
+}
+
+void ToolStrip::refresh() {
+    bindings_.refresh();
+    picColors_->refresh();
+}
+
+void ToolStrip::paintEvent(QPaintEvent* event) {
+    QPainter painter(this);
+    painter.fillRect(event->rect(), theme::Chrome);
+    painter.fillRect(0, height() - 1, width(), 1, theme::Hairline);
+}
+
+}  // namespace ladrix
