@@ -1,8 +1,8 @@
 #include "qt/Binding.h"
 
-#include <QAbstractButton>
 #include <QLabel>
 #include <QLineEdit>
+#include <QToolButton>
 
 #include "qt/QtText.h"
 #include "qt/Theme.h"
@@ -15,6 +15,8 @@ void Bindings::add(QAbstractButton& button, const Control& state, Handler handle
         button.setEnabled(now.Enabled && handler == Handler::Present);
         if (!now.Caption.empty()) button.setText(toQString(now.Caption));
         if (!now.ToolTipText.empty()) button.setToolTip(toQString(now.ToolTipText));
+        if (auto* tool = qobject_cast<QToolButton*>(&button); tool && tool->text().isEmpty())
+            tool->setAutoRaise(now.BackColor == ButtonFace);
         QPalette palette = button.palette();
         palette.setColor(QPalette::Button, theme::color(now.BackColor));
         button.setPalette(palette);

@@ -1,7 +1,6 @@
 #include "qt/CanvasWidget.h"
 
 #include <QCoreApplication>
-#include <QGridLayout>
 #include <QPaintEvent>
 #include <QSignalBlocker>
 
@@ -225,12 +224,6 @@ CanvasFrame::CanvasFrame(Program& program, QtCanvas& canvas, QWidget* parent)
     FormLX& form = program.editor.form;
     HScroll1_ = makeBar(Qt::Horizontal, "HScroll1", form.HScroll1, &HScroll1_Change);
     VScroll1_ = makeBar(Qt::Vertical, "VScroll1", form.VScroll1, &VScroll1_Change);
-    auto* grid = new QGridLayout(this);
-    grid->setContentsMargins(0, 0, 0, 0);
-    grid->setSpacing(0);
-    grid->addWidget(picLX_, 0, 0);
-    grid->addWidget(VScroll1_, 0, 1);
-    grid->addWidget(HScroll1_, 1, 0);
     connect(picLX_, &CanvasWidget::handled, this, &CanvasFrame::handled);
     connect(picLX_, &CanvasWidget::wheelTurned, this, &CanvasFrame::scrollByWheel);
 }
@@ -240,10 +233,8 @@ QScrollBar* CanvasFrame::makeBar(Qt::Orientation orientation, const char* name, 
     auto* bar = new QScrollBar(orientation, this);
     bar->setObjectName(name);
     bar->setFocusPolicy(Qt::NoFocus);
+    bar->setAttribute(Qt::WA_OpaquePaintEvent, false);  // the page shows through
     bar->hide();
-    QSizePolicy policy = bar->sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    bar->setSizePolicy(policy);
     connect(bar, &QScrollBar::valueChanged, this, [this, &state, changed](int value) {
         state.Value = value;
         changed(program_.editor);
@@ -259,8 +250,12 @@ void CanvasFrame::scrollByWheel(QWheelEvent* event) {
     QCoreApplication::sendEvent(bar, event);
 }
 
-void CanvasFrame::paintEvent(QPaintEvent* event) {
-    QPainter(this).fillRect(event->rect(), theme::Desk);
+void CanvasFrame::resizeEvent(QResizeEvent*) {
+    const int thick = VScroll1_->sizeHint().width();
+    const QSize free = size() - QSize(thick, thick);
+    VScroll1_->setGeometry(free.width(), 0, thick, free.height());
+    HScroll1_->setGeometry(0, free.height(), free.width(), thick);
+    picLX_->setGeometry(rect());
 }
 
 void CanvasFrame::refresh() {

@@ -54,8 +54,8 @@ class CanvasWidget final : public QWidget {
     bool loaded_ = false;  // the form has its first size
 };
 
-// picFrame: the canvas with its scroll bars. Room for both bars is kept free, so that the view
-// never jumps when one comes or goes.
+// picFrame: the canvas with its scroll bars, which lie over the margins that the canvas leaves
+// around the page, so that the view never jumps when one comes or goes.
 class CanvasFrame final : public QWidget {
     Q_OBJECT
 
@@ -69,7 +69,7 @@ class CanvasFrame final : public QWidget {
     void handled();
 
   protected:
-    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
   private:
     using Handler = void (*)(Editor&);

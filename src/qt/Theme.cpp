@@ -178,9 +178,8 @@ class Style final : public QProxyStyle {
 
     static void paintScrollBar(const QStyleOptionSlider& bar, QPainter& painter,
                                const QWidget* widget) {
-        const bool onDesk =
-            widget && widget->parentWidget() && widget->parentWidget()->objectName() == "picFrame";
-        painter.fillRect(bar.rect, onDesk ? Desk : Chrome);
+        const bool overCanvas = widget && !widget->testAttribute(Qt::WA_OpaquePaintEvent);
+        if (!overCanvas) painter.fillRect(bar.rect, Chrome);
         const bool flat = bar.orientation == Qt::Horizontal;
         const QRect thumb = scrollBarPart(bar, SC_ScrollBarSlider);
         const bool active = (bar.activeSubControls & SC_ScrollBarSlider) &&

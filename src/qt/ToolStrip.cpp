@@ -60,7 +60,7 @@ ToolStrip::ToolStrip(Program& program, QWidget* parent) : QWidget(parent), progr
     makeSnapAndZoom(*row);
     addDivider(*row);
     makeReset(*row);
-    addDivider(*row);
+    row->addSpacing(2 * theme::Unit);
     makeRadiusPanel(*row);
     makeTextPanel(*row);
     row->addStretch(1);
