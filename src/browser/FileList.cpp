@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <compare>
+#include <utility>
 
 #include "platform/Encoding.h"
 
@@ -43,12 +44,22 @@ std::strong_ordering compareNatural(std::string_view a, std::string_view b) {
     return a.size() <=> b.size();
 }
 
-std::strong_ordering compareBy(BrowserOrder order, const FileEntry& a, const FileEntry& b) {
-    if (order == BrowserOrder::Size) return a.size <=> b.size;
-    if (order == BrowserOrder::Modified) {
-        return a.modified.time_since_epoch().count() <=> b.modified.time_since_epoch().count();
-    }
-    return std::strong_ordering::equal;
+// By the names themselves where the natural order sees no difference.
+bool isBefore(std::strong_ordering natural, std::string_view a, std::string_view b) {
+    return natural == std::strong_ordering::equal ? a < b : natural == std::strong_ordering::less;
+}
+
+struct SortedEntry {
+    std::string key;  // the name in lower case
+    FileEntry entry;
+};
+
+bool comesBefore(BrowserOrder by, const SortedEntry& a, const SortedEntry& b) {
+    if (by == BrowserOrder::Size && a.entry.size != b.entry.size)
+        return a.entry.size < b.entry.size;
+    if (by == BrowserOrder::Modified && a.entry.modified != b.entry.modified)
+        return a.entry.modified < b.entry.modified;
+    return isBefore(compareNatural(a.key, b.key), a.entry.name, b.entry.name);
 }
 
 // The separator of a root and what stands before it: "/", "C:\".
@@ -62,8 +73,7 @@ std::size_t rootLength(const Files& files, std::string_view path) {
 }  // namespace
 
 bool naturalLess(std::string_view a, std::string_view b) {
-    const std::strong_ordering order = compareNatural(lowerCase(a), lowerCase(b));
-    return order == std::strong_ordering::equal ? a < b : order == std::strong_ordering::less;
+    return isBefore(compareNatural(lowerCase(a), lowerCase(b)), a, b);
 }
 
 bool matchesFilter(std::string_view name, std::string_view filter) {
@@ -89,14 +99,18 @@ std::vector<FileEntry> listFolder(Files& files, const std::string& folder, std::
 }
 
 void sortEntries(std::vector<FileEntry>& entries, const Sorting& sorting) {
-    std::sort(entries.begin(), entries.end(), [&](const FileEntry& a, const FileEntry& b) {
-        if (a.isFolder != b.isFolder) return a.isFolder;
-        const FileEntry& first = sorting.descending ? b : a;
-        const FileEntry& second = sorting.descending ? a : b;
-        const std::strong_ordering order = compareBy(sorting.order, first, second);
-        if (order != std::strong_ordering::equal) return order == std::strong_ordering::less;
-        return naturalLess(first.name, second.name);
+    // The keys are made once: thousands of names are compared many times.
+    std::vector<SortedEntry> sorted;
+    sorted.reserve(entries.size());
+    for (FileEntry& entry : entries)
+        sorted.push_back({lowerCase(entry.name), std::move(entry)});
+    std::sort(sorted.begin(), sorted.end(), [&](const SortedEntry& a, const SortedEntry& b) {
+        if (a.entry.isFolder != b.entry.isFolder) return a.entry.isFolder;
+        return sorting.descending ? comesBefore(sorting.order, b, a)
+                                  : comesBefore(sorting.order, a, b);
     });
+    std::transform(sorted.begin(), sorted.end(), entries.begin(),
+                   [](SortedEntry& from) { return std::move(from.entry); });
 }
 
 std::string resolvedPath(const Files& files, const std::string& folder, std::string_view typed) {

@@ -72,6 +72,8 @@ QWidget* FileDialog::makeTop() {
     cmdUp_ = new QToolButton(row);
     cmdUp_->setObjectName(QStringLiteral("cmdUp"));
     cmdUp_->setIcon(fileIcon(FileIcon::Up));
+    const int icon = qMax(fontMetrics().height(), 16);
+    cmdUp_->setIconSize(QSize(icon, icon));
     cmdUp_->setToolTip(tr("Folder above (Backspace)"));
     cmdUp_->setAccessibleName(tr("Folder above"));
     cmdUp_->setFocusPolicy(Qt::TabFocus);

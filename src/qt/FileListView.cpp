@@ -50,6 +50,9 @@ const QIcon& iconOf(const FileEntry& entry) {
 }
 
 constexpr int RowMargin = 3;
+constexpr int SmallestIcon = 16;
+constexpr int FewestNameCharacters = 20;
+constexpr int ColumnMarginCharacters = 4;
 
 // Rows with room to breathe and to hit.
 class RowDelegate final : public QStyledItemDelegate {
@@ -188,20 +191,31 @@ void FileListView::changeEvent(QEvent* event) {
     if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) fitColumns();
 }
 
-// Wide enough for the longest date and size of the locale, whatever the font.
+void FileListView::resizeEvent(QResizeEvent* event) {
+    QTreeView::resizeEvent(event);
+    fitColumns();
+}
+
+// Dates and sizes as wide as the longest of the locale; where names would have too little room the
+// size gives way, then the date.
 void FileListView::fitColumns() {
     const QFontMetrics metrics = fontMetrics();
-    const int margin = 6 * metrics.averageCharWidth();
-    const QDateTime longest(QDate(2028, 12, 28), QTime(22, 58, 58));
-    const QString date = dateText(longest);
-    const auto set = [&](int column, const QString& text) {
+    const int icon = qMax(metrics.height(), SmallestIcon);
+    setIconSize(QSize(icon, icon));
+    int room = viewport()->width() - FewestNameCharacters * metrics.averageCharWidth();
+    const auto fit = [&](int column, const QString& longest) {
         const QString head = model_->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+        const int widest =
+            qMax(metrics.horizontalAdvance(longest), metrics.horizontalAdvance(head));
+        const int width = widest + ColumnMarginCharacters * metrics.averageCharWidth();
+        room -= width;
+        setColumnHidden(column, room < 0);
         header()->setSectionResizeMode(column, QHeaderView::Fixed);
-        header()->resizeSection(column, margin + qMax(metrics.horizontalAdvance(text),
-                                                      metrics.horizontalAdvance(head)));
+        header()->resizeSection(column, width);
     };
-    set(FileListModel::Modified, date);
-    set(FileListModel::Size, QStringLiteral("1000.0 MB"));
+    fit(FileListModel::Modified,
+        dateText(QDateTime(QDate(2028, 12, 28), QTime(22, 58))) + QLatin1Char(' '));
+    fit(FileListModel::Size, QStringLiteral("1000.0 MB"));
 }
 
 }  // namespace ladrix

@@ -46,6 +46,7 @@ class FileListView final : public QTreeView {
   protected:
     void keyPressEvent(QKeyEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
   private:
     void fitColumns();

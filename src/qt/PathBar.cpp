@@ -28,8 +28,10 @@ PathBar::PathBar(QWidget* parent) : QWidget(parent), text_(new QLineEdit(this)) 
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     more_ = addButton(QStringLiteral("\u2026"));
     more_->setObjectName(QStringLiteral("cmdMoreFolders"));
-    more_->setPopupMode(QToolButton::InstantPopup);
-    more_->setMenu(new QMenu(more_));
+    more_->setAccessibleName(tr("Folders above"));
+    moreMenu_ = new QMenu(more_);
+    connect(more_, &QToolButton::clicked, this,
+            [this] { moreMenu_->popup(more_->mapToGlobal(QPoint(0, more_->height()))); });
     text_->setObjectName(QStringLiteral("txtPath"));
     text_->setAccessibleName(tr("Folder or file"));
     text_->hide();
@@ -89,11 +91,11 @@ void PathBar::arrange() {
         --first;
     }
     more_->setVisible(first > 0 && text_->isHidden());
-    more_->menu()->clear();
+    moreMenu_->clear();
     for (int i = 0; i < first; ++i) {
         const std::string path = parts_[static_cast<std::size_t>(i)].path;
-        more_->menu()->addAction(buttonText(toQString(parts_[static_cast<std::size_t>(i)].name)),
-                                 this, [this, path] { emit folderChosen(path); });
+        moreMenu_->addAction(buttonText(toQString(parts_[static_cast<std::size_t>(i)].name)), this,
+                             [this, path] { emit folderChosen(path); });
     }
     const int height = this->height() - 2 * Margin;
     int x = Margin;

@@ -9,7 +9,6 @@
 
 #include "browser/FileBrowser.h"
 
-class QHBoxLayout;
 class QLineEdit;
 class QMenu;
 class QToolButton;
@@ -46,7 +45,8 @@ class PathBar final : public QWidget {
     void arrange();
 
     std::vector<PathPart> parts_;
-    QToolButton* more_;            // the folders that have no room
+    QToolButton* more_;  // the folders that have no room
+    QMenu* moreMenu_;
     QList<QToolButton*> buttons_;  // one per part
     QLineEdit* text_;
 };
