@@ -6,7 +6,9 @@
 #include <cstdio>
 
 #include "app/Startup.h"
-#include "qt/Forms.h"
+#include "qt/DescriptionDialog.h"
+#include "qt/FileDialog.h"
+#include "qt/LogDialog.h"
 #include "qt/MainWindow.h"
 #include "qt/QtPlatform.h"
 #include "qt/Theme.h"
@@ -28,6 +30,20 @@ Options readOptions(const QStringList& arguments) {
     if (arguments.size() == 1) return {};
     if (arguments.size() == 3 && arguments[1] == ScreenshotOption) return {arguments[2], true};
     return {{}, false};
+}
+
+void runForm(Program& program, QWidget* window, Form form) {
+    switch (form) {
+        case Form::frmFile:
+            FileDialog(program, window).run();
+            return;
+        case Form::frmDesc:
+            DescriptionDialog(program, window).run();
+            return;
+        case Form::frmLog:
+            LogDialog(program, window).run();
+            return;
+    }
 }
 
 void connectPlatform(QtPlatform& machine, Program& program, MainWindow& window) {

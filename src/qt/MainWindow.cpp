@@ -128,7 +128,7 @@ MainWindow::MainWindow(Program& program, QtCanvas& canvas) : program_(program) {
         refresh();
     });
     bindings_.watch(program.editor.form.Caption,
-                  [this](const std::string& caption) { setWindowTitle(toQString(caption)); });
+                    [this](const std::string& caption) { setWindowTitle(toQString(caption)); });
     bindings_.watch(program.editor.form.menu, [this](const MenuStates&) { showMenus(); });
     watchKeys();
     refresh();
@@ -212,6 +212,7 @@ void MainWindow::makeFoot(QBoxLayout& column) {
     QLabel* lblCoords = makeField("lblCoords", form.lblCoords, *row);
     lblCoords->setMinimumWidth(
         lblCoords->fontMetrics().horizontalAdvance("X = 00.0000, Y = 00.0000"));
+    lblCoords->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     makeField("lblSelected", form.lblSelected, *row);
     column.addWidget(picBottom);
 }

@@ -207,7 +207,8 @@ FlyOutWidget::FlyOutWidget(Program& program, ButtonImages& images, PaletteWidget
     setMouseTracking(true);
     hide();
     connect(&palette, &PaletteWidget::scrolled, this, [this] {
-        if (isVisible()) program_.editor.form.picMoreSym.Visible = false, refresh();
+        program_.editor.form.picMoreSym.Visible = false;
+        refresh();
     });
 }
 

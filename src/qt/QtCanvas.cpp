@@ -26,12 +26,13 @@ QtCanvas::~QtCanvas() {
 }
 
 void QtCanvas::resize(QSize viewport, double pixelRatio) {
+    if (viewport == viewport_ && pixelRatio == pixelRatio_ && !image_.isNull()) return;
     endPainting();
     viewport_ = viewport;
     pixelRatio_ = pixelRatio;
+    image_ = {};  // two of them at once would be the program's largest use of memory
     image_ = QImage((QSizeF(viewport) * pixelRatio).toSize(), QImage::Format_RGB32);
     image_.setDevicePixelRatio(pixelRatio);
-    image_.fill(theme::Desk);
     allDamaged_ = true;
     arrange();
 }

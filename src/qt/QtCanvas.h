@@ -28,7 +28,7 @@ class QtCanvas final : public Canvas {
     // Whose page it shows; before that the page has its first size.
     void showPageOf(const Editor& editor) { editor_ = &editor; }
 
-    // The viewport in logical pixels. The persistent layer is blank until it is drawn again.
+    // The viewport in logical pixels. The persistent layer must be drawn again from Cls on.
     void resize(QSize viewport, double pixelRatio);
 
     // Between inches of the page and logical pixels of the viewport.
