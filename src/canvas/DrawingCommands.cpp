@@ -94,18 +94,38 @@ void removeTempDrawing(Editor& editor) {
         editor.platform.files->remove(tempDrawing(editor));
 }
 
-// A file that could not be read gives the drawing no name: a save must not replace it.
+void takeNameAway(Editor& editor) {
+    editor.drawing.CurrentFileName.clear();
+    editor.drawing.TitleState = 0;
+    UpdateTitle(editor);
+}
+
+// A file that could not be read, or only in part, gives the drawing no name: a save must not
+// replace it.
 void readNamedFile(Editor& editor) {
     Drawing& drawing = editor.drawing;
+    const std::string name = drawing.CurrentFileName;
     try {
-        openText(editor, readDrawingFile(*editor.platform.files,
-                                         drawing.CurrentFolder + drawing.CurrentFileName));
+        openText(editor, readDrawingFile(*editor.platform.files, drawing.CurrentFolder + name));
     } catch (const Failure&) {
-        drawing.CurrentFileName.clear();
-        drawing.TitleState = 0;
-        UpdateTitle(editor);
+        takeNameAway(editor);
         throw;
     }
+    if (!drawing.ReadIncomplete) return;
+    takeNameAway(editor);
+    editor.form.lblMessage.Caption = "Only a part of " + name +
+                                     " could be read. The drawing is untitled, so that saving "
+                                     "does not replace the file.";
+}
+
+// A preview has a message of its own for what cannot be read.
+void parseForPreview(Editor& editor) {
+    Platform quiet = editor.platform;
+    quiet.ReportError = [](std::string_view, const Failure&) {};
+    editor.drawing.ReadIncomplete = false;
+    ParseDeviceString(editor.drawing, quiet);
+    if (editor.drawing.ReadIncomplete)
+        throw Failure{failure::TypeMismatch, "A record cannot be read."};
 }
 
 void report(Editor& editor, std::string_view description, const Failure& failure) {
@@ -210,7 +230,7 @@ std::optional<PreviewOfFile> ReadPreview(Editor& editor, const std::string& fold
         const FileText text = readDrawingFile(*editor.platform.files, folder + file);
         DrawingParts parts = splitFile(text.content, text.modified);
         drawing.DeviceString = std::move(parts.devices);
-        ParseDeviceString(drawing, editor.platform);
+        parseForPreview(editor);
         drawing.DrawingChanged = false;
         drawing.OpenAfterSave = false;
         return PreviewOfFile{parts.pageKey, parts.description};

@@ -27,6 +27,7 @@ void copyPictures(Editor& editor) {
 }
 
 void parseAll(Editor& editor) {
+    editor.drawing.ReadIncomplete = false;
     ParseDeviceString(editor.drawing, editor.platform);
     ParseLabelString(editor.drawing, editor.platform);
     ParsePictureString(editor.drawing, editor.platform);

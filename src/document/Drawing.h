@@ -50,6 +50,7 @@ struct Drawing {
     bool TemplateActive = false;
     std::string TemplateDevices, TemplateLabels;
     bool Reading = false;
+    bool ReadIncomplete = false;  // a parser gave up since a file's text was taken
     Short TitleState = 0;  // 0 untitled, 1 named
     std::string TempFolder;
     std::string PictureParentFolder, PictureFolderName;

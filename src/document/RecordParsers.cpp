@@ -312,6 +312,11 @@ class LabelReader {
     const TextForm& form_;
 };
 
+void refuse(Drawing& drawing, const Platform& platform, std::string_view text) {
+    drawing.ReadIncomplete = true;
+    platform.tell(text);
+}
+
 void readDevices(Drawing& drawing, const Platform& platform) {
     drawing.devices.clear();
     drawing.DeviceRecords.clear();
@@ -320,7 +325,7 @@ void readDevices(Drawing& drawing, const Platform& platform) {
     if (text.empty()) return;
     const Short count = countLines(text);
     const std::optional<TextForm> form = textForm(text, platform.DecimalComma());
-    if (!form) return platform.tell("Could not parse devices.");
+    if (!form) return refuse(drawing, platform, "Could not parse devices.");
     readLines(text, drawing.devices, drawing.DeviceRecords, count,
               DeviceReader(drawing.devices, *form));
 }
@@ -332,7 +337,7 @@ void readLabels(Drawing& drawing, const Platform& platform) {
     if (text.empty()) return;
     const Short count = countLines(text);
     const std::optional<TextForm> form = textForm(text, platform.DecimalComma());
-    if (!form) return platform.tell("Could not parse labels.");
+    if (!form) return refuse(drawing, platform, "Could not parse labels.");
     readLines(text, drawing.labels, drawing.LabelRecords, count, LabelReader(drawing, *form));
 }
 
@@ -404,7 +409,7 @@ void readPictures(Drawing& drawing, const Platform& platform) {
     if (text.empty()) return;
     const Short count = countLines(text);
     const std::optional<TextForm> form = textForm(text, platform.DecimalComma());
-    if (!form) return platform.tell("Could not parse pictures.");
+    if (!form) return refuse(drawing, platform, "Could not parse pictures.");
     const std::optional<PictureFolder> folder = PictureFolder::find(
         *platform.files, drawing.PictureParentFolder, drawing.PictureFolderName);
     if (!folder) {
@@ -436,10 +441,12 @@ void readPictures(Drawing& drawing, const Platform& platform) {
 
 // Runs one parser on its single error path.
 template <class Read>
-void guarded(const Platform& platform, std::string_view description, const Read& read) {
+void guarded(Drawing& drawing, const Platform& platform, std::string_view description,
+             const Read& read) {
     try {
         read();
     } catch (const Failure& failure) {
+        drawing.ReadIncomplete = true;
         platform.ReportError(description, failure);
     }
 }
@@ -447,16 +454,16 @@ void guarded(const Platform& platform, std::string_view description, const Read&
 }  // namespace
 
 void ParseDeviceString(Drawing& drawing, const Platform& platform) {
-    guarded(platform, "Parse Device String", [&] { readDevices(drawing, platform); });
+    guarded(drawing, platform, "Parse Device String", [&] { readDevices(drawing, platform); });
 }
 
 void ParseLabelString(Drawing& drawing, const Platform& platform) {
-    guarded(platform, "Parse Label String", [&] { readLabels(drawing, platform); });
+    guarded(drawing, platform, "Parse Label String", [&] { readLabels(drawing, platform); });
     if (drawing.LabelsChanged) drawing.LabelsChanged();
 }
 
 void ParsePictureString(Drawing& drawing, const Platform& platform) {
-    guarded(platform, "Parse Picture String", [&] { readPictures(drawing, platform); });
+    guarded(drawing, platform, "Parse Picture String", [&] { readPictures(drawing, platform); });
 }
 
 }  // namespace ladrix

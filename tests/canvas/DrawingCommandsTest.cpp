@@ -324,6 +324,21 @@ TEST(Open, OfAFileThatCannotBeReadReportsOnceAndLeavesItAlone) {
     }
 }
 
+TEST(Open, OfADamagedFileShowsItsStartWithoutAName) {
+    CommandBench bench;
+    bench.writeDocument("damaged.els",
+                        line(Ground) + line("InsertLamp|two|2|0||1|1|0|False") + line(Lamp));
+    const std::string text = bench.file("damaged.els");
+    bench.open("damaged.els");
+    EXPECT_EQ(bench.drawing.devices.DeviceCount, 1);
+    EXPECT_EQ(bench.machine.reports.size(), 1u);
+    EXPECT_EQ(bench.drawing.CurrentFileName, "");
+    EXPECT_THAT(bench.editor.form.lblMessage.Caption, HasSubstr("damaged.els"));
+    SaveDrawing(bench.editor);
+    EXPECT_EQ(bench.saveBrowsers, 1);
+    EXPECT_EQ(bench.file("damaged.els"), text);
+}
+
 TEST(Open, ReplacesTheDrawingAndStartsItsHistory) {
     CommandBench bench;
     bench.drawGround();
@@ -372,12 +387,20 @@ TEST(Preview, GivesUpTheTablesAndReadsDevicesOnly) {
     EXPECT_EQ(bench.drawing.labels.LabelCount, 0);
     EXPECT_FALSE(bench.drawing.DrawingChanged);
 
-    EXPECT_FALSE(ReadPreview(bench.editor, bench.drawing.CurrentFolder, "Missing.els"));
-    ASSERT_EQ(bench.machine.dialogs.boxes.size(), 1u);
-    EXPECT_EQ(bench.machine.dialogs.boxes[0].text, "File structure corrupted and cannot be read.");
-    EXPECT_EQ(bench.machine.dialogs.boxes[0].title, "Bad File Structure");
-    EXPECT_THAT(bench.machine.reports, IsEmpty());
-    EXPECT_THAT(bench.devices(), IsEmpty());
+}
+
+TEST(Preview, TellsOfWhatCannotBeReadInItsOwnBoxEachTime) {
+    CommandBench bench;
+    bench.writeDocument("Damaged.els", line(Lamp) + line("InsertLamp|two|2|0||1|1|0|False"));
+    for (const char* name : {"Missing.els", "Damaged.els", "Damaged.els"}) {
+        bench.machine.dialogs.boxes.clear();
+        EXPECT_FALSE(ReadPreview(bench.editor, bench.drawing.CurrentFolder, name));
+        ASSERT_EQ(bench.machine.dialogs.boxes.size(), 1u);
+        EXPECT_EQ(bench.machine.dialogs.boxes[0].text,
+                  "File structure corrupted and cannot be read.");
+        EXPECT_EQ(bench.machine.dialogs.boxes[0].title, "Bad File Structure");
+        EXPECT_THAT(bench.machine.reports, IsEmpty());
+    }
 }
 
 TEST(Template, ComesBeforeTheNextFileOnceOnly) {
