@@ -371,6 +371,10 @@ TEST_F(FileBrowserSaveTest, ASaveThatFailsOrIsRefusedKeepsTheFormAndTheFormerNam
     EXPECT_TRUE(browser.Visible);
     EXPECT_EQ(editor.drawing.CurrentFileName, "mine.els");
     EXPECT_TRUE(editor.drawing.DrawingChanged);
+    fake.folder.write("drawings/other.els", "");
+    FileList1_Refresh(browser, editor);
+    click("other.els");
+    EXPECT_EQ(editor.drawing.devices.DeviceCount, 1) << "it is still a save: no preview";
 
     Dir1_Change(browser, editor, editor.UserSymbolsPath);
     saveAs("copy");

@@ -172,7 +172,7 @@ TEST_F(FileDialogTest, EnterEntersAFolderOnceAndBackspaceLeavesItMarked) {
     open([&](FileDialog& dialog) {
         type("b");
         press(Qt::Key_Return);
-        EXPECT_THAT(shownNames(dialog), ElementsAre("c")) << "the default button did not act too";
+        EXPECT_THAT(shownNames(dialog), ElementsAre("c"));
         press(Qt::Key_Down);
         press(Qt::Key_Return);
         EXPECT_THAT(shownNames(dialog), IsEmpty());
@@ -183,6 +183,19 @@ TEST_F(FileDialogTest, EnterEntersAFolderOnceAndBackspaceLeavesItMarked) {
         press(Qt::Key_Escape);
         EXPECT_FALSE(dialog.isVisible());
     });
+}
+
+TEST_F(FileDialogTest, EnterOnAFolderDoesNotSaveToo) {
+    fake.folder.makeFolder("drawings/sub");
+    save([&](FileDialog& dialog) {
+        type("mine");
+        named<QTreeView>(dialog, "FileList1").setFocus();
+        press(Qt::Key_Down);
+        press(Qt::Key_Return);
+        EXPECT_EQ(program.frmFile.BrowserFolder, fake.folder / "drawings/sub/");
+        EXPECT_TRUE(dialog.isVisible());
+    });
+    EXPECT_THAT(fake.folder.entries("drawings/sub"), IsEmpty());
 }
 
 TEST_F(FileDialogTest, ThePathCanBeClickedAndTyped) {
