@@ -15,7 +15,7 @@ namespace ladrix {
 namespace {
 
 constexpr int StripHeight = theme::ControlHeight + 3 * theme::Unit;
-constexpr int NumberFieldWidth = 64;
+constexpr int NumberFieldWidth = 54;
 constexpr int TextFieldWidth = 360;
 
 void addDivider(QBoxLayout& row) {
@@ -25,9 +25,7 @@ void addDivider(QBoxLayout& row) {
     QPalette palette = line->palette();
     palette.setColor(QPalette::WindowText, theme::Hairline);
     line->setPalette(palette);
-    row.addSpacing(theme::Unit);
     row.addWidget(line);
-    row.addSpacing(theme::Unit);
 }
 
 QBoxLayout* panelLayout(QWidget& panel) {
@@ -142,7 +140,7 @@ void ToolStrip::makeScale(QBoxLayout& row) {
     cmbScale_->setCompleter(nullptr);
     cmbScale_->setInsertPolicy(QComboBox::NoInsert);
     cmbScale_->setValidator(new NumberFilter(cmbScale_));
-    cmbScale_->setFixedSize(76, theme::ControlHeight);
+    cmbScale_->setFixedSize(70, theme::ControlHeight);
     cmbScale_->setMaxVisibleItems(12);
     const auto take = [this](Handler handler) {
         program_.editor.form.cmbScale.Text = fromQString(cmbScale_->currentText());
@@ -185,7 +183,7 @@ void ToolStrip::makeSnapAndZoom(QBoxLayout& row) {
                              tr("Halve the snap pitch")));
     QToolButton* snap =
         makeButton("cmdSnap", form.cmdSnap, nullptr, Look::Text, tr("Snap"), tr("Snap pitch"));
-    snap->setMinimumWidth(84);
+    snap->setMinimumWidth(96);
     row.addWidget(snap);
     row.addWidget(makeButton("cmdSnapHigher", form.cmdSnapHigher, nullptr, Look::Icon,
                              "snap-coarser", tr("Double the snap pitch")));

@@ -1,0 +1,457 @@
+// The main window, driven through its widgets by pointer and keys; what is checked is what a person
+// would see and what the program then holds.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QComboBox>
+#include <QElapsedTimer>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QScrollBar>
+#include <QStyle>
+#include <QToolButton>
+
+#include "app/Startup.h"
+#include "canvas/DrawingCommands.h"
+#include "canvas/Keys.h"
+#include "qt/MainWindow.h"
+#include "qt/QtText.h"
+#include "qt/Theme.h"
+#include "support/FakePlatform.h"
+
+namespace ladrix {
+namespace {
+
+constexpr Short LineButton = 3, SmallCircleButton = 8, ContactButton = 23;
+
+void settle() {
+    for (int i = 0; i < 5; ++i)
+        QCoreApplication::processEvents();
+}
+
+void sendMouse(QWidget& widget, QEvent::Type type, QPointF at, Qt::MouseButton button,
+               Qt::MouseButtons held) {
+    QMouseEvent event(type, at, widget.mapToGlobal(at), button, held, Qt::NoModifier);
+    QCoreApplication::sendEvent(&widget, &event);
+    settle();
+}
+
+void move(QWidget& widget, QPointF at, Qt::MouseButtons held = Qt::NoButton) {
+    sendMouse(widget, QEvent::MouseMove, at, Qt::NoButton, held);
+}
+
+void click(QWidget& widget, QPointF at, Qt::MouseButton button = Qt::LeftButton) {
+    sendMouse(widget, QEvent::MouseButtonPress, at, button, button);
+    sendMouse(widget, QEvent::MouseButtonRelease, at, button, Qt::NoButton);
+}
+
+void press(QWidget& widget, int key, const QString& text = {},
+           Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    QKeyEvent down(QEvent::KeyPress, key, modifiers, text);
+    QCoreApplication::sendEvent(&widget, &down);
+    QKeyEvent up(QEvent::KeyRelease, key, modifiers, text);
+    QCoreApplication::sendEvent(&widget, &up);
+    settle();
+}
+
+class WindowTest : public testing::Test {
+  protected:
+    void SetUp() override {
+        theme::apply(*qApp);
+        machine.platform.picLX = &canvas;
+        machine.platform.fonts = &fonts;
+        program = std::make_unique<Program>(machine.platform);
+        canvas.showPageOf(program->editor);
+        ASSERT_TRUE(startProgram(*program));
+        window = std::make_unique<MainWindow>(*program, canvas);
+        open(1240, 900);
+    }
+
+    void open(int width, int height) {
+        window->resize(width, height);
+        window->show();
+        window->activateWindow();
+        QApplication::setActiveWindow(window.get());
+        QElapsedTimer clock;  // a window manager takes its time
+        clock.start();
+        do
+            settle();
+        while (find("picBottom").width() != width && clock.elapsed() < 5000);
+        ASSERT_EQ(window->size(), QSize(width, height));
+    }
+
+    template <class Widget = QWidget>
+    Widget& find(const char* name) {
+        auto* widget = window->findChild<Widget*>(name);
+        if (!widget) throw std::logic_error(std::string("no widget ") + name);
+        return *widget;
+    }
+
+    QString textOf(const char* name) { return find(name).property("text").toString(); }
+
+    Editor& editor() { return program->editor; }
+    QWidget& picLX() { return window->canvas(); }
+    QPointF at(double x, double y) {
+        return window->canvas().pixelOf(static_cast<Single>(x), static_cast<Single>(y));
+    }
+
+    void choose(Short button) {
+        const QRect cell = window->palette().buttonRect(button);
+        ASSERT_FALSE(cell.isEmpty());
+        click(window->palette(), cell.topLeft() + QPoint(2, 2));
+    }
+
+    void clickPage(double x, double y) {
+        move(picLX(), at(x, y));
+        click(picLX(), at(x, y));
+    }
+
+    QColor shownAt(double x, double y) {
+        return window->canvas().grab().toImage().pixelColor(at(x, y).toPoint());
+    }
+
+    test::FakePlatform machine;
+    QtFonts fonts;
+    QtCanvas canvas;
+    std::unique_ptr<Program> program;
+    std::unique_ptr<MainWindow> window;
+};
+
+TEST_F(WindowTest, HasEveryControlByItsName) {
+    for (const char* name :
+         {"picLX",        "picFrame",      "HScroll1",       "VScroll1",       "picTop",
+          "picBottom",    "picTools",      "picMoreSym",     "picMoreSymbols", "cmdSym",
+          "cmdPrev",      "cmdNext",       "picColors",      "cmdColors",      "picSelectedColor",
+          "cmbScale",     "picScale",      "cmdScaleOK",     "lblScale",       "cmdSnap",
+          "cmdSnapLower", "cmdSnapHigher", "cmdZoomIn",      "cmdZoomOut",     "cmdCircle",
+          "picRadius",    "txtRadius",     "txtCircleStart", "txtCircleEnd",   "lblCircle0",
+          "lblCircle1",   "lblCircle2",    "cmdDrawWidth0",  "cmdDrawWidth1",  "cmdReset",
+          "lblMessage",   "lblCoords",     "lblSelected",    "lblUndoCount",   "lblTime",
+          "txtEdit",      "picText"})
+        EXPECT_TRUE(window->findChild<QWidget*>(name)) << name;
+    EXPECT_EQ(window->windowTitle(), toQString(editor().form.Caption));
+    EXPECT_EQ(textOf("cmdSnap"), "Snap: 0.25");
+}
+
+// The entries of one menu, as the command table has them.
+std::vector<const Command*> rowsOf(Menu menu) {
+    std::vector<const Command*> rows;
+    for (const Command& row : commandTable())
+        if (row.menu == menu && row.entry != menu) rows.push_back(&row);
+    return rows;
+}
+
+TEST_F(WindowTest, MenusFollowTheCommandTable) {
+    std::size_t menus = 0;
+    for (const Command& top : commandTable()) {
+        const auto rows = rowsOf(top.entry);
+        if (rows.empty()) continue;
+        ++menus;
+        const auto* menu = window->findChild<QMenu*>(toQString(top.name));
+        ASSERT_TRUE(menu) << top.name;
+        EXPECT_EQ(menu->title(), toQString(top.caption));
+        std::size_t i = 0;
+        for (const QAction* entry : menu->actions()) {
+            if (entry->isSeparator()) {
+                EXPECT_TRUE(rows[i]->separatorBefore) << rows[i]->name;
+                continue;
+            }
+            ASSERT_LT(i, rows.size()) << top.name;
+            const Command& row = *rows[i++];
+            EXPECT_EQ(entry->objectName(), toQString(row.name));
+            EXPECT_EQ(entry->text(), toQString(row.caption));
+            EXPECT_EQ(entry->isEnabled(), isEnabled(*program, row)) << row.name;
+            EXPECT_EQ(entry->shortcut(), QKeySequence(toQString(row.shortcut))) << row.name;
+            EXPECT_EQ(entry->isChecked(), editor().form.menu[row.entry].Checked) << row.name;
+        }
+        EXPECT_EQ(i, rows.size()) << top.name;
+    }
+    EXPECT_GE(menus, 10u);
+}
+
+TEST_F(WindowTest, MenuEntriesShowWhatHandlersMadeOfThem) {
+    auto* admin = window->findChild<QMenu*>("mnuAdmin")->menuAction();
+    EXPECT_FALSE(admin->isVisible());
+    machine.dialogs.inputAnswers = {"gravlock"};
+    window->findChild<QAction*>("mnuHelpAdmin")->trigger();
+    EXPECT_TRUE(admin->isVisible());
+
+    auto* attach = window->findChild<QAction*>("mnuOptionAttachLabels");
+    attach->trigger();
+    EXPECT_FALSE(attach->isChecked());
+    EXPECT_FALSE(editor().drawing.AttachLabels);
+
+    // The mode in force stays checked, though the toolkit flips the mark at each choice.
+    auto* normal = window->findChild<QAction*>("mnuModeNormal");
+    normal->trigger();
+    EXPECT_TRUE(normal->isChecked());
+}
+
+TEST_F(WindowTest, PlacesASymbolWithItsLabel) {
+    choose(ContactButton);
+    const std::string tag = editor().form.cmdSym[ContactButton].Tag;
+    EXPECT_TRUE(textOf("lblMessage").startsWith(toQString(tag) + " Selected"));
+    clickPage(2, 3);
+    const DeviceTable& devices = editor().drawing.devices;
+    ASSERT_EQ(devices.DeviceCount, 1);
+    EXPECT_EQ(devices.DeviceX[0], 2);
+    EXPECT_EQ(devices.DeviceY[0], 3);
+    ASSERT_EQ(editor().form.lbl.size(), 1u);
+
+    auto& txtEdit = find<QLineEdit>("txtEdit");
+    ASSERT_TRUE(txtEdit.isVisible());
+    EXPECT_TRUE(txtEdit.hasFocus());
+    EXPECT_EQ(txtEdit.selectedText(), txtEdit.text());
+    for (const QChar letter : QString("7CR"))
+        press(txtEdit, 0, letter);
+    EXPECT_EQ(editor().form.lbl[0].Caption, "7CR");
+    EXPECT_EQ(editor().drawing.labels.LabelText[0], "7CR");
+    press(txtEdit, Qt::Key_Return, "\r");
+    EXPECT_FALSE(txtEdit.isVisible());
+    EXPECT_TRUE(picLX().hasFocus());
+}
+
+TEST_F(WindowTest, AGhostLeavesThePersistentLayerAlone) {
+    choose(ContactButton);
+    move(picLX(), at(2, 2));
+    const QImage before = canvas.persistentLayer().copy();
+    for (int i = 0; i < 20; ++i)
+        move(picLX(), at(2 + i * 0.11, 2 + i * 0.07));
+    EXPECT_EQ(canvas.persistentLayer(), before);
+    move(picLX(), at(3, 3));
+    const QImage withGhost = window->canvas().grab().toImage();
+    EXPECT_NE(withGhost.copy(before.rect()), before);
+    press(picLX(), Qt::Key_Escape);
+    EXPECT_EQ(window->canvas().grab().toImage().convertToFormat(before.format()), before);
+
+    choose(ContactButton);
+    clickPage(3, 3);
+    EXPECT_NE(canvas.persistentLayer(), before);
+    move(picLX(), at(5, 5));
+    EXPECT_TRUE(editor().form.pointer.LineV.Visible);
+}
+
+TEST_F(WindowTest, RepaintsOnlyWhatAMoveChanges) {
+    choose(ContactButton);
+    move(picLX(), at(2.1, 2.1));
+    settle();
+    canvas.takeDamage();
+    canvas.AutoRedraw = false;
+    canvas.Cls();
+    canvas.Line(1, 1, 2, 1, Red, LineForm::Plain);
+    canvas.AutoRedraw = true;
+    const QRect damage = canvas.takeDamage().boundingRect();
+    EXPECT_TRUE(damage.contains(at(1, 1).toPoint()));
+    EXPECT_TRUE(damage.contains(at(2.1, 2.1).toPoint())) << "the former ghost";
+    EXPECT_LT(damage.height(), 300);
+    EXPECT_TRUE(canvas.takeDamage().isEmpty());
+}
+
+TEST_F(WindowTest, ADoubleClickEndsALineWithoutASecondPress) {
+    choose(LineButton);
+    clickPage(1, 1);
+    clickPage(3, 1);
+    EXPECT_EQ(editor().drawing.devices.DeviceCount, 1);
+    sendMouse(picLX(), QEvent::MouseButtonDblClick, at(3, 1), Qt::LeftButton, Qt::LeftButton);
+    sendMouse(picLX(), QEvent::MouseButtonRelease, at(3, 1), Qt::LeftButton, Qt::NoButton);
+    EXPECT_EQ(editor().drawing.devices.DeviceCount, 1);
+    EXPECT_EQ(editor().CurrentTool, LineButton);
+    EXPECT_EQ(editor().LineStartX, NoPoint);
+}
+
+TEST_F(WindowTest, EscapeResetsFromWhereverTheFocusIs) {
+    const auto armed = [&](Short button) {
+        choose(button);
+        EXPECT_EQ(editor().CurrentTool, button);
+    };
+    armed(LineButton);
+    press(picLX(), Qt::Key_Escape);
+    EXPECT_EQ(editor().CurrentTool, -1);
+
+    armed(SmallCircleButton);
+    auto& txtRadius = find<QLineEdit>("txtRadius");
+    ASSERT_TRUE(txtRadius.isVisible());
+    txtRadius.setFocus();
+    press(txtRadius, Qt::Key_Escape, "\x1b");
+    EXPECT_EQ(editor().CurrentTool, -1);
+    EXPECT_FALSE(txtRadius.isVisible());
+
+    armed(LineButton);
+    click(find("cmdReset"), QPointF(10, 10));
+    EXPECT_EQ(editor().CurrentTool, -1);
+    EXPECT_TRUE(textOf("lblMessage").startsWith("Drawing Reset and Ready."));
+}
+
+TEST_F(WindowTest, KeysReachTheFormAndThenTheCanvas) {
+    choose(ContactButton);
+    press(picLX(), Qt::Key_Right);
+    EXPECT_EQ(editor().CurrentTool, ContactButton + 1);
+    press(picLX(), Qt::Key_Left, {}, Qt::ControlModifier);
+    EXPECT_EQ(textOf("cmdSnap"), "Snap: 0.125");
+    press(picLX(), Qt::Key_R, {}, Qt::ControlModifier | Qt::AltModifier);
+    EXPECT_EQ(editor().CurrentColor, Red);
+    EXPECT_EQ(find("picSelectedColor").palette().color(QPalette::Button), QColor(Qt::red));
+    // In a text field the arrows are the field's.
+    choose(SmallCircleButton);
+    auto& txtEdit = find<QLineEdit>("txtEdit");
+    editor().TextBoxFocused = true;
+    press(txtEdit, Qt::Key_Right);
+    EXPECT_EQ(editor().CurrentTool, SmallCircleButton);
+}
+
+TEST_F(WindowTest, FieldsLetNothingInThatTheirTextCannotHold) {
+    auto& txtEdit = find<QLineEdit>("txtEdit");
+    txtEdit.setText({});
+    txtEdit.insert(QString::fromUtf8("A\tB\xC3\xBF\xCE\xA9\xF0\x9F\x98\x80 \xC3\xA9\xE2\x82\xAC"));
+    EXPECT_EQ(txtEdit.text(), QString::fromUtf8("AB \xC3\xA9\xE2\x82\xAC"));
+    choose(SmallCircleButton);
+    auto& txtRadius = find<QLineEdit>("txtRadius");
+    txtRadius.selectAll();
+    for (const QChar key : QString("-0x.2e5"))
+        press(txtRadius, 0, key);
+    EXPECT_EQ(txtRadius.text(), "0.25");
+    EXPECT_EQ(editor().CircleRadius, 0.25f);
+    auto& cmbScale = find<QComboBox>("cmbScale");
+    EXPECT_EQ(cmbScale.count(), 12);
+    cmbScale.lineEdit()->selectAll();
+    for (const QChar key : QString("1.a1"))
+        press(*cmbScale.lineEdit(), 0, key);
+    click(find("cmdScaleOK"), QPointF(5, 5));
+    EXPECT_EQ(editor().SymbolScaleX, 1.1f);
+}
+
+TEST_F(WindowTest, TheFlyOutGivesAButtonItsOrientation) {
+    Short index = 0;
+    while (editor().form.cmdSym[static_cast<std::size_t>(index)].OrientationCount != 4)
+        ++index;
+    const QRect cell = window->palette().buttonRect(index);
+    move(window->palette(), cell.center());
+    auto& flyOut = find("picMoreSym");
+    ASSERT_TRUE(flyOut.isVisible());
+    EXPECT_EQ(flyOut.mapTo(window.get(), QPoint(0, 0)).x(),
+              window->palette().mapTo(window.get(), cell.topRight()).x());
+    click(flyOut, QPointF(flyOut.width() / 2.0, flyOut.height() * 5 / 8.0));
+    EXPECT_FALSE(flyOut.isVisible());
+    EXPECT_EQ(editor().form.cmdSym[static_cast<std::size_t>(index)].ButtonOrientation, 2);
+    EXPECT_EQ(editor().CurrentTool, index);
+    // The corner mark opens it too, without choosing the tool anew.
+    press(picLX(), Qt::Key_Escape);
+    click(window->palette(), cell.bottomRight() - QPoint(3, 3));
+    EXPECT_TRUE(flyOut.isVisible());
+    EXPECT_EQ(editor().CurrentTool, -1);
+    move(picLX(), at(4, 4));
+    EXPECT_FALSE(flyOut.isVisible());
+}
+
+TEST_F(WindowTest, APressedButtonIsCyan) {
+    const auto ground = [&](Short button) {
+        const QPoint corner = window->palette().buttonRect(button).topLeft() + QPoint(2, 2);
+        return window->palette().grab().toImage().pixelColor(corner);
+    };
+    EXPECT_EQ(ground(LineButton), QColor(Qt::white));
+    choose(LineButton);
+    move(picLX(), at(1, 1));
+    EXPECT_EQ(ground(LineButton), QColor(0, 255, 255));
+    press(picLX(), Qt::Key_Escape);
+    move(window->palette(), window->palette().buttonRect(ContactButton).topLeft());
+    EXPECT_EQ(ground(LineButton), QColor(Qt::white));
+}
+
+TEST_F(WindowTest, TheColourPanelDropsDownAndGivesItsColour) {
+    click(find("cmdColors"), QPointF(5, 5));
+    auto& picColors = find("picColors");
+    ASSERT_TRUE(picColors.isVisible());
+    click(picColors, QPointF(12 + 28, 12));  // the second cell
+    EXPECT_FALSE(picColors.isVisible());
+    EXPECT_EQ(editor().CurrentColor, editor().form.lblColor[1]);
+    click(find("cmdColors"), QPointF(5, 5));
+    picColors.close();  // as a press elsewhere does
+    EXPECT_FALSE(editor().form.picColors.Visible);
+}
+
+TEST_F(WindowTest, BlackIsWhiteOnABlackPage) {
+    choose(LineButton);
+    clickPage(1, 2);
+    clickPage(3, 2);
+    press(picLX(), Qt::Key_Escape);
+    EXPECT_EQ(shownAt(2, 2), QColor(Qt::black));
+    window->findChild<QAction*>("mnuOptBlackBackground")->trigger();
+    settle();
+    EXPECT_EQ(shownAt(2, 2), QColor(Qt::white));
+    EXPECT_EQ(shownAt(2, 2.5), QColor(Qt::black));
+}
+
+TEST_F(WindowTest, ScrollingMovesThePageUnderThePointer) {
+    open(900, 620);
+    auto& bar = find<QScrollBar>("VScroll1");
+    ASSERT_TRUE(bar.isVisible());
+    const QPointF before = at(2, 5);
+    bar.setValue(200);
+    EXPECT_EQ(editor().ScaleTop, 2);
+    EXPECT_NEAR(before.y() - at(2, 5).y(), 2 * 96, 0.51);
+    choose(ContactButton);
+    clickPage(2, 5);
+    ASSERT_EQ(editor().drawing.devices.DeviceCount, 1);
+    EXPECT_EQ(editor().drawing.devices.DeviceY[0], 5);
+    // At the end the page's lower edge stands off from the frame.
+    bar.setValue(bar.maximum());
+    EXPECT_NEAR(at(0, 11).y(), picLX().height() - QtCanvas::Margin, 2);
+}
+
+TEST_F(WindowTest, TheSmallestScreenCutsNothingOff) {
+    open(1008, 700);
+    editor().form.lblMessage.Caption = std::string(300, 'M');
+    window->refresh();
+    settle();
+    EXPECT_EQ(find("lblMessage").toolTip().size(), 300);
+    for (const Short button : {Short{4}, SmallCircleButton}) {  // an arc has the widest panel
+        choose(button);
+        const QRect strip = find("picTop").rect();
+        for (const QWidget* child : find("picTop").findChildren<QWidget*>()) {
+            if (!child->isVisible() || child->window() != window.get()) continue;
+            const QRect place(child->mapTo(&find("picTop"), QPoint(0, 0)), child->size());
+            EXPECT_TRUE(strip.contains(place)) << child->objectName().toStdString();
+            EXPECT_GE(child->width(), child->minimumSizeHint().width())
+                << child->objectName().toStdString();
+        }
+    }
+    // The rows that do not fit are a page turn away.
+    ASSERT_TRUE(find("cmdNext").isVisible());
+    const Short last = 91;
+    EXPECT_TRUE(window->palette().buttonRect(last).isEmpty());
+    click(find("cmdNext"), QPointF(5, 5));
+    EXPECT_FALSE(window->palette().buttonRect(last).isEmpty());
+    EXPECT_TRUE(window->palette().rect().contains(window->palette().buttonRect(last)));
+}
+
+TEST_F(WindowTest, ClosesOnlyWhenNothingIsLost) {
+    choose(ContactButton);
+    clickPage(2, 2);
+    machine.dialogs.answers = {Answer::Cancel};
+    window->close();
+    EXPECT_TRUE(window->isVisible());
+    EXPECT_FALSE(program->Ending);
+    machine.dialogs.answers = {Answer::No};
+    window->close();
+    EXPECT_FALSE(window->isVisible());
+    EXPECT_TRUE(program->Ending);
+}
+
+TEST(ClassicKeys, AreToldByCodeAndShiftState) {
+    const auto code = [](int key) {
+        return classicKeyCode(QKeyEvent(QEvent::KeyPress, key, Qt::NoModifier));
+    };
+    EXPECT_EQ(code(Qt::Key_Escape), key::Escape);
+    EXPECT_EQ(code(Qt::Key_Enter), key::Enter);
+    EXPECT_EQ(code(Qt::Key_PageDown), key::PageDown);
+    EXPECT_EQ(code(Qt::Key_Equal), key::Plus);
+    EXPECT_EQ(code(Qt::Key_Plus), key::Plus);
+    EXPECT_EQ(code(Qt::Key_V), 'V');
+    EXPECT_EQ(code(Qt::Key_Shift), 0);
+    EXPECT_EQ(classicShift(Qt::ControlModifier | Qt::AltModifier), ControlAlt);
+    EXPECT_EQ(classicShift(Qt::ShiftModifier), ShiftKey);
+}
+
+}  // namespace
+}  // namespace ladrix
