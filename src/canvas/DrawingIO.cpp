@@ -87,6 +87,8 @@ void restoreText(Editor& editor, const FileText& file) {
     parseAll(editor);
     layOutPage(editor);
     RedrawDrawing(editor);
+    // The copy on disk goes: what it held has no other place than the tables.
+    drawing.DrawingChanged = true;
 }
 
 void loadPictures(Editor& editor) {

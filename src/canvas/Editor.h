@@ -2,8 +2,10 @@
 // for all handlers; reset brings back the defaults that stand here.
 #pragma once
 
+#include <map>
 #include <memory>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "canvas/FormLX.h"
@@ -14,6 +16,12 @@
 namespace ladrix {
 
 constexpr Single NoPoint = -1;
+
+// Label sizes found for a font at a zoom.
+struct FittedFonts {
+    using Key = std::tuple<std::string, Single, bool, bool, Single>;
+    std::map<Key, Single> sizes;
+};
 
 struct Editor {
     explicit Editor(const Platform& machine) : platform(machine) {}
@@ -88,6 +96,7 @@ struct Editor {
     bool GridOn = false, GridFollowsSnap = false, BlackBackground = false;
     Long GridColor = 0xE0E0E0;
     bool Redrawing = false;
+    FittedFonts fittedFonts;
 
     std::vector<std::shared_ptr<const Picture>> img;  // the loaded pictures, beside PictureTable
     bool LoggedIn = false;                            // the author's login is in force

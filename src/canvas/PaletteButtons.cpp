@@ -69,6 +69,13 @@ void drawFitted(Surface& picture, const Shape& shape, Short orientation) {
     drawPrimitives(picture, shape.primitives(orientation), x, y, Black, scale, scale);
 }
 
+void checkLibrary(MenuStates& menu, Library library) {
+    menu[Menu::mnuLibElectrical].Checked = library == Library::NEMA;
+    menu[Menu::mnuLibElectronic].Checked = library == Library::Electronic;
+    menu[Menu::mnuLibIEC].Checked = library == Library::IEC;
+    menu[Menu::mnuLibHyd].Checked = library == Library::FluidPower;
+}
+
 void setButton(PaletteButton& place, const PaletteEntry& entry) {
     place = {};
     place.Tag = entry.text;
@@ -100,6 +107,7 @@ void LoadLibraryButtons(Editor& editor, Library library) {
     for (; i < editor.form.cmdSym.size(); ++i)
         editor.form.cmdSym[i].Visible = !editor.form.cmdSym[i].Tag.empty();
     editor.OpenLibrary = library;
+    checkLibrary(editor.form.menu, library);
     editor.PreviousTool = editor.RepeatTool = -1;
     ++editor.form.PaletteVersion;
 }

@@ -1,8 +1,6 @@
 #include "canvas/Redraw.h"
 
 #include <algorithm>
-#include <map>
-#include <tuple>
 
 #include "canvas/Labels.h"
 #include "canvas/Pointer.h"
@@ -122,13 +120,14 @@ void endTool(Editor& editor) {
 
 }  // namespace
 
-Single fittedFontSize(const Platform& platform, const FontSpec& font, Single zoom) {
+Single fittedFontSize(Editor& editor, const FontSpec& font) {
+    const Single zoom = editor.ZoomFactor;
     if (zoom == 1) return font.size;
-    using Key = std::tuple<const Fonts*, std::string, Single, bool, bool, Single>;
-    static std::map<Key, Single> known;
-    const Key key{platform.fonts, font.name, font.size, font.bold, font.italic, zoom};
-    if (const auto found = known.find(key); found != known.end()) return found->second;
-    return known[key] = searchFontSize(platform, font, zoom);
+    const FittedFonts::Key key{font.name, font.size, font.bold, font.italic, zoom};
+    if (const auto found = editor.fittedFonts.sizes.find(key);
+        found != editor.fittedFonts.sizes.end())
+        return found->second;
+    return editor.fittedFonts.sizes[key] = searchFontSize(editor.platform, font, zoom);
 }
 
 void placeLabels(Editor& editor) {
@@ -138,7 +137,7 @@ void placeLabels(Editor& editor) {
     for (std::size_t i = 0; i < count; ++i) {
         FontSpec font{labels.LabelFontName[i], labels.LabelFontSize[i],
                       editor.symbols.ThickDevices || labels.LabelBold[i], labels.LabelItalic[i]};
-        font.size = fittedFontSize(editor.platform, font, editor.ZoomFactor);
+        font.size = fittedFontSize(editor, font);
         const Long color =
             labels.LabelSelected[i] != 0 ? editor.SelectionColor : labels.LabelColor[i];
         editor.form.lbl[i] = {

@@ -386,7 +386,6 @@ TEST(Preview, GivesUpTheTablesAndReadsDevicesOnly) {
     EXPECT_THAT(bench.devices(), ElementsAre(Lamp));
     EXPECT_EQ(bench.drawing.labels.LabelCount, 0);
     EXPECT_FALSE(bench.drawing.DrawingChanged);
-
 }
 
 TEST(Preview, TellsOfWhatCannotBeReadInItsOwnBoxEachTime) {
@@ -450,6 +449,7 @@ TEST(CrashCopy, ComesBackUntitledAndIsGoneAfterwards) {
     EXPECT_THAT(next.devices(), ElementsAre(Ground)) << "less the placement under way";
     EXPECT_EQ(next.editor.PageWidth, 17);
     EXPECT_EQ(next.drawing.CurrentFileName, "");
+    EXPECT_TRUE(next.drawing.DrawingChanged) << "nothing else holds it now";
     EXPECT_FALSE(next.machine.folder.has("program/Temp_Drawing.els"));
     EXPECT_FALSE(next.drawing.NoRecord || next.drawing.Reading);
     next.play("tool Lamp; click 2 2");

@@ -155,8 +155,8 @@ TEST(FontFitting, StepsFromTheStoredSizeUntilThePaperWidthIsCrossed) {
                           {0.8f, 0.1f},
                           {0.32768f, 0.1f}}) {
         Bench bench;
-        const Single size =
-            fittedFontSize(bench.machine.platform, {"Arial", 10, false, false}, c.zoom);
+        bench.editor.ZoomFactor = c.zoom;
+        const Single size = fittedFontSize(bench.editor, {"Arial", 10, false, false});
         const Single exact = 10 * c.zoom;  // of fonts whose width is in proportion
         if (c.zoom >= 1) {
             EXPECT_GE(size, exact * 0.999f) << c.zoom;
