@@ -33,6 +33,12 @@ QMessageBox::StandardButtons buttonsOf(Buttons buttons) {
     return QMessageBox::Ok;
 }
 
+// A box that can only be taken or left has a fault to tell.
+QMessageBox::Icon iconOf(Buttons buttons) {
+    if (buttons == Buttons::Ok) return QMessageBox::Information;
+    return buttons == Buttons::OkCancel ? QMessageBox::Warning : QMessageBox::Question;
+}
+
 Answer answerOf(int button, Buttons buttons) {
     if (buttons == Buttons::Ok) return Answer::Ok;
     switch (button) {
@@ -61,7 +67,7 @@ Answer QtDialogs::message(std::string_view text, std::string_view title, Buttons
     if (beforeModal) beforeModal();
     QMessageBox box(window);
     box.setObjectName("messageBox");
-    box.setIcon(buttons == Buttons::Ok ? QMessageBox::Information : QMessageBox::Question);
+    box.setIcon(iconOf(buttons));
     box.setTextFormat(Qt::PlainText);
     box.setWindowTitle(toQString(title));
     box.setText(toQString(text));

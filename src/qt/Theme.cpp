@@ -6,8 +6,7 @@
 #include <QPalette>
 #include <QProxyStyle>
 #include <QStyleFactory>
-#include <QStyleOptionComboBox>
-#include <QStyleOptionSlider>
+#include <QStyleOption>
 #include <QSvgRenderer>
 #include <QToolTip>
 #include <map>
@@ -18,6 +17,7 @@ namespace {
 
 constexpr int IconSide = 18;
 constexpr int CursorSide = 25;
+constexpr int MessageSide = 40;
 constexpr int ScrollBarWidth = 14;
 
 void paintRounded(QPainter& painter, const QRect& rect, const QColor& fill, const QColor& edge) {
@@ -28,6 +28,22 @@ void paintRounded(QPainter& painter, const QRect& rect, const QColor& fill, cons
     const QRectF inner = QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5);
     painter.drawRoundedRect(inner, Radius, Radius);
     painter.restore();
+}
+
+QString pathOf(const char* name) {
+    return QStringLiteral(":/icons/%1.svg").arg(QLatin1String(name));
+}
+
+QPixmap render(const QString& path, int side, double pixelRatio) {
+    QSvgRenderer renderer(path);
+    const int pixels = qRound(side * pixelRatio);
+    QPixmap pixmap(pixels, pixels);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    renderer.render(&painter, QRectF(0, 0, pixels, pixels));
+    painter.end();
+    pixmap.setDevicePixelRatio(pixelRatio);
+    return pixmap;
 }
 
 // Fusion without its gradients: flat buttons and fields, thin scroll bars, quiet menus.
@@ -46,6 +62,14 @@ class Style final : public QProxyStyle {
             case PM_ButtonIconSize:
             case PM_ToolBarIconSize:
                 return IconSide;
+            case PM_ToolTipLabelFrameWidth:
+                return Unit + 1;
+            case PM_MessageBoxIconSize:
+                return MessageSide;
+            case PM_MenuBarVMargin:
+                return 2;
+            case PM_MenuBarHMargin:
+                return Unit;
             case PM_ButtonShiftHorizontal:
             case PM_ButtonShiftVertical:
                 return 0;
@@ -57,8 +81,22 @@ class Style final : public QProxyStyle {
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* data) const override {
         if (hint == SH_ToolTip_WakeUpDelay) return 500;
-        if (hint == SH_EtchDisabledText) return 0;
+        if (hint == SH_EtchDisabledText || hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
         return QProxyStyle::styleHint(hint, option, widget, data);
+    }
+
+    QIcon standardIcon(StandardPixmap which, const QStyleOption* option,
+                       const QWidget* widget) const override {
+        switch (which) {
+            case SP_MessageBoxQuestion:
+                return render(pathOf("message-question"), MessageSide, qApp->devicePixelRatio());
+            case SP_MessageBoxInformation:
+                return render(pathOf("message-information"), MessageSide, qApp->devicePixelRatio());
+            case SP_MessageBoxWarning:
+                return render(pathOf("message-warning"), MessageSide, qApp->devicePixelRatio());
+            default:
+                return QProxyStyle::standardIcon(which, option, widget);
+        }
     }
 
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
@@ -78,6 +116,16 @@ class Style final : public QProxyStyle {
             default:
                 return QProxyStyle::drawPrimitive(element, option, painter, widget);
         }
+    }
+
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override {
+        if (element == CE_MenuBarEmptyArea) return;
+        if (element == CE_MenuBarItem) {
+            if (const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option))
+                return paintMenuTitle(*item, *painter);
+        }
+        QProxyStyle::drawControl(element, option, painter, widget);
     }
 
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
@@ -103,6 +151,15 @@ class Style final : public QProxyStyle {
     }
 
   private:
+    void paintMenuTitle(const QStyleOptionMenuItem& item, QPainter& painter) const {
+        const bool open = item.state & State_Sunken;
+        if (open || (item.state & State_Selected))
+            paintRounded(painter, item.rect.adjusted(0, 1, 0, -1), open ? FaceDown : FaceHover,
+                         Qt::transparent);
+        drawItemText(&painter, item.rect, Qt::AlignCenter | Qt::TextShowMnemonic, item.palette,
+                     item.state & State_Enabled, item.text, QPalette::WindowText);
+    }
+
     static void paintButton(const QStyleOption& option, QPainter& painter) {
         const bool enabled = option.state & State_Enabled;
         const bool down = option.state & (State_Sunken | State_On);
@@ -220,18 +277,6 @@ QPalette lightPalette() {
     return palette;
 }
 
-QPixmap render(const QString& path, int side, double pixelRatio) {
-    QSvgRenderer renderer(path);
-    const int pixels = qRound(side * pixelRatio);
-    QPixmap pixmap(pixels, pixels);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    renderer.render(&painter, QRectF(0, 0, pixels, pixels));
-    painter.end();
-    pixmap.setDevicePixelRatio(pixelRatio);
-    return pixmap;
-}
-
 QPixmap paler(const QPixmap& pixmap) {
     QPixmap pale(pixmap.size());
     pale.setDevicePixelRatio(pixmap.devicePixelRatio());
@@ -240,10 +285,6 @@ QPixmap paler(const QPixmap& pixmap) {
     painter.setOpacity(0.38);
     painter.drawPixmap(QPointF(0, 0), pixmap);
     return pale;
-}
-
-QString pathOf(const char* name) {
-    return QStringLiteral(":/icons/%1.svg").arg(QLatin1String(name));
 }
 
 }  // namespace

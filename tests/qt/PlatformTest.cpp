@@ -1,9 +1,14 @@
-// The machine's own parts: the program's folder, the lock of the only instance, the timers.
+// The machine's own parts: boxes, the program's folder, the lock of the only instance, the timers.
 #include <gtest/gtest.h>
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
 #include <QTemporaryDir>
 
 #include "qt/ProgramFolder.h"
@@ -60,6 +65,64 @@ TEST_F(ProgramFolderTest, ABuildTreeIsItsOwnAndAnInstalledProgramIsNot) {
     write(share + "/Demo1.els", "one");
     EXPECT_EQ(settleProgramFolder(binaries, data, "1"), data);
     EXPECT_EQ(read(data + "/Demo1.els"), "one");
+}
+
+// Acts on the modal box once it is up.
+template <class Box, class Act>
+void whenUp(Act act) {
+    QTimer::singleShot(0, qApp, [act] {
+        auto* box = qobject_cast<Box*>(QApplication::activeModalWidget());
+        ASSERT_TRUE(box);
+        act(*box);
+    });
+}
+
+void press(QWidget& widget, int key, const QString& text = {}) {
+    QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, text);
+    QCoreApplication::sendEvent(&widget, &event);
+}
+
+TEST(Dialogs, AMessageAnswersByItsButtonAndCancelByEscape) {
+    QtDialogs dialogs;
+    int shown = 0;
+    dialogs.beforeModal = [&] { ++shown; };
+    const auto answerTo = [&](Buttons buttons, QMessageBox::StandardButton button) {
+        whenUp<QMessageBox>([button](QMessageBox& box) {
+            EXPECT_EQ(box.text(), QString::fromUtf8("50 \xE2\x82\xAC <b>"));
+            button == QMessageBox::NoButton ? press(box, Qt::Key_Escape)
+                                            : box.button(button)->click();
+        });
+        return dialogs.message("50 \x80 <b>", "Title", buttons);
+    };
+    EXPECT_EQ(answerTo(Buttons::YesNoCancel, QMessageBox::Yes), Answer::Yes);
+    EXPECT_EQ(answerTo(Buttons::YesNoCancel, QMessageBox::No), Answer::No);
+    EXPECT_EQ(answerTo(Buttons::YesNoCancel, QMessageBox::NoButton), Answer::Cancel);
+    EXPECT_EQ(answerTo(Buttons::YesNo, QMessageBox::Yes), Answer::Yes);
+    EXPECT_EQ(answerTo(Buttons::OkCancel, QMessageBox::Ok), Answer::Ok);
+    EXPECT_EQ(answerTo(Buttons::OkCancel, QMessageBox::NoButton), Answer::Cancel);
+    EXPECT_EQ(answerTo(Buttons::Ok, QMessageBox::NoButton), Answer::Ok);
+    EXPECT_EQ(shown, 7);
+}
+
+TEST(Dialogs, AnInputGivesItsTextOrNothing) {
+    QtDialogs dialogs;
+    whenUp<QDialog>([](QDialog& box) {
+        auto& field = *box.findChild<QLineEdit*>();
+        EXPECT_EQ(field.selectedText(), "0.25");
+        field.insert(QString::fromUtf8("\xC3\xA9\t\xCE\xA9"));
+        press(field, Qt::Key_Return, "\r");
+    });
+    EXPECT_EQ(dialogs.input("Enter Snap Below", "Adjusting Snap", "0.25"), "\xE9");
+    whenUp<QDialog>([](QDialog& box) { press(box, Qt::Key_Escape); });
+    EXPECT_EQ(dialogs.input("Enter Snap Below", "Adjusting Snap", "0.25"), std::nullopt);
+}
+
+TEST(Dialogs, AnUnattendedRunNeverWaits) {
+    QtDialogs dialogs;
+    dialogs.unattended = true;
+    EXPECT_EQ(dialogs.message("Save?", "Title", Buttons::YesNoCancel), Answer::Cancel);
+    EXPECT_EQ(dialogs.input("Name", "Title", "x"), std::nullopt);
+    EXPECT_TRUE(dialogs.refused);
 }
 
 TEST(Shell, LetsOnlyOneInstanceRun) {
