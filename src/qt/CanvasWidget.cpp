@@ -6,6 +6,7 @@
 
 #include "canvas/Pointer.h"
 #include "canvas/View.h"
+#include "qt/KeyCodes.h"
 #include "qt/Theme.h"
 
 namespace ladrix {
@@ -25,14 +26,6 @@ Short buttonNumber(Qt::MouseButton button) {
 Short heldButton(Qt::MouseButtons buttons) {
     if (buttons & Qt::LeftButton) return LeftButton;
     return buttons & Qt::RightButton ? Short{RightButton} : Short{0};
-}
-
-Short shiftState(Qt::KeyboardModifiers modifiers) {
-    int shift = 0;
-    if (modifiers & Qt::ShiftModifier) shift |= 1;
-    if (modifiers & Qt::ControlModifier) shift |= 2;
-    if (modifiers & Qt::AltModifier) shift |= 4;
-    return static_cast<Short>(shift);
 }
 
 void showBar(QScrollBar& bar, ScrollBar& shown, const ScrollBar& state) {
@@ -192,21 +185,22 @@ void CanvasWidget::paintGrip(QPainter& painter) const {
 
 void CanvasWidget::mousePressEvent(QMouseEvent* event) {
     const QPointF at = event->position();
-    picLX_MouseDown(program_.editor, buttonNumber(event->button()), shiftState(event->modifiers()),
-                    canvas_.inchesX(at.x()), canvas_.inchesY(at.y()));
+    picLX_MouseDown(program_.editor, buttonNumber(event->button()),
+                    classicShift(event->modifiers()), canvas_.inchesX(at.x()),
+                    canvas_.inchesY(at.y()));
     emit handled();
 }
 
 void CanvasWidget::mouseMoveEvent(QMouseEvent* event) {
     const QPointF at = event->position();
-    picLX_MouseMove(program_.editor, heldButton(event->buttons()), shiftState(event->modifiers()),
+    picLX_MouseMove(program_.editor, heldButton(event->buttons()), classicShift(event->modifiers()),
                     canvas_.inchesX(at.x()), canvas_.inchesY(at.y()));
     emit handled();
 }
 
 void CanvasWidget::mouseReleaseEvent(QMouseEvent* event) {
     const QPointF at = event->position();
-    picLX_MouseUp(program_.editor, buttonNumber(event->button()), shiftState(event->modifiers()),
+    picLX_MouseUp(program_.editor, buttonNumber(event->button()), classicShift(event->modifiers()),
                   canvas_.inchesX(at.x()), canvas_.inchesY(at.y()));
     emit handled();
 }

@@ -8,6 +8,7 @@
 
 #include "canvas/DrawingCommands.h"
 #include "canvas/Keys.h"
+#include "qt/KeyCodes.h"
 #include "qt/QtText.h"
 #include "qt/Theme.h"
 
@@ -19,59 +20,6 @@ constexpr int FootHeight = 28;
 constexpr QSize SmallestWindow{800, 560};
 
 }  // namespace
-
-Short classicShift(Qt::KeyboardModifiers modifiers) {
-    int shift = 0;
-    if (modifiers & Qt::ShiftModifier) shift |= ShiftKey;
-    if (modifiers & Qt::ControlModifier) shift |= ControlKey;
-    if (modifiers & Qt::AltModifier) shift |= 4;
-    return static_cast<Short>(shift);
-}
-
-Short classicKeyCode(const QKeyEvent& event) {
-    switch (event.key()) {
-        case Qt::Key_Backspace:
-            return key::Backspace;
-        case Qt::Key_Tab:
-            return 9;
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
-            return key::Enter;
-        case Qt::Key_Escape:
-            return key::Escape;
-        case Qt::Key_PageUp:
-            return key::PageUp;
-        case Qt::Key_PageDown:
-            return key::PageDown;
-        case Qt::Key_End:
-            return 35;
-        case Qt::Key_Home:
-            return 36;
-        case Qt::Key_Left:
-            return key::Left;
-        case Qt::Key_Up:
-            return key::Up;
-        case Qt::Key_Right:
-            return key::Right;
-        case Qt::Key_Down:
-            return key::Down;
-        case Qt::Key_Insert:
-            return 45;
-        case Qt::Key_Delete:
-            return 46;
-        case Qt::Key_Equal:
-        case Qt::Key_Plus:
-            return key::Plus;
-        case Qt::Key_Minus:
-        case Qt::Key_Underscore:
-            return key::Minus;
-        default:
-            break;
-    }
-    const bool letterOrDigit = (event.key() >= Qt::Key_A && event.key() <= Qt::Key_Z) ||
-                               (event.key() >= Qt::Key_0 && event.key() <= Qt::Key_9);
-    return letterOrDigit ? static_cast<Short>(event.key()) : Short{0};
-}
 
 void ElidedLabel::setText(const QString& text) {
     if (text_ == text) return;

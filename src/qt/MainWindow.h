@@ -81,8 +81,4 @@ class MainWindow final : public QMainWindow {
     bool refreshing_ = false, refreshAgain_ = false;
 };
 
-// The classic code of a key and the state of its modifiers: 1 Shift, 2 Ctrl, 4 Alt.
-Short classicKeyCode(const QKeyEvent& event);
-Short classicShift(Qt::KeyboardModifiers modifiers);
-
 }  // namespace ladrix

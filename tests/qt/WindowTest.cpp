@@ -15,6 +15,7 @@
 #include "app/Startup.h"
 #include "canvas/DrawingCommands.h"
 #include "canvas/Keys.h"
+#include "qt/KeyCodes.h"
 #include "qt/MainWindow.h"
 #include "qt/QtText.h"
 #include "qt/Theme.h"
