@@ -25,9 +25,9 @@ void colorReset(Editor& editor, bool something);
 // The message that stands after a reset and after a zoom.
 std::string readyMessage(const Editor& editor);
 
-// The point size at which `font` has, on a canvas at this zoom, the width that it has on paper:
-// found in steps from the stored size. Kept per font and zoom.
-Single fittedFontSize(const Platform& platform, const FontSpec& font, Single zoom);
+// The point size at which `font` has, on the canvas at its zoom, the width that it has on paper:
+// found in steps from the stored size, once per font and zoom.
+Single fittedFontSize(Editor& editor, const FontSpec& font);
 
 // The label controls follow the label table: their number, texts, fonts, places and colours.
 void placeLabels(Editor& editor);
