@@ -258,6 +258,7 @@ void ToolStrip::makeTextPanel(QBoxLayout& row) {
     txtEdit_->setAccessibleName(tr("Text of the label"));
     txtEdit_->setFixedHeight(theme::ControlHeight);
     txtEdit_->setMinimumWidth(120);
+    txtEdit_->setTextMargins(theme::Unit, 0, theme::Unit, 0);
     txtEdit_->setMaximumWidth(TextFieldWidth);
     txtEdit_->setValidator(new RecordTextFilter(txtEdit_));
     txtEdit_->installEventFilter(this);
@@ -270,8 +271,10 @@ void ToolStrip::makeTextPanel(QBoxLayout& row) {
     auto* caption = new QLabel(tr("Text"), this);
     caption->setForegroundRole(QPalette::PlaceholderText);
     QBoxLayout* inside = panelLayout(*picText);
+    caption->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
     inside->addWidget(caption);
-    inside->addWidget(txtEdit_, 1);
+    inside->addWidget(txtEdit_, 100);
+    inside->addStretch(1);
     bindings_.addPanel(*picText, form.picText);
     row.addWidget(picText, 100);
 }
