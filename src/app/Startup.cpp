@@ -38,12 +38,14 @@ void makeMissing(Files& files, const std::string& base, std::string_view name) {
     if (!FolderExists(files, base, name)) files.makeFolder(base + std::string(name));
 }
 
+// The crash copy of a former run is no drawing of the user's.
 void copyDrawings(Program& program, std::string_view extension) {
     Files& files = *program.platform.files;
-    for (const FileEntry& entry : files.list(program.paths.AppFilePath))
-        if (!entry.isFolder && extensionOf(entry.name) == extension)
-            files.copy(program.paths.AppFilePath + entry.name,
-                       program.paths.DrawingsPath + entry.name);
+    for (const FileEntry& entry : files.list(program.paths.AppFilePath)) {
+        if (entry.isFolder || extensionOf(entry.name) != extension) continue;
+        if (equalIgnoringCase(entry.name, CrashCopyName)) continue;
+        files.copy(program.paths.AppFilePath + entry.name, program.paths.DrawingsPath + entry.name);
+    }
 }
 
 void firstUseCopy(Program& program) {

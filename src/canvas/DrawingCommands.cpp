@@ -86,11 +86,11 @@ bool mayGoOn(Editor& editor) {
 }
 
 std::string tempDrawing(const Editor& editor) {
-    return editor.drawing.TempFolder + "Temp_Drawing.els";
+    return editor.drawing.TempFolder + std::string(CrashCopyName);
 }
 
 void removeTempDrawing(Editor& editor) {
-    if (FileExists(*editor.platform.files, editor.drawing.TempFolder, "Temp_Drawing.els"))
+    if (FileExists(*editor.platform.files, editor.drawing.TempFolder, CrashCopyName))
         editor.platform.files->remove(tempDrawing(editor));
 }
 
@@ -291,7 +291,7 @@ void RestoreTempDrawing(Editor& editor) {
     drawing.Reading = true;
     try {
         if (startUntitled(editor) &&
-            FileExists(*editor.platform.files, drawing.TempFolder, "Temp_Drawing.els")) {
+            FileExists(*editor.platform.files, drawing.TempFolder, CrashCopyName)) {
             restoreText(editor, readDrawingFile(*editor.platform.files, tempDrawing(editor)));
             editor.platform.files->remove(tempDrawing(editor));
         }

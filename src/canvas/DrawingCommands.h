@@ -44,7 +44,8 @@ void AskToSaveChanges(Editor& editor);
 // The close of the main window. False: the window stays open.
 bool Form_QueryUnload(Editor& editor);
 
-// The crash copy, taken at each placement; deleted by the next open.
+// The crash copy in the program's folder, taken at each placement; deleted by the next open.
+constexpr std::string_view CrashCopyName = "Temp_Drawing.els";
 void WriteTempDrawing(Editor& editor);
 void RestoreTempDrawing(Editor& editor);
 

@@ -23,6 +23,7 @@ TEST_F(StartTest, AFirstRunMakesTheTreeSeedsItAndOpensWithoutAnyBox) {
     disk().write("program/Demo1.els", "one");
     disk().write("program/Title.tpl", "two");
     disk().write("program/readme.txt", "not a drawing");
+    disk().write("program/Temp_Drawing.els", "the crash copy of a former run");
 
     ASSERT_TRUE(startProgram(program));
 
