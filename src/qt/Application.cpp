@@ -46,16 +46,6 @@ void runForm(Program& program, QWidget* window, Form form) {
     }
 }
 
-void connectPlatform(QtPlatform& machine, Program& program, MainWindow& window) {
-    const auto refresh = [&window] { window.refresh(); };
-    machine.dialogs.window = &window;
-    machine.dialogs.beforeModal = refresh;
-    machine.dialogs.runForm = [&](Form form) { runForm(program, &window, form); };
-    machine.dialogs.popUpMenu = [&](std::string_view menu) { window.popUp(menu); };
-    machine.timers.afterExpiry = refresh;
-    machine.shell.ended = [&program] { program.Ending = true; };
-}
-
 // Runs when the event loop is idle, with the window painted. The result is the exit status.
 int takeScreenshot(const QString& file, QtPlatform& machine, Program& program, MainWindow& window) {
     runCommand(program, Menu::mnuHelpDemo1);
@@ -71,6 +61,16 @@ int takeScreenshot(const QString& file, QtPlatform& machine, Program& program, M
 }
 
 }  // namespace
+
+void connectPlatform(QtPlatform& machine, Program& program, MainWindow& window) {
+    const auto refresh = [&window] { window.refresh(); };
+    machine.dialogs.window = &window;
+    machine.dialogs.beforeModal = refresh;
+    machine.dialogs.runForm = [&](Form form) { runForm(program, &window, form); };
+    machine.dialogs.popUpMenu = [&](std::string_view menu) { window.popUp(menu); };
+    machine.timers.afterExpiry = refresh;
+    machine.shell.ended = [&program] { program.Ending = true; };
+}
 
 int runEditor(int argc, char** argv) {
     QApplication application(argc, argv);

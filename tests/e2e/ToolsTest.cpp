@@ -1,0 +1,199 @@
+// The tools in a person's hand: what each shows while it is used, what it leaves and how it ends.
+#include <gmock/gmock.h>
+
+#include <QLineEdit>
+
+#include "Journey.h"
+#include "symbols/DeviceNames.h"
+
+namespace ladrix::test {
+namespace {
+
+using testing::HasSubstr;
+using testing::StartsWith;
+
+constexpr auto Ready =
+    "Drawing Reset and Ready. Click on a symbol for placement. Current Zoom Scale = 100%";
+constexpr Short FirstOwnSymbol = 14;  // behind the tools that all libraries share
+
+struct ToolsTest : testing::Test {
+    const DeviceTable& devices() { return journey.editor().drawing.devices; }
+    // Whether the square of an inch around a point shows anything but the page.
+    bool hasInkAround(double x, double y) {
+        const QRect area(journey.at(x - 0.5, y - 0.5), journey.at(x + 0.5, y + 0.5));
+        QImage plain = journey.picture().copy(area);
+        const QImage seen = plain;
+        plain.fill(Qt::white);
+        return seen != plain;
+    }
+
+    Home home;
+    Journey journey{home};
+};
+
+TEST_F(ToolsTest, EveryToolShowsItselfAndEndsWithEscape) {
+    const QImage empty = journey.picture();
+    int tools = 0;
+    for (const PaletteButton& button : std::vector(journey.editor().form.cmdSym)) {
+        if (!button.Visible) continue;
+        SCOPED_TRACE(button.Tag);
+        ++tools;
+        journey.press(button.Tag);
+        EXPECT_THAT(journey.message(), StartsWith(button.Tag + " Selected - "));
+        const Short index = journey.indexOf(button.Tag);
+        EXPECT_TRUE(journey.editor().form.cmdSym[static_cast<std::size_t>(index)].Pressed);
+        journey.moveOnPage(3, 3);
+        EXPECT_NE(journey.picture(), empty);
+        Journey::key(Qt::Key_Escape);
+        EXPECT_EQ(journey.message(), Ready);
+        EXPECT_FALSE(journey.editor().form.cmdSym[static_cast<std::size_t>(index)].Pressed);
+        EXPECT_EQ(journey.picture(), empty);
+        EXPECT_FALSE(journey.find("picText").isVisible());
+        EXPECT_FALSE(journey.find("picRadius").isVisible());
+        EXPECT_TRUE(journey.page().hasFocus());
+    }
+    EXPECT_EQ(tools, 92);
+    EXPECT_EQ(devices().DeviceCount, 0);
+    EXPECT_FALSE(journey.editor().drawing.DrawingChanged);
+}
+
+TEST_F(ToolsTest, EscapeDropsWhatIsHalfDrawn) {
+    const QImage empty = journey.picture();
+    for (const char* tool : {"Line", "Dashed Line", "Square", "Dashed Square"}) {
+        journey.press(tool);
+        journey.clickPage(2, 2);
+        journey.moveOnPage(4, 3);
+        EXPECT_TRUE(hasInkAround(4, 3)) << tool;
+        Journey::key(Qt::Key_Escape);
+        EXPECT_EQ(journey.picture(), empty) << tool;
+    }
+    journey.press("Text");
+    journey.moveOnPage(2, 2);
+    ASSERT_TRUE(journey.find("txtEdit").hasFocus());
+    Journey::type("gone");
+    EXPECT_TRUE(hasInkAround(2, 2));
+    Journey::key(Qt::Key_Escape);
+    EXPECT_EQ(journey.picture(), empty);
+    EXPECT_EQ(devices().DeviceCount + journey.editor().drawing.labels.LabelCount, 0);
+}
+
+TEST_F(ToolsTest, ADoubleClickEndsAPolylineAndArmsTheNextInItsStyle) {
+    for (const char* tool : {"Line", "Dashed Line"}) {
+        SCOPED_TRACE(tool);
+        journey.press(tool);
+        journey.clickPage(1, 1);
+        journey.clickPage(3, 1);
+        Journey::doubleClick(journey.page(), journey.at(3, 2));
+        const Short drawn = devices().DeviceCount;
+        EXPECT_EQ(devices().DeviceY2[static_cast<std::size_t>(drawn - 1)] > 1, true)
+            << "the first press of the two is the end point";
+        EXPECT_THAT(journey.message(), StartsWith(std::string(tool) + " Selected"));
+        journey.clickPage(5, 1);
+        EXPECT_EQ(devices().DeviceCount, drawn) << "the next one begins afresh";
+        journey.clickPage(5, 4);
+        EXPECT_GT(devices().DeviceCount, drawn);
+        Journey::key(Qt::Key_Escape);
+    }
+}
+
+TEST_F(ToolsTest, TheReadOutTellsWhereTheNextPointWillBe) {
+    const auto readOut = [&](double x, double y) {
+        journey.moveOnPage(x, y);
+        return journey.textOf("lblCoords");
+    };
+    EXPECT_EQ(readOut(2.125, 3.5), "X = 2.125, Y = 3.5") << "without a tool";
+    journey.press("Line");
+    EXPECT_EQ(readOut(2.03125, 3.46875), "X = 2, Y = 3.5") << "near a snap point";
+    EXPECT_TRUE(journey.editor().form.pointer.LineV.Visible);
+    EXPECT_EQ(readOut(2.125, 3.125), "X = 2.125, Y = 3.125") << "between the snap points";
+    EXPECT_FALSE(journey.editor().form.pointer.LineV.Visible);
+    journey.clickPage(2.03125, 3);
+    EXPECT_EQ(journey.textOf("lblCoords"), "2, 3");
+}
+
+TEST_F(ToolsTest, TheMessageGuideLeadsThroughEachTool) {
+    journey.press("Line");
+    EXPECT_EQ(journey.message(), "Line Selected - Click a start point or press ESC to end.");
+    journey.clickPage(1, 1);
+    EXPECT_THAT(journey.message(), StartsWith("Continuing with Line Control."));
+    journey.press("Square");
+    journey.clickPage(1, 1);
+    EXPECT_THAT(journey.message(), StartsWith("Continuing with Square."));
+    journey.clickPage(2, 2);
+    EXPECT_THAT(journey.message(), StartsWith("End point for Square found."));
+    journey.press("Arc Up");
+    EXPECT_THAT(journey.message(), HasSubstr("start and end point in degrees, click a location."));
+    EXPECT_TRUE(journey.find("txtCircleEnd").isVisible());
+    EXPECT_EQ(journey.textOf("txtCircleStart"), "360.0");
+    journey.press("Large Circle");
+    EXPECT_THAT(journey.message(), HasSubstr("After editing the radius, click a location."));
+    EXPECT_TRUE(journey.find("txtRadius").isVisible());
+    EXPECT_FALSE(journey.find("txtCircleEnd").isVisible());
+    journey.press("Text");
+    journey.moveOnPage(3, 3);
+    EXPECT_THAT(journey.message(), StartsWith("Text edit area has the focus."));
+    Journey::type("A");
+    EXPECT_EQ(journey.message(), "Type desired text and press ENTER. Press Esc when finished.");
+    journey.clickPage(3, 3);
+    EXPECT_THAT(journey.message(), StartsWith("Continuing with Text Selection"));
+    journey.press("Lamp");
+    EXPECT_THAT(journey.message(), HasSubstr("type a name for the device if applicable."));
+    Journey::click(journey.find("cmdReset"));
+    EXPECT_EQ(journey.message(), Ready);
+}
+
+TEST_F(ToolsTest, TheOrientationChosenInTheFlyOutIsPlaced) {
+    const Short capacitor = journey.indexOf("Capacitor");
+    PaletteWidget& palette = journey.window().palette();
+    auto& flyOut = journey.find("picMoreSym");
+    std::vector<QImage> placed;
+    for (const int variant : {0, 1, 2, 3}) {
+        Journey::move(palette, palette.buttonRect(capacitor).center());
+        ASSERT_TRUE(flyOut.isVisible());
+        const int cell = flyOut.height() / 4;
+        Journey::click(flyOut, QPoint(flyOut.width() / 2, variant * cell + cell / 2));
+        EXPECT_FALSE(flyOut.isVisible());
+        journey.clickPage(2 + variant, 3);
+        ASSERT_EQ(devices().DeviceCount, variant + 1);
+        EXPECT_EQ(devices().DeviceOrientation.back(), variant);
+        Journey::key(Qt::Key_Escape);
+    }
+    for (int variant = 0; variant < 4; ++variant)
+        placed.push_back(journey.picture().copy(
+            QRect(journey.at(1.5 + variant, 2.5), journey.at(2.5 + variant, 3.5))));
+    EXPECT_NE(placed[0], placed[1]);
+    EXPECT_NE(placed[0], placed[2]);
+    EXPECT_NE(placed[1], placed[3]);
+}
+
+TEST_F(ToolsTest, EveryLibraryShowsItsPaletteAndPlacesItsFirstSymbol) {
+    struct Library {
+        const char *entry, *first;
+    };
+    const Library libraries[] = {{"mnuLibElectronic", "Connector Style 1"},
+                                 {"mnuLibIEC", "IEC Connector"},
+                                 {"mnuLibHyd", "Solid Arrow"},
+                                 {"mnuLibElectrical", "Connector, Horizontal"}};
+    QImage before = journey.window().palette().grab().toImage();
+    Short placed = 0;
+    for (const Library& library : libraries) {
+        SCOPED_TRACE(library.entry);
+        journey.choose("mnuLibraries", library.entry);
+        EXPECT_TRUE(journey.find<QAction>(library.entry).isChecked());
+        const QImage shown = journey.window().palette().grab().toImage();
+        EXPECT_NE(shown, before);
+        before = shown;
+        EXPECT_EQ(journey.indexOf(library.first), FirstOwnSymbol);
+        journey.press(library.first);
+        const double y = 2 + placed;
+        EXPECT_FALSE(hasInkAround(3, y));
+        journey.clickPage(3, y);
+        Journey::key(Qt::Key_Escape);
+        ASSERT_EQ(devices().DeviceCount, ++placed);
+        EXPECT_EQ(devices().DeviceName.back(), deviceOfPaletteText(library.first));
+        EXPECT_TRUE(hasInkAround(3, y));
+    }
+}
+
+}  // namespace
+}  // namespace ladrix::test
