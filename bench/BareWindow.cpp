@@ -1,0 +1,16 @@
+// The least that the toolkit can show: an empty window of the size of the editor's. Measured by
+// StartBench; links nothing but the toolkit.
+#include <QApplication>
+#include <QScreen>
+#include <QWidget>
+
+#include "StartProbe.h"
+
+int main(int argc, char** argv) {
+    ladrix::bench::probeStart();
+    const QApplication application(argc, argv);
+    QWidget window;
+    window.resize(QSize(1240, 900).boundedTo(window.screen()->availableSize() - QSize(16, 48)));
+    window.show();
+    return QApplication::exec();
+}
