@@ -57,12 +57,14 @@ void add(Costs& costs, const StartCost& cost) {
 
 void measure(const std::string& self) {
     const std::string bare = std::filesystem::path(self).replace_filename("BareWindow");
-    Costs ours, measures;
+    Costs ours, measures, withText;
     for (int round = 0; round <= Rounds; ++round) {
         const StartCost ofBare = start(bare, nullptr);
+        const StartCost ofText = start(bare, "--text");
         const StartCost ofOurs = start(self, EditorArgument);
         if (round == 0) continue;  // the first start fills the caches and makes the folders
         add(measures, ofBare);
+        add(withText, ofText);
         add(ours, ofOurs);
     }
     printHeading("Start to the idle window beside a bare window of the toolkit");
@@ -73,6 +75,10 @@ void measure(const std::string& self) {
     line("time of the processor, ms", ours.processor, measures.processor, TimeLimit);
     line("time on the wall, ms", ours.wall, measures.wall, TimeLimit);
     line("resident memory, MB", ours.resident, measures.resident, MemoryLimit);
+    printHeading("The same beside a bare window with a line of text, which loads the fonts");
+    line("time of the processor, ms", ours.processor, withText.processor, 0);
+    line("time on the wall, ms", ours.wall, withText.wall, 0);
+    line("resident memory, MB", ours.resident, withText.resident, 0);
 }
 
 // The offscreen platform's own screen is too small for the editor.

@@ -180,7 +180,7 @@ bool NewDrawing(Editor& editor) {
     editor.LastSelectedLabel = -1;
     editor.LabelEdited = false;
     drawing.TitleState = drawing.CurrentFileName.empty() ? 0 : 1;
-    ResetZoom(editor);
+    layOutNewPage(editor);
     ResetEditor(editor);
     if (editor.ClearHistory) editor.ClearHistory();
     UpdateTitle(editor);

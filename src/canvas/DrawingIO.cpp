@@ -34,11 +34,6 @@ void parseAll(Editor& editor) {
     loadPictures(editor);
 }
 
-void layOutPage(Editor& editor) {
-    ApplyPageLayout(editor);
-    ResetZoom(editor);
-}
-
 }  // namespace
 
 FileText readDrawingFile(Files& files, const std::string& path) {
@@ -69,7 +64,7 @@ void openText(Editor& editor, const FileText& file) {
         drawing.TemplateLabels = drawing.LabelString;
     }
     parseAll(editor);
-    if (!joining) layOutPage(editor);
+    if (!joining) layOutNewPage(editor);
     RedrawDrawing(editor);
     if (editor.ClearHistory) editor.ClearHistory();
     drawing.DrawingChanged = false;
@@ -85,7 +80,7 @@ void restoreText(Editor& editor, const FileText& file) {
     takeParts(drawing, splitFile(file.content, file.modified));
     drawing.TemplateActive = withTemplate;
     parseAll(editor);
-    layOutPage(editor);
+    layOutNewPage(editor);
     RedrawDrawing(editor);
     // The copy on disk goes: what it held has no other place than the tables.
     drawing.DrawingChanged = true;

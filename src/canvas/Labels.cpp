@@ -86,7 +86,7 @@ Short recordCentredLabel(Editor& editor, std::string_view text, Single x, Single
     const Short before = editor.drawing.labels.LabelCount;
     RecordLabel(editor.drawing, editor.platform, label);
     if (editor.drawing.labels.LabelCount == before) return -1;
-    placeLabels(editor);
+    placeLastLabel(editor);
     return before;
 }
 

@@ -130,19 +130,31 @@ Single fittedFontSize(Editor& editor, const FontSpec& font) {
     return editor.fittedFonts.sizes[key] = searchFontSize(editor.platform, font, zoom);
 }
 
-void placeLabels(Editor& editor) {
+namespace {
+
+LabelControl labelControl(Editor& editor, std::size_t i) {
     const LabelTable& labels = editor.drawing.labels;
-    const auto count = static_cast<std::size_t>(labels.LabelCount);
+    FontSpec font{labels.LabelFontName[i], labels.LabelFontSize[i],
+                  editor.symbols.ThickDevices || labels.LabelBold[i], labels.LabelItalic[i]};
+    font.size = fittedFontSize(editor, font);
+    const Long color = labels.LabelSelected[i] != 0 ? editor.SelectionColor : labels.LabelColor[i];
+    return {labels.LabelText[i], labels.LabelX[i], labels.LabelY[i], color, std::move(font), true};
+}
+
+}  // namespace
+
+void placeLabels(Editor& editor) {
+    const auto count = static_cast<std::size_t>(editor.drawing.labels.LabelCount);
     editor.form.lbl.resize(count);
-    for (std::size_t i = 0; i < count; ++i) {
-        FontSpec font{labels.LabelFontName[i], labels.LabelFontSize[i],
-                      editor.symbols.ThickDevices || labels.LabelBold[i], labels.LabelItalic[i]};
-        font.size = fittedFontSize(editor, font);
-        const Long color =
-            labels.LabelSelected[i] != 0 ? editor.SelectionColor : labels.LabelColor[i];
-        editor.form.lbl[i] = {
-            labels.LabelText[i], labels.LabelX[i], labels.LabelY[i], color, std::move(font), true};
-    }
+    for (std::size_t i = 0; i < count; ++i)
+        editor.form.lbl[i] = labelControl(editor, i);
+    ++editor.form.LabelVersion;
+}
+
+void placeLastLabel(Editor& editor) {
+    const auto count = static_cast<std::size_t>(editor.drawing.labels.LabelCount);
+    if (count == 0 || editor.form.lbl.size() != count - 1) return placeLabels(editor);
+    editor.form.lbl.push_back(labelControl(editor, count - 1));
     ++editor.form.LabelVersion;
 }
 

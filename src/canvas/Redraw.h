@@ -31,5 +31,7 @@ Single fittedFontSize(Editor& editor, const FontSpec& font);
 
 // The label controls follow the label table: their number, texts, fonts, places and colours.
 void placeLabels(Editor& editor);
+// The same after a label was added to the table, all others being in their places.
+void placeLastLabel(Editor& editor);
 
 }  // namespace ladrix

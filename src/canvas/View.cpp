@@ -32,6 +32,21 @@ void applyScroll(Editor& editor) {
     editor.platform.picLX->SetScale(editor.ScaleLeft, editor.ScaleTop, editor.ZoomFactor);
 }
 
+void takePageSize(Editor& editor) {
+    const auto size = pageSize(editor.drawing.PageLayoutKey);
+    if (!size) return;
+    editor.PageWidth = editor.CanvasScaleWidth = size->PageWidth;
+    editor.PageHeight = editor.CanvasScaleHeight = size->PageHeight;
+}
+
+void returnToFullSize(Editor& editor) {
+    editor.ZoomFactor = 1;
+    editor.ZoomStepCount = 0;
+    editor.form.HScroll1.Value = editor.form.VScroll1.Value = 0;
+    ArrangeScrollBars(editor);
+    applyScroll(editor);
+}
+
 void scroll(Editor& editor) {
     editor.symbols.SkipUserSymbolOnce = !editor.ZoomInPending && !editor.ZoomOutPending;
     applyScroll(editor);
@@ -50,23 +65,19 @@ void Form_Resize(Editor& editor, Single frameWidth, Single frameHeight) {
 }
 
 void ApplyPageLayout(Editor& editor) {
-    const auto size = pageSize(editor.drawing.PageLayoutKey);
-    if (size) {
-        editor.PageWidth = editor.CanvasScaleWidth = size->PageWidth;
-        editor.PageHeight = editor.CanvasScaleHeight = size->PageHeight;
-    }
+    takePageSize(editor);
     ArrangeScrollBars(editor);
     applyScroll(editor);
     RedrawDrawing(editor);
 }
 
+void layOutNewPage(Editor& editor) {
+    takePageSize(editor);
+    returnToFullSize(editor);
+}
+
 void ResetZoom(Editor& editor) {
-    editor.ZoomFactor = 1;
-    editor.ZoomStepCount = 0;
-    editor.form.HScroll1.Value = editor.form.VScroll1.Value = 0;
-    measureFrame(editor);
-    ArrangeScrollBars(editor);
-    applyScroll(editor);
+    returnToFullSize(editor);
     paintDrawing(editor);
 }
 

@@ -13,6 +13,10 @@ void Form_Resize(Editor& editor, Single frameWidth, Single frameHeight);
 // sizes as they are.
 void ApplyPageLayout(Editor& editor);
 
+// The view of a drawing just read: the page by its key, then as after ResetZoom. Nothing is
+// painted; the caller redraws.
+void layOutNewPage(Editor& editor);
+
 // 100 percent, scrolled to the upper left.
 void ResetZoom(Editor& editor);
 

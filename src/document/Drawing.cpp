@@ -61,21 +61,43 @@ void dropUnfinishedLine(std::string& master) {
     master.resize(lastEnd == std::string::npos ? 0 : lastEnd + LineEnd.size());
 }
 
-void appendDevice(Drawing& drawing, const Device& device, char decimalMark) {
-    drawing.devices.append(recordedFields(device));
-    const auto index = static_cast<Short>(drawing.devices.DeviceCount - 1);
-    std::string& master = drawing.DeviceString;
+// Adds the record of the table's last row. A row that cannot be written is taken back.
+template <class Table, class AppendRecord>
+void appendLastRow(std::string& master, RecordOffsets& records, Table& table, Short index,
+                   const AppendRecord& appendRecord) {
     dropUnfinishedLine(master);
     const std::size_t start = master.size();
     try {
-        appendDeviceRecord(master, drawing.devices, index, decimalMark);
+        appendRecord(master, index);
     } catch (const Failure&) {
         master.resize(start);
-        drawing.devices.resize(index);
+        table.resize(index);
         throw;
     }
     master += LineEnd;
-    drawing.DeviceRecords.start.push_back(start);
+    records.start.push_back(start);
+}
+
+void appendDevice(Drawing& drawing, const Device& device, char decimalMark) {
+    drawing.devices.append(recordedFields(device));
+    appendLastRow(drawing.DeviceString, drawing.DeviceRecords, drawing.devices,
+                  static_cast<Short>(drawing.devices.DeviceCount - 1),
+                  [&](std::string& master, Short index) {
+                      appendDeviceRecord(master, drawing.devices, index, decimalMark);
+                  });
+}
+
+// Where the text does not hold the rows before this one, and nothing else, it is made anew.
+void appendLabel(Drawing& drawing, const Platform& platform, const Label& label) {
+    const auto before = static_cast<std::size_t>(drawing.labels.LabelCount);
+    drawing.labels.append(label);
+    const bool agreed =
+        drawing.LabelRecords.start.size() == before && (before > 0 || drawing.LabelString.empty());
+    if (!agreed) return RebuildLabelString(drawing, platform);
+    appendLastRow(drawing.LabelString, drawing.LabelRecords, drawing.labels,
+                  static_cast<Short>(before), [&](std::string& master, Short index) {
+                      appendLabelRecord(master, drawing.labels, index, platform.locale.decimalMark);
+                  });
 }
 
 // The segments of a dashed line are meant to be one step of the history.
@@ -178,10 +200,9 @@ void RecordLabel(Drawing& drawing, const Platform& platform, Label label) {
             printOnCanvas(platform, label);
             return;
         }
-        drawing.labels.append(label);
+        appendLabel(drawing, platform, label);
         drawing.CurrentLabel = static_cast<Short>(drawing.labels.LabelCount - 1);
         drawing.DrawingChanged = true;
-        RebuildLabelString(drawing, platform);
         if (drawing.LabelsChanged) drawing.LabelsChanged();
     } catch (const Failure& failure) {
         platform.ReportError("Record Label", failure);

@@ -73,6 +73,8 @@ void connectPlatform(QtPlatform& machine, Program& program, MainWindow& window) 
 }
 
 int runEditor(int argc, char** argv) {
+    // The menus stand in the window, whatever a desktop offers; nobody need be asked.
+    QApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
     QApplication application(argc, argv);
     QApplication::setApplicationName("Ladrix");
     QApplication::setDesktopFileName("ladrix");

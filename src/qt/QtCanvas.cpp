@@ -14,6 +14,39 @@ constexpr double PixelsPerInch = 96;
 constexpr double PenRoom = 4;   // logical pixels around what a pen draws
 constexpr int ShadowRings = 8;  // soft edge of the page's shadow, logical pixels
 constexpr int ShadowDrop = 2;
+constexpr QColor Shade{30, 40, 60};
+
+// What `shade` of this strength (of 255) gives on the desk.
+QColor onDesk(const QColor& shade, int strength) {
+    const auto mixed = [strength](int over, int under) {
+        return under + (over - under) * strength / 255;
+    };
+    return {mixed(shade.red(), theme::Desk.red()), mixed(shade.green(), theme::Desk.green()),
+            mixed(shade.blue(), theme::Desk.blue())};
+}
+
+// One outline of the page's shadow, `ring` pixels out. Every view wipes the canvas, so its long
+// sides are plain fills; only the corners are smoothed.
+void paintRing(QPainter& painter, const QRectF& page, int ring) {
+    const QColor color = onDesk(Shade, (ShadowRings + 1 - ring) * 4);
+    const QRectF outer = page.adjusted(-ring, -ring, ring, ring);
+    const double corner = ring + 1;
+    const double width = outer.width() - 2 * corner, height = outer.height() - 2 * corner;
+    painter.fillRect(QRectF(outer.left() + corner, outer.top(), width, 1), color);
+    painter.fillRect(QRectF(outer.left() + corner, outer.bottom() - 1, width, 1), color);
+    painter.fillRect(QRectF(outer.left(), outer.top() + corner, 1, height), color);
+    painter.fillRect(QRectF(outer.right() - 1, outer.top() + corner, 1, height), color);
+    const QRectF line = outer.adjusted(0.5, 0.5, -0.5, -0.5);
+    const double turn = 2 * corner - 1, right = line.right() - turn, low = line.bottom() - turn;
+    constexpr int Quarter = 90 * 16;
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(color, 1, Qt::SolidLine, Qt::FlatCap));
+    painter.drawArc(QRectF(right, line.top(), turn, turn), 0, Quarter);
+    painter.drawArc(QRectF(line.left(), line.top(), turn, turn), Quarter, Quarter);
+    painter.drawArc(QRectF(line.left(), low, turn, turn), 2 * Quarter, Quarter);
+    painter.drawArc(QRectF(right, low, turn, turn), 3 * Quarter, Quarter);
+    painter.setRenderHint(QPainter::Antialiasing, false);
+}
 
 }  // namespace
 
@@ -126,9 +159,10 @@ QRegion QtCanvas::takeDamage() {
     return region;
 }
 
-// Hands the primitive to the layer in force, with the drawing properties of this moment.
-template <class Draw>
-void QtCanvas::draw(const QRectF& bounds, Draw primitive) {
+// Hands the primitive to the layer in force, with the drawing properties of this moment. Its bounds
+// are asked for only where they count: not in a redraw, which damages all.
+template <class Bounds, class Draw>
+void QtCanvas::draw(const Bounds& boundsOf, Draw primitive) {
     const auto paint = [fillStyle = FillStyle, fillColor = ink(FillColor), width = DrawWidth,
                         style = DrawStyle, primitive](QtPainterPage& page) {
         page.FillStyle = fillStyle;
@@ -137,15 +171,14 @@ void QtCanvas::draw(const QRectF& bounds, Draw primitive) {
         page.DrawStyle = style;
         primitive(page);
     };
-    const QRectF seen = bounds & view_.target;
     if (!AutoRedraw) {
-        temporaryBounds_ |= seen;
+        temporaryBounds_ |= boundsOf() & view_.target;
         temporaryGrown_ = true;
         temporary_.emplace_back(paint);
         return;
     }
     wipeTemporaryLayer();
-    if (!allDamaged_) persistentDamage_ |= seen;
+    if (!allDamaged_) persistentDamage_ |= boundsOf() & view_.target;
     if (QtPainterPage* page = persistentPage()) paint(*page);
 }
 
@@ -164,26 +197,26 @@ QRectF QtCanvas::textBounds(Single x, Single y, double points, std::size_t lengt
 }
 
 void QtCanvas::Line(Single x1, Single y1, Single x2, Single y2, Long color, LineForm form) {
-    draw(pixelBounds(x1, y1, x2, y2),
+    draw([&] { return pixelBounds(x1, y1, x2, y2); },
          [=, inked = ink(color)](QtPainterPage& page) { page.Line(x1, y1, x2, y2, inked, form); });
 }
 
 void QtCanvas::Circle(Single x, Single y, Single radius, Long color, Single aspect) {
     draw(
-        pixelBounds(x - radius, y - radius, x + radius, y + radius),
+        [&] { return pixelBounds(x - radius, y - radius, x + radius, y + radius); },
         [=, inked = ink(color)](QtPainterPage& page) { page.Circle(x, y, radius, inked, aspect); });
 }
 
 void QtCanvas::Arc(Single x, Single y, Single radius, Long color, double start, double end,
                    Single aspect) {
-    draw(pixelBounds(x - radius, y - radius, x + radius, y + radius),
+    draw([&] { return pixelBounds(x - radius, y - radius, x + radius, y + radius); },
          [=, inked = ink(color)](QtPainterPage& page) {
              page.Arc(x, y, radius, inked, start, end, aspect);
          });
 }
 
 void QtCanvas::Text(Single x, Single y, const FontSpec& font, std::string_view text, Long color) {
-    draw(textBounds(x, y, font.size, text.size()),
+    draw([&] { return textBounds(x, y, font.size, text.size()); },
          [=, kept = std::string(text), inked = ink(color)](QtPainterPage& page) {
              page.Text(x, y, font, kept, inked);
          });
@@ -193,7 +226,7 @@ void QtCanvas::PaintPicture(const Picture& picture, Single x, Single y, Single w
                             Single height) {
     const auto* known = dynamic_cast<const QtPicture*>(&picture);
     if (!known) throw Failure{failure::InvalidCall, "Not a picture of this toolkit"};
-    const QRectF bounds = pixelBounds(x, y, x + width, y + height);
+    const auto bounds = [&] { return pixelBounds(x, y, x + width, y + height); };
     if (AutoRedraw)
         return draw(bounds, [&, x, y, width, height](QtPainterPage& page) {
             page.PaintPicture(*known, x, y, width, height);
@@ -219,16 +252,8 @@ void QtCanvas::paintDesk(QPainter& painter) const {
     const Single height = editor_ ? editor_->PageHeight : 11.0f;
     const QRectF page(toPixels(0, 0), toPixels(width, height));
     painter.fillRect(view_.target, theme::Desk);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setBrush(Qt::NoBrush);
-    for (int ring = 1; ring <= ShadowRings; ++ring) {
-        const int fading = (ShadowRings + 1 - ring) * 4;
-        painter.setPen(QPen(QColor(30, 40, 60, fading), 1));
-        const double out = ring - 0.5;
-        painter.drawRoundedRect(page.adjusted(-out, -out, out, out).translated(0, ShadowDrop),
-                                ring + 1, ring + 1);
-    }
-    painter.setRenderHint(QPainter::Antialiasing, false);
+    for (int ring = ShadowRings; ring > 0; --ring)
+        paintRing(painter, page.translated(0, ShadowDrop), ring);
     painter.fillRect(page.adjusted(-1, -1, 1, 1), theme::PageEdge);
     painter.fillRect(page, theme::color(BackColor));
 }

@@ -64,8 +64,8 @@ class QtCanvas final : public Canvas {
     QRectF textBounds(Single x, Single y, double points, std::size_t length) const;
 
   private:
-    template <class Draw>
-    void draw(const QRectF& bounds, Draw primitive);
+    template <class Bounds, class Draw>
+    void draw(const Bounds& boundsOf, Draw primitive);
     QRectF pixelBounds(Single x1, Single y1, Single x2, Single y2) const;
     QtPainterPage* persistentPage();
     void endPainting();

@@ -94,6 +94,10 @@ class Style final : public QProxyStyle {
                 return render(pathOf("message-information"), MessageSide, qApp->devicePixelRatio());
             case SP_MessageBoxWarning:
                 return render(pathOf("message-warning"), MessageSide, qApp->devicePixelRatio());
+            // The menu bar asks for it before it is known to be needed; the toolkit's own would
+            // load every picture format.
+            case SP_ToolBarHorizontalExtensionButton:
+                return icon("chevron-down");
             default:
                 return QProxyStyle::standardIcon(which, option, widget);
         }

@@ -215,6 +215,24 @@ TEST_F(DrawingTest, LabelsAreRecordedWithTheFixedColourWhenThatIsOn) {
     EXPECT_EQ(labelChanges, 2);
 }
 
+TEST_F(DrawingTest, ALabelIsAddedToATextThatHoldsTheOthersAndReplacesOneThatDoesNot) {
+    label({.text = "M1", .fontName = "Arial", .fontSize = 8});
+    label({.text = "M2", .fontName = "Arial", .fontSize = 8});
+    EXPECT_EQ(readable(drawing.LabelRecord(1)), "M2|0|0|0|Arial|8|False|False");
+    const std::string two = drawing.LabelString;
+
+    label({.text = "M3", .x = std::numeric_limits<Single>::infinity()});
+    EXPECT_EQ(machine.reports.size(), 1u);
+    EXPECT_EQ(drawing.labels.LabelCount, 2);
+    EXPECT_EQ(drawing.LabelString, two);
+    EXPECT_EQ(drawing.CurrentLabel, 1);
+
+    ClearTables(drawing);
+    drawing.LabelString = "not a label\r\n";
+    label({.text = "M1", .fontName = "Arial", .fontSize = 8});
+    EXPECT_EQ(readable(drawing.LabelString), "M1|0|0|0|Arial|8|False|False\n");
+}
+
 TEST_F(DrawingTest, ALabelOfAPreviewIsPrintedAndNotRecorded) {
     drawing.DrawingPreview = true;
     drawing.FixedLabelColorOn = true;
