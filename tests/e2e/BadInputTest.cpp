@@ -49,7 +49,7 @@ struct BadInputTest : testing::Test {
     Journey journey{home};
 };
 
-TEST_F(BadInputTest, AFileOfNoiseIsNoDrawing) {
+TEST_F(BadInputTest, NoiseIsNoDrawing) {
     std::mt19937 random(7);
     std::string noise(100000, '\0');
     for (char& byte : noise)
@@ -61,11 +61,27 @@ TEST_F(BadInputTest, AFileOfNoiseIsNoDrawing) {
     expectUsable();
 }
 
+TEST_F(BadInputTest, NoiseInTheShapeOfADrawingIsToldOf) {
+    std::mt19937 random(11);
+    std::string noise = "8.5x11Portrait\r\n\r\n";
+    for (int i = 0; i < 20000; ++i)
+        noise += random() % 12 == 0  ? std::string("\r\n")
+                 : random() % 4 == 0 ? std::string("\xFF")
+                                     : std::string(1, static_cast<char>(' ' + random() % 90));
+    home.disk().write(Home::drawing("Shaped.els"), noise);
+    openExpecting("Shaped.els", {"File structure corrupted and cannot be read.",
+                                 "Parse Device String", "Parse Label String"});
+    EXPECT_TRUE(journey.title().ends_with("Untitled")) << journey.title();
+    EXPECT_EQ(home.disk().read(Home::drawing("Shaped.els")), noise);
+    expectUsable();
+}
+
 TEST_F(BadInputTest, ATruncatedDrawingIsNotTakenForWhole) {
     const std::string whole = home.disk().read(Home::drawing("Demo1.els"));
     const std::string cut = whole.substr(0, whole.size() / 2);
     home.disk().write(Home::drawing("Cut.els"), cut);
-    openExpecting("Cut.els", {});
+    openExpecting("Cut.els", {"Type mismatch"});
+    EXPECT_TRUE(journey.title().ends_with("Untitled")) << journey.title();
     EXPECT_EQ(home.disk().read(Home::drawing("Cut.els")), cut);
     expectUsable();
 }

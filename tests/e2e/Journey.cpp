@@ -36,10 +36,11 @@ QPoint inWindow(QWidget& widget, QPoint point) {
     return widget.mapTo(widget.window(), point);
 }
 
+// When a dialog closes, the window manager takes a moment to give the keys to the next window.
 QWindow* windowWithKeys() {
-    QWidget* const window = QApplication::activeWindow();
-    if (!window) throw std::logic_error("no window is active");
-    return windowOf(*window);
+    if (!waitFor([] { return QApplication::activeWindow() != nullptr; }))
+        throw std::logic_error("no window is active");
+    return windowOf(*QApplication::activeWindow());
 }
 
 bool isReady(const QWidget& dialog) {

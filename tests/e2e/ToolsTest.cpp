@@ -42,6 +42,7 @@ TEST_F(ToolsTest, EveryToolShowsItselfAndEndsWithEscape) {
         EXPECT_THAT(journey.message(), StartsWith(button.Tag + " Selected - "));
         const Short index = journey.indexOf(button.Tag);
         EXPECT_TRUE(journey.editor().form.cmdSym[static_cast<std::size_t>(index)].Pressed);
+        journey.moveOnPage(4, 4);
         journey.moveOnPage(3, 3);
         EXPECT_NE(journey.picture(), empty);
         Journey::key(Qt::Key_Escape);
