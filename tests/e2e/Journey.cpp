@@ -24,6 +24,7 @@ namespace {
 
 constexpr int LongestWait = 10000;  // milliseconds; reached only by a failure
 constexpr int Glance = 5;           // milliseconds between two looks for a dialog
+constexpr int Patience = 500;       // milliseconds that the window manager is given
 
 QWindow* windowOf(QWidget& widget) {
     QWindow* const window = widget.window()->windowHandle();
@@ -36,8 +37,15 @@ QPoint inWindow(QWidget& widget, QPoint point) {
     return widget.mapTo(widget.window(), point);
 }
 
-// When a dialog closes, the window manager takes a moment to give the keys to the next window.
+// When dialogs come and go fast the window manager may leave the keys with none: as a person would
+// take the window that is on top, so does this.
 QWindow* windowWithKeys() {
+    if (!QTest::qWaitFor([] { return QApplication::activeWindow() != nullptr; }, Patience)) {
+        QWidget* top = QApplication::activeModalWidget();
+        for (QWidget* window : QApplication::topLevelWidgets())
+            if (!top && window->isVisible() && window->objectName() == "frmLX") top = window;
+        if (top) top->activateWindow();
+    }
     if (!waitFor([] { return QApplication::activeWindow() != nullptr; }))
         throw std::logic_error("no window is active");
     return windowOf(*QApplication::activeWindow());
@@ -157,7 +165,9 @@ void Journey::watchDialogs() {
     QTimer::singleShot(Glance, &watch_, [this] {
         auto* const dialog = QApplication::activeModalWidget();
         watchDialogs();
-        if (dialog && isReady(*dialog) && !attended_.contains(dialog)) attend(*dialog);
+        if (!dialog || attended_.contains(dialog)) return;
+        if (isReady(*dialog)) return attend(*dialog);
+        if (++looks_ % (Patience / Glance) == 0) dialog->activateWindow();
     });
 }
 

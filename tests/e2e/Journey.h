@@ -128,6 +128,7 @@ class Journey {
     std::unique_ptr<MainWindow> window_;
     std::deque<Step> steps_;
     QWidgetList attended_;  // the dialogs whose steps are under way, outermost first
+    int looks_ = 0;         // at dialogs that were not ready for a step
     QObject watch_;         // ends the watching
 };
 
