@@ -1,6 +1,7 @@
 // The tools in a person's hand: what each shows while it is used, what it leaves and how it ends.
 #include <gmock/gmock.h>
 
+#include <QLabel>
 #include <QLineEdit>
 
 #include "Journey.h"
@@ -141,6 +142,23 @@ TEST_F(ToolsTest, TheMessageGuideLeadsThroughEachTool) {
     EXPECT_THAT(journey.message(), HasSubstr("type a name for the device if applicable."));
     Journey::click(journey.find("cmdReset"));
     EXPECT_EQ(journey.message(), Ready);
+}
+
+TEST_F(ToolsTest, TheTextBoxStandsBesideItsCaptionInAnyWidth) {
+    journey.press("Text");
+    journey.moveOnPage(3, 3);
+    auto& box = journey.find("txtEdit");
+    const auto* caption = journey.find("picText").findChild<QLabel*>();
+    ASSERT_TRUE(caption);
+    int widest = 0;
+    for (const int width : {1000, 1240, 1700}) {
+        journey.window().resize(width, 800);
+        ASSERT_TRUE(waitFor([&] { return journey.find("picTop").width() == width; }));
+        EXPECT_LE(box.geometry().left() - caption->geometry().right(), 8) << width;
+        EXPECT_GE(box.width(), 200) << width;
+        widest = std::max(widest, box.width());
+    }
+    EXPECT_LE(widest, 400);
 }
 
 TEST_F(ToolsTest, TheOrientationChosenInTheFlyOutIsPlaced) {
