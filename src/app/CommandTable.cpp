@@ -5,10 +5,13 @@
 #include "app/CommandHandlers.h"
 #include "app/FailureLog.h"
 #include "canvas/Colors.h"
+#include "canvas/CopyMove.h"
 #include "canvas/DrawingCommands.h"
 #include "canvas/PaletteButtons.h"
 #include "canvas/Redraw.h"
+#include "canvas/Selection.h"
 #include "canvas/Tools.h"
+#include "canvas/Undo.h"
 
 namespace ladrix {
 
@@ -65,14 +68,14 @@ constexpr Command Commands[] = {
     {Menu::mnuEditTextAlignTop, Menu::mnuEditText, "mnuEditTextAlignTop", "Align Selected Lables Top", "", nullptr, false, false},
     {Menu::mnuEditDrawing, Menu::mnuEdit, "mnuEditDrawing", "Drawing Attributes", "", nullptr, true, false},
     {Menu::mnuOptionReset, Menu::mnuEditDrawing, "mnuOptionReset", "Reset Drawing (ESC Key)", "", onEditor<mnuOptionReset_Click>, false, false},
-    {Menu::mnuEditSelectAll, Menu::mnuEditDrawing, "mnuEditSelectAll", "Select All", "", nullptr, true, false},
-    {Menu::mnuEditCopy, Menu::mnuEditDrawing, "mnuEditCopy", "Copy Selected Devices", "", nullptr, false, false},
-    {Menu::mnuEditMove, Menu::mnuEditDrawing, "mnuEditMove", "Move Selected Devices", "", nullptr, false, false},
-    {Menu::mnuEditDelete, Menu::mnuEditDrawing, "mnuEditDelete", "Delete Selected Devices", "", nullptr, false, false},
-    {Menu::mnuEditPaste, Menu::mnuEditDrawing, "mnuEditPaste", "Paste Devices from Memory", "", nullptr, true, false},
+    {Menu::mnuEditSelectAll, Menu::mnuEditDrawing, "mnuEditSelectAll", "Select All", "Ctrl+A", onEditor<mnuEditSelectAll_Click>, true, false},
+    {Menu::mnuEditCopy, Menu::mnuEditDrawing, "mnuEditCopy", "Copy Selected Devices", "Ctrl+C", onEditor<mnuEditCopy_Click>, false, false},
+    {Menu::mnuEditMove, Menu::mnuEditDrawing, "mnuEditMove", "Move Selected Devices", "Ctrl+M", onEditor<mnuEditMove_Click>, false, false},
+    {Menu::mnuEditDelete, Menu::mnuEditDrawing, "mnuEditDelete", "Delete Selected Devices", "Del", onEditor<mnuEditDelete_Click>, false, false},
+    {Menu::mnuEditPaste, Menu::mnuEditDrawing, "mnuEditPaste", "Paste Devices from Memory", "", onEditor<mnuEditPaste_Click>, true, false},
     {Menu::mnuEditRepeat, Menu::mnuEditDrawing, "mnuEditRepeat", "Repea&t Previous Device", "Ctrl+D", onEditor<mnuEditRepeat_Click>, false, false},
-    {Menu::mnuEditUndo, Menu::mnuEditDrawing, "mnuEditUndo", "Undo Last Action", "", nullptr, true, false},
-    {Menu::mnuEditRedo, Menu::mnuEditDrawing, "mnuEditRedo", "&Redo Last Action", "", nullptr, false, false},
+    {Menu::mnuEditUndo, Menu::mnuEditDrawing, "mnuEditUndo", "Undo Last Action", "Ctrl+Z", onEditor<mnuEditUndo_Click>, true, false},
+    {Menu::mnuEditRedo, Menu::mnuEditDrawing, "mnuEditRedo", "&Redo Last Action", "Ctrl+Y; Ctrl+Shift+Z", onEditor<mnuEditRedo_Click>, false, false},
     {Menu::mnuEditSaveUserSymbol, Menu::mnuEditDrawing, "mnuEditSaveUserSymbol", "&Save Selected as New User Symbol", "", nullptr, true, false},
     {Menu::mnuEditZoomIn, Menu::mnuEditDrawing, "mnuEditZoomIn", "Zoom In (CTRL +)", "", nullptr, true, false},
     {Menu::mnuEditZoomOut, Menu::mnuEditDrawing, "mnuEditZoomOut", "Zoom Out (CTRL -)", "", nullptr, false, false},

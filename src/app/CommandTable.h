@@ -15,7 +15,9 @@ struct Command {
     Menu menu;              // the menu it stands in; itself for a menu of the bar
     std::string_view name;  // "mnuFileNew"
     std::string_view caption;
-    std::string_view shortcut = {};  // "Ctrl+N"; ESC, page and colour keys belong to the form
+    // "Ctrl+N", several divided by "; ", the menu shows the first. ESC, page and colour keys belong
+    // to the form.
+    std::string_view shortcut = {};
     void (*handler)(Program& program) = nullptr;  // nullptr: no action, shown disabled
     bool separatorBefore = false;
     bool checkable = false;

@@ -2,6 +2,7 @@
 
 #include "app/FailureLog.h"
 #include "canvas/Labels.h"
+#include "canvas/Undo.h"
 
 namespace ladrix {
 
@@ -12,6 +13,9 @@ Program::Program(Platform& machine) : platform(machine), editor(machine) {
     editor.symbols.BeginLabel = [this](std::string_view prefix, Single x, Single y) {
         BeginLabel(editor, prefix, x, y);
     };
+    editor.drawing.TakeUndoSnapshot = [this] { TakeUndoSnapshot(editor); };
+    editor.ClearHistory = [this] { ClearHistory(editor); };
+    ClearHistory(editor);
 }
 
 }  // namespace ladrix

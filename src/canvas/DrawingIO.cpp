@@ -82,6 +82,7 @@ void restoreText(Editor& editor, const FileText& file) {
     parseAll(editor);
     layOutNewPage(editor);
     RedrawDrawing(editor);
+    if (editor.ClearHistory) editor.ClearHistory();
     // The copy on disk goes: what it held has no other place than the tables.
     drawing.DrawingChanged = true;
 }
@@ -90,6 +91,11 @@ void loadPictures(Editor& editor) {
     editor.img.clear();
     for (const PictureRow& row : editor.drawing.PictureTable) {
         editor.img.emplace_back();
+        const auto known = editor.HistoryPictures.find(row.FileName);
+        if (known != editor.HistoryPictures.end() && known->second.FullPath == row.FullPath) {
+            editor.img.back() = known->second.image;
+            continue;
+        }
         try {
             editor.img.back() = editor.platform.images->load(row.FullPath);
         } catch (const Failure& failure) {

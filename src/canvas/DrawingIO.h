@@ -26,7 +26,8 @@ void openText(Editor& editor, const FileText& file);
 // Fills the tables from a crash copy; the drawing stays untitled.
 void restoreText(Editor& editor, const FileText& file);
 
-// Loads the images of PictureTable; one that cannot be read leaves an empty place, told once.
+// Loads the images of PictureTable, those of the history's pictures from memory; one that cannot be
+// read leaves an empty place, told once.
 void loadPictures(Editor& editor);
 
 }  // namespace ladrix

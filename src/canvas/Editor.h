@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "canvas/FormLX.h"
+#include "canvas/UndoHistory.h"
 #include "document/Drawing.h"
 #include "platform/Platform.h"
 #include "symbols/DrawDevice.h"
@@ -21,6 +22,27 @@ constexpr Single NoPoint = -1;
 struct FittedFonts {
     using Key = std::tuple<std::string, Single, bool, bool, Single>;
     std::map<Key, Single> sizes;
+};
+
+// Copies of items, apart from the drawing: what a copy pastes at each further click.
+struct CopyBuffer {
+    DeviceTable devices;
+    LabelTable labels;
+    std::vector<PictureRow> pictures;
+    std::vector<std::shared_ptr<const Picture>> img;  // beside `pictures`
+};
+
+// A picture that follows the pointer, and where both were at the press.
+struct PictureDrag {
+    Short index = -1;  // -1: none
+    Single pressX = 0, pressY = 0, left = 0, top = 0;
+    bool moved = false;
+};
+
+// Where a picture came from, and its image.
+struct KnownPicture {
+    std::string FullPath;
+    std::shared_ptr<const Picture> image;
 };
 
 struct Editor {
@@ -71,6 +93,8 @@ struct Editor {
     bool CopyArmed = false, MoveMode = false;
     Short CopyStage = 0;
     Single CopyFromX = 0, CopyFromY = 0, CopyToX = 0, CopyToY = 0;
+    CopyBuffer copied;
+    bool CopyExplained = false;  // the message of the first copy has been shown
     bool ZoomInPending = false, ZoomOutPending = false, TextAlignPending = false;
     bool SavingUserSymbol = false, SymbolPointPending = false, SymbolPointFound = false;
     bool SimulationMode = false;
@@ -84,6 +108,8 @@ struct Editor {
     Short LastSelectedLabel = -1;
     bool LabelEdited = false;  // its text has changed since the edit began
     Short SelectedCount = 0, SelectedDeviceCount = 0, SelectedLabelCount = 0;
+    Short SelectedPicture = -1;  // the last one selected
+    PictureDrag draggedPicture;
 
     // The view.
     Single PageWidth = 8.5f, PageHeight = 11;           // inches
@@ -107,7 +133,11 @@ struct Editor {
         std::string txtDescription;
     } frmDesc;
 
-    // Empties the undo history, with the present state as its first; set when there is one.
+    // Undo and redo.
+    UndoHistory history;
+    Short UndoTop = 0, UndoPosition = 0;  // the newest snapshot, the one shown
+    std::map<std::string, KnownPicture, std::less<>> HistoryPictures;  // by file name
+    // Empties the undo history, with the present state as its first. Set once by the layer above.
     std::function<void()> ClearHistory;
 
     // Set once by the layer above.

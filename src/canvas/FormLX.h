@@ -73,6 +73,7 @@ struct FormLX {
     PointerState pointer;
     std::vector<LabelControl> lbl;  // one per label
     unsigned LabelVersion = 0;      // raised by every change of lbl
+    unsigned PictureVersion = 0;    // raised when a picture's mark has changed
     ScrollBar HScroll1, VScroll1;
     Single FrameWidth = 0, FrameHeight = 0;  // inner size of picFrame, twips
     Focus FocusRequest = Focus::None;        // the view gives the focus and puts it back to None

@@ -5,6 +5,7 @@
 
 #include "canvas/Colors.h"
 #include "canvas/Redraw.h"
+#include "canvas/Selection.h"
 #include "canvas/Tools.h"
 #include "canvas/View.h"
 
@@ -52,42 +53,11 @@ bool stretchDevice(DeviceTable& table, std::size_t i, Step step) {
     return false;
 }
 
-void moveDevice(DeviceTable& table, std::size_t i, Step step) {
-    table.DeviceX[i] += step.x;
-    table.DeviceY[i] += step.y;
-    if (!isFreeLineOrSquare(table.DeviceName[i])) return;
-    table.DeviceX2[i] += step.x;
-    table.DeviceY2[i] += step.y;
-}
-
 bool stretchSelected(Drawing& drawing, Step step) {
     bool moved = false;
     for (std::size_t i = 0; i < static_cast<std::size_t>(drawing.devices.DeviceCount); ++i)
         if (drawing.devices.DeviceSelected[i] != 0)
             moved = stretchDevice(drawing.devices, i, step) || moved;
-    return moved;
-}
-
-bool moveSelected(Drawing& drawing, Step step) {
-    bool moved = false;
-    for (std::size_t i = 0; i < static_cast<std::size_t>(drawing.devices.DeviceCount); ++i) {
-        if (drawing.devices.DeviceSelected[i] == 0) continue;
-        moveDevice(drawing.devices, i, step);
-        moved = true;
-    }
-    LabelTable& labels = drawing.labels;
-    for (std::size_t i = 0; i < static_cast<std::size_t>(labels.LabelCount); ++i) {
-        if (labels.LabelSelected[i] == 0) continue;
-        labels.LabelX[i] += step.x;
-        labels.LabelY[i] += step.y;
-        moved = true;
-    }
-    for (PictureRow& row : drawing.PictureTable) {
-        if (!row.Selected) continue;
-        row.Left += step.x;
-        row.Top += step.y;
-        moved = true;
-    }
     return moved;
 }
 
@@ -205,7 +175,7 @@ void picLX_KeyDown(Editor& editor, Short keyCode, Short shift) {
     if (!step) return;
     bool moved = false;
     if (shift == NoShift) moved = stretchSelected(editor.drawing, *step);
-    if (shift == ShiftKey) moved = moveSelected(editor.drawing, *step);
+    if (shift == ShiftKey) moved = moveSelectedItems(editor.drawing, step->x, step->y);
     if (!moved) return;
     editor.SnapshotPending = true;
     editor.drawing.DrawingChanged = true;

@@ -2,10 +2,12 @@
 
 #include <cmath>
 
+#include "canvas/CopyMove.h"
 #include "canvas/DrawingCommands.h"
 #include "canvas/Labels.h"
 #include "canvas/LineTool.h"
 #include "canvas/Redraw.h"
+#include "canvas/Selection.h"
 #include "canvas/Tools.h"
 #include "platform/Numbers.h"
 
@@ -255,13 +257,18 @@ void picLX_MouseDown(Editor& editor, Short button, Short, Single x, Single y) {
     editor.MouseIsDown = true;
     if (editor.SimulationMode) return;
     if (button == RightButton) return pressRightButton(editor);
+    if (editor.CopyArmed && editor.CopyStage == 2) return takeCopyEnd(editor);
+    if (editor.CopyArmed && editor.CopyStage == 1) {
+        takeCopyStart(editor);
+        if (!editor.MoveMode) return;
+    }
     if (!editor.ToolBlocksBand && button == LeftButton) {
         editor.BandX[0] = x;
         editor.BandY[0] = y;
         editor.BandArmed = true;
     }
-    if (editor.CurrentTool == -1) return;
-    place(editor, x, y);
+    if (editor.CurrentTool != -1) return place(editor, x, y);
+    if (!editor.CopyArmed) pickLines(editor, x, y);
 }
 
 void picLX_MouseUp(Editor& editor, Short, Short, Single, Single) {
@@ -272,6 +279,7 @@ void picLX_MouseUp(Editor& editor, Short, Short, Single, Single) {
         editor.BandShown = false;
         editor.form.pointer.shpSelect.Visible = false;
         editor.form.pointer.shpSelectLight.Visible = false;
+        pickInBand(editor);
     }
     if (editor.CopyArmed && editor.CopyStage == 1)
         editor.form.lblMessage.Caption = "Select copy start point.";

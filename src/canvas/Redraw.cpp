@@ -2,8 +2,10 @@
 
 #include <algorithm>
 
+#include "canvas/CopyMove.h"
 #include "canvas/Labels.h"
 #include "canvas/Pointer.h"
+#include "canvas/Selection.h"
 #include "canvas/Tools.h"
 #include "canvas/View.h"
 #include "platform/Numbers.h"
@@ -71,23 +73,6 @@ void paintPictures(Editor& editor) {
             editor.platform.picLX->PaintPicture(*editor.img[i], row.Left, row.Top, row.Width,
                                                 row.Height);
     }
-}
-
-void clearCopyState(Editor& editor) {
-    editor.MoveMode = editor.CopyArmed = false;
-    editor.CopyStage = 0;
-    editor.CopyFromX = editor.CopyFromY = editor.CopyToX = editor.CopyToY = 0;
-}
-
-void clearSelection(Editor& editor) {
-    DeviceTable& devices = editor.drawing.devices;
-    LabelTable& labels = editor.drawing.labels;
-    std::fill(devices.DeviceSelected.begin(), devices.DeviceSelected.end(), Short{0});
-    std::fill(labels.LabelSelected.begin(), labels.LabelSelected.end(), Short{0});
-    for (PictureRow& row : editor.drawing.PictureTable)
-        row.Selected = false;
-    editor.SelectedCount = editor.SelectedDeviceCount = editor.SelectedLabelCount = 0;
-    editor.LastSelectedLabel = -1;
 }
 
 void endBand(Editor& editor) {
@@ -207,10 +192,10 @@ void ResetEditor(Editor& editor) {
     editor.drawing.DrawingPreview = false;
     editor.drawing.LabelPending = editor.drawing.DeviceRecorded = false;
     resetMenus(editor);
-    clearCopyState(editor);
+    endCopy(editor);
     editor.TextBuffer.clear();
     editor.TextGhostShown = false;
-    clearSelection(editor);
+    ClearSelection(editor);
     endTool(editor);
     RedrawDrawing(editor);
     editor.form.FocusRequest = Focus::Canvas;

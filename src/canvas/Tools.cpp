@@ -1,5 +1,6 @@
 #include "canvas/Tools.h"
 
+#include "canvas/CopyMove.h"
 #include "canvas/Labels.h"
 #include "canvas/Pointer.h"
 #include "canvas/Redraw.h"
@@ -53,14 +54,6 @@ Short directionOf(std::string_view tag) {
     return 0;
 }
 
-void layOutRadiusPanel(Editor& editor, ToolClass kind) {
-    if (kind != ToolClass::Arc && kind != ToolClass::Circle) return;
-    const bool angles = kind == ToolClass::Arc;
-    editor.form.RadiusPanelWide = angles;
-    editor.form.lblCircle[1].Visible = editor.form.lblCircle[2].Visible = angles;
-    editor.form.txtCircleStart.Enabled = editor.form.txtCircleEnd.Enabled = angles;
-}
-
 void presetAngles(Editor& editor, std::string_view tag) {
     struct Preset {
         std::string_view tag;
@@ -93,7 +86,8 @@ void presetRadius(Editor& editor, std::string_view tag, ToolClass kind) {
 }
 
 void openToolPanel(Editor& editor, std::string_view tag, ToolClass kind) {
-    layOutRadiusPanel(editor, kind);
+    if (kind == ToolClass::Arc) layOutRadiusPanel(editor, RadiusPanel::WithAngles);
+    if (kind == ToolClass::Circle) layOutRadiusPanel(editor, RadiusPanel::RadiusAlone);
     presetAngles(editor, tag);
     if (kind != ToolClass::Arc && kind != ToolClass::Circle) return showPanel(editor, Panel::None);
     presetRadius(editor, tag, kind);
@@ -123,7 +117,10 @@ void cmdSym_Click(Editor& editor, Short index) {
     if (editor.Arranging) return;
     editor.MouseIsDown = false;
     editor.ZoomInPending = editor.ZoomOutPending = false;
-    if (editor.SelectedCount != 0) ResetEditor(editor);
+    if (editor.SelectedCount != 0) {
+        ClearCopyState(editor);
+        ResetEditor(editor);
+    }
     finishLabelEdit(editor);
     editor.ToolCursor = true;
     releaseButton(editor, editor.PreviousTool);
@@ -202,6 +199,13 @@ void fillToolBlock(Editor& editor, Single x, Single y, Long color) {
 void showPanel(Editor& editor, Panel panel) {
     editor.form.picText.Visible = panel == Panel::Text;
     editor.form.picRadius.Visible = panel == Panel::Radius;
+}
+
+void layOutRadiusPanel(Editor& editor, RadiusPanel fields) {
+    const bool angles = fields == RadiusPanel::WithAngles;
+    editor.form.RadiusPanelWide = angles;
+    editor.form.lblCircle[1].Visible = editor.form.lblCircle[2].Visible = angles;
+    editor.form.txtCircleStart.Enabled = editor.form.txtCircleEnd.Enabled = angles;
 }
 
 }  // namespace ladrix

@@ -32,6 +32,10 @@ void refreshToolName(Editor& editor);
 enum class Panel { None, Text, Radius };
 void showPanel(Editor& editor, Panel panel);
 
+// What stands in the radius panel: circles have no angles.
+enum class RadiusPanel { RadiusAlone, WithAngles };
+void layOutRadiusPanel(Editor& editor, RadiusPanel fields);
+
 // A button shows its up or its pressed image.
 void releaseButton(Editor& editor, Short index);
 void pressButton(Editor& editor, Short index);

@@ -204,6 +204,7 @@ void RecordLabel(Drawing& drawing, const Platform& platform, Label label) {
         drawing.CurrentLabel = static_cast<Short>(drawing.labels.LabelCount - 1);
         drawing.DrawingChanged = true;
         if (drawing.LabelsChanged) drawing.LabelsChanged();
+        if (!drawing.NoSnapshot && drawing.TakeUndoSnapshot) drawing.TakeUndoSnapshot();
     } catch (const Failure& failure) {
         platform.ReportError("Record Label", failure);
     }

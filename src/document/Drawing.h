@@ -51,7 +51,7 @@ struct Drawing {
     std::string TemplateDevices, TemplateLabels;
     bool Reading = false;
     bool ReadIncomplete = false;  // a parser gave up since a file's text was taken
-    Short TitleState = 0;  // 0 untitled, 1 named
+    Short TitleState = 0;         // 0 untitled, 1 named
     std::string TempFolder;
     std::string PictureParentFolder, PictureFolderName;
 
@@ -70,7 +70,8 @@ bool isCircleName(std::string_view name);  // InsertCircle, InsertSolidCircle
 // device) goes to the shared report, with the table as it was.
 void RecordDevice(Drawing& drawing, const Platform& platform, Device& device);
 
-// Adds a label; on the canvas only while a preview is drawn. An empty text becomes "Type New Text".
+// Adds a label and takes the undo snapshot; on the canvas only while a preview is drawn. An empty
+// text becomes "Type New Text".
 void RecordLabel(Drawing& drawing, const Platform& platform, Label label);
 
 // Remake the records and the master text from the columns. With a count of 0 they leave a text that

@@ -396,7 +396,7 @@ void tellMissing(const Platform& platform, int missing) {
     if (missing > 1) platform.tell(std::to_string(missing) + " pictures could not be found.");
 }
 
-void readPictures(Drawing& drawing, const Platform& platform) {
+void readPictures(Drawing& drawing, const Platform& platform, const PicturePaths& known) {
     drawing.PictureTable.clear();
     drawing.PictureCount = 0;
     drawing.PictureRecords = 0;
@@ -410,11 +410,13 @@ void readPictures(Drawing& drawing, const Platform& platform) {
     const Short count = countLines(text);
     const std::optional<TextForm> form = textForm(text, platform.DecimalComma());
     if (!form) return refuse(drawing, platform, "Could not parse pictures.");
-    const std::optional<PictureFolder> folder = PictureFolder::find(
-        *platform.files, drawing.PictureParentFolder, drawing.PictureFolderName);
-    if (!folder) {
-        return platform.tell(
-            "Picture files could not be found. Associated picture folder is missing.");
+    std::optional<PictureFolder> folder;
+    if (known.empty()) {
+        folder = PictureFolder::find(*platform.files, drawing.PictureParentFolder,
+                                     drawing.PictureFolderName);
+        if (!folder)
+            return platform.tell(
+                "Picture files could not be found. Associated picture folder is missing.");
     }
     if (form->oldForm) return;
     int missing = 0;
@@ -424,7 +426,11 @@ void readPictures(Drawing& drawing, const Platform& platform) {
         if (line.empty()) continue;
         Fields fields(line, form->separator);
         const std::string_view name = fields.next();
-        std::optional<std::string> path = folder->pathOf(name);
+        std::optional<std::string> path;
+        if (const auto found = known.find(name); found != known.end())
+            path = found->second;
+        else if (folder)
+            path = folder->pathOf(name);
         if (!path) {
             ++missing;
             continue;
@@ -462,8 +468,9 @@ void ParseLabelString(Drawing& drawing, const Platform& platform) {
     if (drawing.LabelsChanged) drawing.LabelsChanged();
 }
 
-void ParsePictureString(Drawing& drawing, const Platform& platform) {
-    guarded(drawing, platform, "Parse Picture String", [&] { readPictures(drawing, platform); });
+void ParsePictureString(Drawing& drawing, const Platform& platform, const PicturePaths& known) {
+    guarded(drawing, platform, "Parse Picture String",
+            [&] { readPictures(drawing, platform, known); });
 }
 
 }  // namespace ladrix

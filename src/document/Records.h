@@ -11,6 +11,8 @@
 // (`|` stands for the byte 255.)
 #pragma once
 
+#include <functional>
+#include <map>
 #include <string>
 #include <string_view>
 
@@ -37,8 +39,12 @@ void appendPictureRecord(std::string& out, const PictureRow& row, char decimalMa
 void ParseDeviceString(Drawing& drawing, const Platform& platform);
 void ParseLabelString(Drawing& drawing, const Platform& platform);
 
-// Takes PictureParentFolder and PictureFolderName for where the pictures are. Missing files are
-// counted and told in one box. The images themselves are loaded by the layer above.
-void ParsePictureString(Drawing& drawing, const Platform& platform);
+// Where the pictures of this run came from: the full path by the bare name.
+using PicturePaths = std::map<std::string, std::string, std::less<>>;
+
+// Takes `known` for where the pictures are; without it PictureParentFolder and PictureFolderName.
+// Missing files are counted and told in one box. The images themselves are loaded by the layer
+// above.
+void ParsePictureString(Drawing& drawing, const Platform& platform, const PicturePaths& known = {});
 
 }  // namespace ladrix

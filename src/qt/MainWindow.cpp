@@ -116,7 +116,7 @@ QAction* MainWindow::makeEntry(const Command& command) {
     entry->setObjectName(name);
     entry->setCheckable(command.checkable);
     entry->setMenuRole(QAction::NoRole);
-    if (!command.shortcut.empty()) entry->setShortcut(QKeySequence(toQString(command.shortcut)));
+    entry->setShortcuts(QKeySequence::listFromString(toQString(command.shortcut)));
     // The toolkit has flipped the check mark; the state puts it right.
     connect(entry, &QAction::triggered, this, [this, which = command.entry] {
         runCommand(program_, which);

@@ -1,0 +1,374 @@
+// Undo and redo, told by the saved texts; and how the history keeps them.
+#include "canvas/Undo.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <malloc.h>
+
+#include <random>
+
+#include "Bench.h"
+#include "canvas/CopyMove.h"
+#include "canvas/DrawingCommands.h"
+#include "canvas/Labels.h"
+#include "canvas/Redraw.h"
+#include "canvas/Selection.h"
+#include "document/DrawingFile.h"
+#include "document/Records.h"
+
+namespace ladrix::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::SizeIs;
+
+struct UndoBench : Bench {
+    UndoBench() {
+        drawing.TakeUndoSnapshot = [this] { TakeUndoSnapshot(editor); };
+        editor.ClearHistory = [this] { ClearHistory(editor); };
+        ClearHistory(editor);
+    }
+    void undo() { mnuEditUndo_Click(editor); }
+    void redo() { mnuEditRedo_Click(editor); }
+    std::string text() const {
+        return drawing.DeviceString + "\n" + drawing.LabelString + "\n" + drawing.PictureString;
+    }
+    // The tables say what the texts say.
+    std::string rebuilt() {
+        RebuildDeviceString(drawing, machine.platform);
+        RebuildLabelString(drawing, machine.platform);
+        RebuildPictureString(drawing, machine.platform);
+        return text();
+    }
+    void addPicture(const PictureRow& row) {
+        drawing.PictureTable.push_back(row);
+        ++drawing.PictureCount;
+        editor.img.push_back(std::make_shared<FakePicture>(10, 20));
+        RebuildPictureString(drawing, machine.platform);
+        TakeUndoSnapshot(editor);
+    }
+    std::string lastBox() const { return machine.dialogs.boxes.back().text; }
+};
+
+TEST(Undo, StepsBackAndForthAndStopsAtTheEnds) {
+    UndoBench bench;
+    bench.undo();
+    EXPECT_EQ(bench.lastBox(), "Nothing more can be undone.");
+    EXPECT_EQ(bench.editor.UndoPosition, 0);
+    bench.play("tool Ground; click 1 1; click 2 1; click 3 1; key 27 0");
+    mnuEditSelectAll_Click(bench.editor);
+    bench.drawing.DrawingChanged = false;
+    bench.undo();
+    EXPECT_THAT(bench.devices(), SizeIs(2));
+    EXPECT_EQ(bench.editor.SelectedCount, 0) << "the restored state has no selection";
+    EXPECT_TRUE(bench.drawing.DrawingChanged);
+    EXPECT_EQ(bench.canvas.persistent.size(), 2 * 4u) << "the canvas shows two grounds";
+    bench.undo();
+    bench.redo();
+    EXPECT_EQ(bench.devices().back(), "InsertGround|2|1|0||1|1|0|False");
+    bench.redo();
+    bench.redo();
+    EXPECT_EQ(bench.lastBox(), "Nothing more can be re-done.");
+    EXPECT_THAT(bench.devices(), SizeIs(3));
+
+    bench.undo();
+    bench.undo();
+    bench.play("tool Ground; click 7 7");
+    bench.redo();
+    EXPECT_EQ(bench.lastBox(), "Nothing more can be re-done.") << "a new action ends the redo";
+    EXPECT_EQ(bench.devices().back(), "InsertGround|7|7|0||1|1|0|False");
+}
+
+TEST(Undo, RestoresAnEmptySectionAsEmpty) {
+    UndoBench bench;
+    bench.play("tool Text; move 3 3");
+    bench.editor.TextBuffer = "///PICTURES///";  // a label may read like a marker
+    bench.play("click 3 3; key 27 0; tool Ground; click 1 1; key 27 0");
+    bench.undo();
+    EXPECT_THAT(bench.labels(), SizeIs(1));
+    EXPECT_THAT(bench.devices(), IsEmpty());
+    bench.undo();
+    EXPECT_EQ(bench.text(), "\n\n");
+    EXPECT_EQ(bench.drawing.labels.LabelCount, 0);
+    EXPECT_THAT(bench.editor.form.lbl, IsEmpty());
+    bench.redo();
+    EXPECT_EQ(bench.drawing.labels.LabelText.at(0), "///PICTURES///");
+}
+
+TEST(Undo, TakesADeviceWithItsLabelInOneStepAndAFinishedEditInTheNext) {
+    UndoBench bench;
+    bench.drawing.AttachLabels = true;
+    bench.play("tool Relay/Timer Coil; click 2 3");
+    bench.editor.form.txtEdit.Text = "CR7";
+    txtEdit_Change(bench.editor);
+    bench.undo();
+    EXPECT_EQ(bench.drawing.labels.LabelText.at(0), "CR") << "the edit under way is finished first";
+    EXPECT_FALSE(bench.editor.form.picText.Visible);
+    bench.redo();
+    EXPECT_EQ(bench.drawing.labels.LabelText.at(0), "CR7");
+    bench.undo();
+    bench.undo();
+    EXPECT_EQ(bench.text(), "\n\n");
+    EXPECT_EQ(bench.editor.UndoPosition, 0);
+}
+
+TEST(Undo, BringsPicturesBackWithTheirImagesWhereverTheyLay) {
+    UndoBench bench;
+    bench.addPicture({1, 1, 2, 2, "a.png", "/far/a.png", false});
+    bench.addPicture({4, 1, 2, 2, "b.png", "/far/b.png", false});
+    const auto images = bench.editor.img;
+    const std::string before = bench.text();
+    mnuEditSelectAll_Click(bench.editor);
+    DeleteSelection(bench.editor);
+    bench.undo();
+    EXPECT_EQ(bench.rebuilt(), before);
+    EXPECT_EQ(bench.editor.img, images);
+    EXPECT_EQ(bench.drawing.PictureTable.at(1).FullPath, "/far/b.png");
+    EXPECT_THAT(bench.machine.images.loaded, IsEmpty()) << "from memory, not from disk";
+    EXPECT_THAT(bench.machine.dialogs.boxes, IsEmpty());
+}
+
+TEST(Undo, OfOnePasteOfSeveralTakesOnlyTheLastAway) {
+    UndoBench bench;
+    bench.play("tool Ground; click 1 1; key 27 0");
+    mnuEditSelectAll_Click(bench.editor);
+    mnuEditCopy_Click(bench.editor);
+    bench.play("click 1 1; click 2 1; click 3 1");
+    bench.undo();
+    EXPECT_THAT(bench.devices(),
+                ElementsAre("InsertGround|1|1|0||1|1|0|False", "InsertGround|2|1|0||1|1|0|False"));
+}
+
+TEST(Undo, OfArrowKeysIsNotFollowedByTheStepThatAResetWouldTake) {
+    UndoBench bench;
+    bench.play("tool Ground; click 1 1; key 27 0; move 1.01 1");
+    picGrip_Click(bench.editor);
+    bench.play("key 39 1");
+    bench.undo();
+    EXPECT_EQ(bench.devices().at(0), "InsertGround|1|1|0||1|1|0|False");
+    bench.play("key 27 0");
+    bench.redo();
+    EXPECT_EQ(bench.devices().at(0), "InsertGround|1.25|1|0||1|1|0|False");
+}
+
+TEST(Undo, IsEmptiedByANewAndByAnOpenedDrawing) {
+    UndoBench bench;
+    bench.play("tool Ground; click 1 1; click 2 1; key 27 0");
+    NewDrawing(bench.editor);
+    EXPECT_EQ(bench.editor.UndoTop, 0);
+    bench.undo();
+    EXPECT_EQ(bench.lastBox(), "Nothing more can be undone.");
+    bench.writeDocument("a.els", line("InsertLamp|1|1|0||1|1|0|False"));
+    bench.drawing.CurrentFileName = "a.els";
+    OpenDrawing(bench.editor);
+    bench.play("tool Ground; click 2 1; key 27 0");
+    bench.undo();
+    EXPECT_THAT(bench.devices(), ElementsAre("InsertLamp|1|1|0||1|1|0|False"));
+}
+
+// A person's commands in random order. Dashed lines are left out: their later dashes belong to the
+// step that comes after them.
+struct RandomCommands {
+    UndoBench& bench;
+    std::mt19937 random;
+
+    unsigned below(unsigned limit) { return static_cast<unsigned>(random() % limit); }
+    std::string point() {
+        const auto coordinate = [&] { return std::to_string(0.25 * (1 + below(30))); };
+        return coordinate() + " " + coordinate();
+    }
+    void pick() {
+        bench.play("press 0.1 0.1; drag " + point() + "; release");
+        bench.play("move " + point());
+        if (bench.editor.form.pointer.picGrip.Visible) picGrip_Click(bench.editor);
+    }
+    void run() {
+        static constexpr const char* Tools[] = {
+            "Line", "Square", "Small Circle", "Arc Left", "Lamp", "Relay/Timer Coil", "Text"};
+        switch (below(6)) {
+            case 0:
+            case 1:
+                bench.editor.TextBuffer = "text " + std::to_string(below(9));
+                bench.play(std::string("tool ") + Tools[below(7)] + "; click " + point() +
+                           "; click " + point() + "; key 27 0");
+                break;
+            case 2:
+                pick();
+                bench.play(below(2) == 0 ? "key 39 1; key 27 0" : "key 40 0; key 27 0");
+                break;
+            case 3:
+                pick();
+                if (bench.editor.SelectedCount == 0) break;
+                mnuEditMove_Click(bench.editor);
+                bench.play("click " + point() + "; click " + point());
+                break;
+            case 4:
+                pick();
+                if (bench.editor.SelectedCount == 0 || bench.editor.SelectedCount > 50) break;
+                mnuEditCopy_Click(bench.editor);
+                bench.play("click " + point() + "; click " + point() + "; key 27 0");
+                break;
+            default:
+                pick();
+                if (bench.editor.SelectedCount > 0) DeleteSelection(bench.editor);
+                bench.play("key 27 0");
+                break;
+        }
+    }
+};
+
+TEST(Undo, AndRedoGiveBackTheSameBytesAfterEveryCommand) {
+    for (unsigned seed = 1; seed <= 6; ++seed) {
+        UndoBench bench;
+        bench.drawing.AttachLabels = seed % 2 == 0;
+        bench.addPicture({1, 1, 0.5f, 0.5f, "a.png", "/far/a.png", false});
+        ClearHistory(bench.editor);
+        RandomCommands commands{bench, std::mt19937(seed)};
+        const std::string start = bench.text();
+        std::string beforeUndo;
+        for (int i = 0; i < 60; ++i) {
+            commands.run();
+            beforeUndo = bench.text();
+            if (bench.editor.UndoTop == 0) continue;
+            bench.undo();
+            bench.redo();
+            ASSERT_EQ(bench.text(), beforeUndo) << "seed " << seed << ", command " << i;
+            ASSERT_EQ(bench.rebuilt(), beforeUndo) << "seed " << seed << ", command " << i;
+        }
+        const int steps = bench.editor.UndoTop;
+        ASSERT_GT(steps, 30);
+        ASSERT_LT(steps, 499);
+        for (int i = 0; i < steps; ++i)
+            bench.undo();
+        EXPECT_EQ(bench.text(), start) << "seed " << seed;
+        for (int i = 0; i < steps; ++i)
+            bench.redo();
+        EXPECT_EQ(bench.text(), beforeUndo) << "seed " << seed;
+        EXPECT_THAT(bench.machine.reports, IsEmpty());
+    }
+}
+
+void snapshotOf(UndoBench& bench, int number) {
+    bench.drawing.DeviceString = line("InsertLamp|" + std::to_string(number) + "|1|0||1|1|0|False");
+    TakeUndoSnapshot(bench.editor);
+}
+
+TEST(UndoBeyond500, LeavesASlotThatRestoresNothingBetweenTwoSteps) {
+    UndoBench bench;
+    for (int i = 1; i <= 501; ++i)
+        snapshotOf(bench, i);
+    EXPECT_EQ(bench.editor.UndoTop, 501);
+    ParseDeviceString(bench.drawing, bench.machine.platform);
+    std::vector<Single> seen;
+    for (int i = 0; i < 5; ++i) {
+        bench.undo();
+        EXPECT_EQ(bench.editor.UndoPosition, 500 - i);
+        seen.push_back(bench.drawing.devices.DeviceX.at(0));
+    }
+    EXPECT_THAT(seen, ElementsAre(501, 500, 500, 499, 498));
+    EXPECT_THAT(bench.machine.dialogs.boxes, IsEmpty());
+    for (int i = 0; i < 496; ++i)
+        bench.undo();
+    EXPECT_EQ(bench.editor.UndoPosition, 0);
+    EXPECT_EQ(bench.drawing.devices.DeviceX.at(0), 2) << "the two oldest have fallen off";
+}
+
+TEST(UndoBeyondTheLastSlot, IsReportedOnceAndTheDrawingGoesOn) {
+    UndoBench bench;
+    for (int i = 1; i <= 999; ++i)
+        snapshotOf(bench, i);
+    EXPECT_THAT(bench.machine.reports, IsEmpty());
+    bench.play("key 27 0");
+    for (int i = 1000; i < 1005; ++i)
+        snapshotOf(bench, i);
+    ParseDeviceString(bench.drawing, bench.machine.platform);
+    ASSERT_THAT(bench.machine.reports, SizeIs(1));
+    EXPECT_EQ(bench.machine.reports[0].number, failure::Subscript);
+    EXPECT_EQ(bench.drawing.devices.DeviceX.at(0), 1004);
+    bench.redo();
+    EXPECT_EQ(bench.lastBox(), "Nothing more can be re-done.");
+    bench.undo();
+    EXPECT_EQ(bench.drawing.devices.DeviceX.at(0), 999) << "the last that was kept";
+    bench.redo();
+    EXPECT_EQ(bench.drawing.devices.DeviceX.at(0), 999);
+}
+
+// Records as of a real drawing; `variant` makes some of them differ.
+std::string drawingText(int devices, int changed, int variant) {
+    std::string text = "///DEVICES///";
+    for (int i = 0; i < devices; ++i)
+        text += line("InsertNormallyOpenAux|" + std::to_string(i) + "." +
+                     std::to_string(i == changed ? variant : i % 7) + "|2.5|0||1|1|0|False");
+    return text + "///LABELS///";
+}
+
+TEST(UndoHistory, GivesEachTextBackByteForByte) {
+    UndoHistory history;
+    const std::string texts[] = {"",
+                                 "one line",
+                                 drawingText(300, 5, 99),
+                                 drawingText(301, 5, 98),
+                                 std::string(20000, 'x'),
+                                 "\n\n\n" + drawingText(300, 5, 99),
+                                 std::string("zero\0inside\n", 12),
+                                 drawingText(3, 0, 0)};
+    for (std::size_t i = 0; i < std::size(texts); ++i)
+        history.set(static_cast<Short>(i), texts[i]);
+    for (std::size_t i = 0; i < std::size(texts); ++i)
+        EXPECT_EQ(history.text(static_cast<Short>(i)), texts[i]) << i;
+    history.set(3, "written anew");
+    history.shiftDown();
+    EXPECT_EQ(history.text(2), "written anew");
+    EXPECT_EQ(history.text(1), texts[2]);
+    EXPECT_EQ(history.text(7), "");
+    EXPECT_THROW(history.set(UndoHistory::Slots, "beyond"), std::out_of_range);
+}
+
+std::size_t allocated() {
+    const struct mallinfo2 heap = mallinfo2();
+    return heap.uordblks + heap.hblkhd;
+}
+
+TEST(UndoHistory, KeepsAThousandTextsOfFiveThousandDevicesWithin64MiB) {
+    constexpr std::size_t Limit = 64 * 1024 * 1024;
+    struct Case {
+        const char* what;
+        bool alike;  // all records are the same
+        void (*change)(std::string& text, std::size_t step);
+    };
+    const std::string record = line("InsertGround|1|1|0||1|1|0|False");
+    const Case cases[] = {
+        {"added at the end", false,
+         [](std::string& text, std::size_t step) {
+             text += line("InsertLamp|" + std::to_string(step) + "|1|0||1|1|0|False");
+         }},
+        {"changed anywhere", false,
+         [](std::string& text, std::size_t step) { text[step * 7919 % text.size()] = '5'; }},
+        {"deleted at the start", false,
+         [](std::string& text, std::size_t) { text.erase(12, text.find('\n', 12) - 11); }},
+        {"one more of the same", true,
+         [](std::string& text, std::size_t) { text.insert(0, text, 0, text.find('\n') + 1); }},
+    };
+    for (const Case& c : cases) {
+        std::string text = c.alike ? "" : drawingText(5000, -1, 0);
+        for (int i = 0; c.alike && i < 5000; ++i)
+            text += record;
+        const std::string first = text;
+        UndoHistory history;
+        const std::size_t before = allocated();
+        std::size_t whole = 0;
+        for (Short slot = 0; slot < UndoHistory::Slots; ++slot) {
+            if (slot > 0) c.change(text, static_cast<std::size_t>(slot));
+            whole += text.size();
+            history.set(slot, text);
+        }
+        EXPECT_GT(whole, 2 * Limit) << c.what;
+        EXPECT_LT(allocated() - before, Limit) << c.what;
+        EXPECT_EQ(history.text(999), text) << c.what;
+        EXPECT_EQ(history.text(0), first) << c.what;
+    }
+}
+
+}  // namespace
+}  // namespace ladrix::test
