@@ -5,6 +5,7 @@
 #include <QSignalBlocker>
 
 #include "canvas/Pointer.h"
+#include "canvas/Selection.h"
 #include "canvas/View.h"
 #include "qt/KeyCodes.h"
 #include "qt/Theme.h"
@@ -62,8 +63,10 @@ void CanvasWidget::refresh() {
         if (shown_.Pointer != now.Pointer) showPointer(now.Pointer);
         shown_ = now;
     }
-    if (labelVersion_ != program_.editor.form.LabelVersion) {
-        labelVersion_ = program_.editor.form.LabelVersion;
+    const FormLX& form = program_.editor.form;
+    if (labelVersion_ != form.LabelVersion || pictureVersion_ != form.PictureVersion) {
+        labelVersion_ = form.LabelVersion;
+        pictureVersion_ = form.PictureVersion;
         update();
     }
     if (const QRegion damage = canvas_.takeDamage(); !damage.isEmpty()) update(damage);
@@ -124,6 +127,7 @@ void CanvasWidget::paintEvent(QPaintEvent* event) {
     canvas_.paintTemporaryLayer(painter, clip);
     paintLabels(painter, clip);
     painter.setRenderHint(QPainter::Antialiasing, false);
+    paintPictureMarks(painter);
     paintCrossHair(painter);
     paintBand(painter);
     paintGrip(painter);
@@ -149,6 +153,16 @@ void CanvasWidget::paintLabels(QPainter& painter, const QRect& clip) {
     }
     labels_.flush();
     painter.restore();
+}
+
+void CanvasWidget::paintPictureMarks(QPainter& painter) const {
+    const Editor& editor = program_.editor;
+    for (const PictureRow& row : editor.drawing.PictureTable) {
+        if (!row.Selected) continue;
+        painter.setPen(QPen(theme::color(editor.SelectionColor), 1));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRect(pixelRect({true, row.Left, row.Top, row.Width, row.Height}));
+    }
 }
 
 void CanvasWidget::paintCrossHair(QPainter& painter) const {
@@ -183,31 +197,64 @@ void CanvasWidget::paintGrip(QPainter& painter) const {
     painter.drawRect(pixelRect(shown_.picGrip).adjusted(0, 0, -1, -1));
 }
 
+CanvasWidget::Target CanvasWidget::targetAt(QPointF at) const {
+    const Editor& editor = program_.editor;
+    const Overlay& grip = editor.form.pointer.picGrip;
+    if (grip.Visible && pixelRect(grip).contains(at.toPoint())) return Target::Grip;
+    return pictureAt(editor, canvas_.inchesX(at.x()), canvas_.inchesY(at.y())) ? Target::Picture
+                                                                               : Target::Canvas;
+}
+
+void CanvasWidget::press(const QMouseEvent& event) {
+    Editor& editor = program_.editor;
+    const Short button = buttonNumber(event.button());
+    const Single x = canvas_.inchesX(event.position().x());
+    const Single y = canvas_.inchesY(event.position().y());
+    pressed_ = targetAt(event.position());
+    if (pressed_ == Target::Grip) return picGrip_MouseDown(editor, button);
+    if (pressed_ == Target::Picture)
+        return img_MouseDown(editor, *pictureAt(editor, x, y), button, x, y);
+    picLX_MouseDown(editor, button, classicShift(event.modifiers()), x, y);
+}
+
+void CanvasWidget::release(const QMouseEvent& event) {
+    Editor& editor = program_.editor;
+    const bool left = event.button() == Qt::LeftButton;
+    if (pressed_ == Target::Grip) {
+        if (left && targetAt(event.position()) == Target::Grip) picGrip_Click(editor);
+        return;
+    }
+    if (pressed_ == Target::Picture && left) return img_MouseUp(editor);
+    picLX_MouseUp(editor, buttonNumber(event.button()), classicShift(event.modifiers()),
+                  canvas_.inchesX(event.position().x()), canvas_.inchesY(event.position().y()));
+}
+
 void CanvasWidget::mousePressEvent(QMouseEvent* event) {
-    const QPointF at = event->position();
-    picLX_MouseDown(program_.editor, buttonNumber(event->button()),
-                    classicShift(event->modifiers()), canvas_.inchesX(at.x()),
-                    canvas_.inchesY(at.y()));
+    press(*event);
     emit handled();
 }
 
 void CanvasWidget::mouseMoveEvent(QMouseEvent* event) {
-    const QPointF at = event->position();
-    picLX_MouseMove(program_.editor, heldButton(event->buttons()), classicShift(event->modifiers()),
-                    canvas_.inchesX(at.x()), canvas_.inchesY(at.y()));
+    const Single x = canvas_.inchesX(event->position().x());
+    const Single y = canvas_.inchesY(event->position().y());
+    const Short held = heldButton(event->buttons());
+    if (held == 0 || pressed_ == Target::Canvas)
+        picLX_MouseMove(program_.editor, held, classicShift(event->modifiers()), x, y);
+    else if (pressed_ == Target::Picture)
+        img_MouseMove(program_.editor, held, x, y);
     emit handled();
 }
 
 void CanvasWidget::mouseReleaseEvent(QMouseEvent* event) {
-    const QPointF at = event->position();
-    picLX_MouseUp(program_.editor, buttonNumber(event->button()), classicShift(event->modifiers()),
-                  canvas_.inchesX(at.x()), canvas_.inchesY(at.y()));
+    release(*event);
     emit handled();
 }
 
-// Comes in place of the second press.
+// Comes in place of the second press. Two presses on different targets are no double-click.
 void CanvasWidget::mouseDoubleClickEvent(QMouseEvent* event) {
-    if (event->button() != Qt::LeftButton) return mousePressEvent(event);
+    const bool onCanvas =
+        pressed_ == Target::Canvas && targetAt(event->position()) == Target::Canvas;
+    if (event->button() != Qt::LeftButton || !onCanvas) return mousePressEvent(event);
     picLX_DblClick(program_.editor);
     emit handled();
 }

@@ -1,6 +1,8 @@
 // The canvas on the screen and its frame with the scroll bars. The widget turns pointer events into
 // the canvas handlers' calls and paints what the state says: the canvas' two layers, then labels,
-// cross-hair, band and grip, which are state and not widgets. A frame repaints only what changed.
+// the marks of pictures, cross-hair, band and grip, which are state and not widgets. The grip and,
+// at 100 percent, the pictures take a press before the canvas does; the target of a press keeps the
+// pointer until the release. A frame repaints only what changed.
 #pragma once
 
 #include <QScrollBar>
@@ -37,11 +39,17 @@ class CanvasWidget final : public QWidget {
     void wheelEvent(QWheelEvent* event) override { emit wheelTurned(event); }
 
   private:
+    enum class Target { Canvas, Grip, Picture };
+
+    Target targetAt(QPointF at) const;
+    void press(const QMouseEvent& event);
+    void release(const QMouseEvent& event);
     QRect pixelRect(const Overlay& overlay) const;
     void updateOverlay(const Overlay& before, const Overlay& now);
     void showPointer(MousePointer pointer);
     void fitViewport();
     void paintLabels(QPainter& painter, const QRect& clip);
+    void paintPictureMarks(QPainter& painter) const;
     void paintCrossHair(QPainter& painter) const;
     void paintBand(QPainter& painter) const;
     void paintGrip(QPainter& painter) const;
@@ -50,8 +58,9 @@ class CanvasWidget final : public QWidget {
     QtCanvas& canvas_;
     QtPainterPage labels_{"picLX"};
     PointerState shown_;
-    unsigned labelVersion_ = 0;
-    bool loaded_ = false;  // the form has its first size
+    unsigned labelVersion_ = 0, pictureVersion_ = 0;
+    Target pressed_ = Target::Canvas;  // what took the last press
+    bool loaded_ = false;              // the form has its first size
 };
 
 // picFrame: the canvas with its scroll bars, which lie over the margins that the canvas leaves

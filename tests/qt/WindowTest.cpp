@@ -2,6 +2,7 @@
 // would see and what the program then holds.
 #include <gtest/gtest.h>
 
+#include <QAction>
 #include <QApplication>
 #include <QComboBox>
 #include <QElapsedTimer>
@@ -133,6 +134,57 @@ TEST_F(WindowTest, HasEveryControlByItsName) {
         EXPECT_TRUE(window->findChild<QWidget*>(name)) << name;
     EXPECT_EQ(window->windowTitle(), toQString(editor().form.Caption));
     EXPECT_EQ(textOf("cmdSnap"), "Snap: 0.25");
+}
+
+TEST_F(WindowTest, SelectsByGripAndBandDeletesAndTakesItBack) {
+    editor().drawing.AttachLabels = false;
+    choose(ContactButton);
+    clickPage(2, 2);
+    clickPage(3, 3);
+    clickPage(6, 3);
+    press(picLX(), Qt::Key_Escape);
+    auto& mnuEditDelete = find<QAction>("mnuEditDelete");
+    EXPECT_FALSE(mnuEditDelete.isEnabled());
+
+    move(picLX(), at(2.02, 2));
+    EXPECT_EQ(shownAt(2, 2), QColor(Qt::white)) << "the grip stands on the insertion point";
+    click(picLX(), at(2.02, 2));
+    EXPECT_EQ(textOf("lblSelected"), "1 item selected");
+    EXPECT_FALSE(editor().BandArmed) << "the canvas has seen no press";
+
+    move(picLX(), at(2.5, 2.5));
+    const QColor page = shownAt(3.4, 3.4);
+    sendMouse(picLX(), QEvent::MouseButtonPress, at(2.5, 2.5), Qt::LeftButton, Qt::LeftButton);
+    move(picLX(), at(3.5, 3.5), Qt::LeftButton);
+    EXPECT_NE(shownAt(3.4, 3.4), page) << "the band";
+    sendMouse(picLX(), QEvent::MouseButtonRelease, at(3.5, 3.5), Qt::LeftButton, Qt::NoButton);
+    EXPECT_EQ(shownAt(3.4, 3.4), page);
+    EXPECT_EQ(textOf("lblSelected"), "2 items selected");
+
+    EXPECT_TRUE(mnuEditDelete.isEnabled());
+    mnuEditDelete.trigger();
+    settle();
+    ASSERT_EQ(editor().drawing.devices.DeviceCount, 1);
+    EXPECT_EQ(editor().drawing.devices.DeviceX[0], 6);
+    EXPECT_FALSE(mnuEditDelete.isEnabled());
+    find<QAction>("mnuEditUndo").trigger();
+    settle();
+    EXPECT_EQ(editor().drawing.devices.DeviceCount, 3);
+}
+
+TEST_F(WindowTest, APictureIsClickedAndDragged) {
+    editor().drawing.PictureTable = {{2, 2, 1, 1, "a.png", "", false}};
+    editor().drawing.PictureCount = 1;
+    editor().img = {nullptr};
+    click(picLX(), at(2.5, 2.5));
+    EXPECT_EQ(textOf("lblSelected"), "1 item selected");
+    EXPECT_EQ(shownAt(2, 2.5), QColor(Qt::magenta)) << "its mark";
+    sendMouse(picLX(), QEvent::MouseButtonPress, at(2.5, 2.5), Qt::LeftButton, Qt::LeftButton);
+    move(picLX(), at(4.5, 3), Qt::LeftButton);
+    sendMouse(picLX(), QEvent::MouseButtonRelease, at(4.5, 3), Qt::LeftButton, Qt::NoButton);
+    EXPECT_NEAR(editor().drawing.PictureTable[0].Left, 4, 0.01);
+    EXPECT_NEAR(editor().drawing.PictureTable[0].Top, 2.5, 0.01);
+    EXPECT_EQ(textOf("lblSelected"), "");
 }
 
 // The entries of one menu, as the command table has them.
