@@ -10,8 +10,11 @@
 #include "canvas/PaletteButtons.h"
 #include "canvas/Redraw.h"
 #include "canvas/Selection.h"
+#include "canvas/Snap.h"
+#include "canvas/Stretch.h"
 #include "canvas/Tools.h"
 #include "canvas/Undo.h"
+#include "canvas/Zoom.h"
 
 namespace ladrix {
 
@@ -77,13 +80,13 @@ constexpr Command Commands[] = {
     {Menu::mnuEditUndo, Menu::mnuEditDrawing, "mnuEditUndo", "Undo Last Action", "Ctrl+Z", onEditor<mnuEditUndo_Click>, true, false},
     {Menu::mnuEditRedo, Menu::mnuEditDrawing, "mnuEditRedo", "&Redo Last Action", "Ctrl+Y; Ctrl+Shift+Z", onEditor<mnuEditRedo_Click>, false, false},
     {Menu::mnuEditSaveUserSymbol, Menu::mnuEditDrawing, "mnuEditSaveUserSymbol", "&Save Selected as New User Symbol", "", nullptr, true, false},
-    {Menu::mnuEditZoomIn, Menu::mnuEditDrawing, "mnuEditZoomIn", "Zoom In (CTRL +)", "", nullptr, true, false},
-    {Menu::mnuEditZoomOut, Menu::mnuEditDrawing, "mnuEditZoomOut", "Zoom Out (CTRL -)", "", nullptr, false, false},
-    {Menu::mnuEditStretch, Menu::mnuEditDrawing, "mnuEditStretch", "Enable Drawing &Window Stretch", "", nullptr, false, true},
+    {Menu::mnuEditZoomIn, Menu::mnuEditDrawing, "mnuEditZoomIn", "Zoom In (CTRL +)", "", onEditor<mnuEditZoomIn_Click>, true, false},
+    {Menu::mnuEditZoomOut, Menu::mnuEditDrawing, "mnuEditZoomOut", "Zoom Out (CTRL -)", "", onEditor<mnuEditZoomOut_Click>, false, false},
+    {Menu::mnuEditStretch, Menu::mnuEditDrawing, "mnuEditStretch", "Enable Drawing &Window Stretch", "", onEditor<mnuEditStretch_Click>, false, true},
     {Menu::mnuUOptions, Menu::mnuUOptions, "mnuUOptions", "&Options", "", nullptr, false, false},
     {Menu::mnuToolsParseDeviceString, Menu::mnuUOptions, "mnuToolsParseDeviceString", "Parse Device String", "", parseDevices, false, false},
-    {Menu::mnuOptionSnap, Menu::mnuUOptions, "mnuOptionSnap", "Edit Snap", "", nullptr, true, false},
-    {Menu::mnuOptionGrid, Menu::mnuUOptions, "mnuOptionGrid", "Show Grid", "", nullptr, false, true},
+    {Menu::mnuOptionSnap, Menu::mnuUOptions, "mnuOptionSnap", "Edit Snap", "", onEditor<mnuOptionSnap_Click>, true, false},
+    {Menu::mnuOptionGrid, Menu::mnuUOptions, "mnuOptionGrid", "Show Grid", "", onEditor<mnuOptionGrid_Click>, false, true},
     {Menu::mnuOptionHalfScale, Menu::mnuUOptions, "mnuOptionHalfScale", "Half Scale", "", nullptr, false, true},
     {Menu::mnuOptionSmallerFont, Menu::mnuUOptions, "mnuOptionSmallerFont", "Apply Small Font", "", nullptr, true, false},
     {Menu::mnuOptionLabelColor, Menu::mnuUOptions, "mnuOptionLabelColor", "Enable Color Change for Labels", "", nullptr, false, true},
@@ -95,7 +98,7 @@ constexpr Command Commands[] = {
     {Menu::mnuOptionThickDevices, Menu::mnuUOptions, "mnuOptionThickDevices", "Enable Thick Symbols", "", onEditor<mnuOptionThickDevices_Click>, false, true},
     {Menu::mnuOptBlackBackground, Menu::mnuUOptions, "mnuOptBlackBackground", "Enable Black Background", "", onEditor<mnuOptBlackBackground_Click>, false, true},
     {Menu::mnuOptDashedLineConstant, Menu::mnuUOptions, "mnuOptDashedLineConstant", "Change Dashed Line Spacing", "", nullptr, true, false},
-    {Menu::mnuOptMatchGridToSnap, Menu::mnuUOptions, "mnuOptMatchGridToSnap", "&Match Grid to Snap", "", nullptr, false, true},
+    {Menu::mnuOptMatchGridToSnap, Menu::mnuUOptions, "mnuOptMatchGridToSnap", "&Match Grid to Snap", "", onEditor<mnuOptMatchGridToSnap_Click>, false, true},
     {Menu::mnuOptPrinter, Menu::mnuUOptions, "mnuOptPrinter", "&Printer Options", "", nullptr, true, false},
     {Menu::mnuMode, Menu::mnuMode, "mnuMode", "&User Mode", "", nullptr, false, false},
     {Menu::mnuModeNormal, Menu::mnuMode, "mnuModeNormal", "&Normal (Drawing)", "", chooseNormalMode, false, true},

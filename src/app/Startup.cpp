@@ -8,6 +8,7 @@
 #include "canvas/DrawingCommands.h"
 #include "canvas/PaletteButtons.h"
 #include "canvas/Redraw.h"
+#include "canvas/Snap.h"
 #include "canvas/View.h"
 #include "platform/Encoding.h"
 

@@ -118,7 +118,11 @@ struct Editor {
     Single ScaleLeft = 0, ScaleTop = 0;  // inches
     Single ZoomFactor = 1;
     Short ZoomStepCount = 0;
-    Single ZoomPointX = 0, ZoomPointY = 0;
+    Single ZoomPointX = 0, ZoomPointY = 0;        // the press that zooms, or the last placement
+    Single ZoomFractionX = 0, ZoomFractionY = 0;  // where it stood in the view at 100 percent
+    Single HScrollTarget = 0, VScrollTarget = 0;  // hundredths of an inch; the bars take them
+    bool StretchMode = false, Stretching = false, StretchTold = false;
+    Single StretchX = 0;  // twips within picFrame, of the move before
     bool GridOn = false, GridFollowsSnap = false, BlackBackground = false;
     Long GridColor = 0xE0E0E0;
     bool Redrawing = false;

@@ -31,7 +31,7 @@ struct FlyOut {
     friend bool operator==(const FlyOut&, const FlyOut&) = default;
 };
 
-enum class MousePointer { Default, Cross, ZoomIn, ZoomOut };
+enum class MousePointer { Default, Cross, ZoomIn, ZoomOut, SizeWidth };
 enum class Focus { Canvas, TextEdit, CircleEnd, None };
 
 // The part that every pointer move may change.
@@ -75,8 +75,12 @@ struct FormLX {
     unsigned LabelVersion = 0;      // raised by every change of lbl
     unsigned PictureVersion = 0;    // raised when a picture's mark has changed
     ScrollBar HScroll1, VScroll1;
-    Single FrameWidth = 0, FrameHeight = 0;  // inner size of picFrame, twips
-    Focus FocusRequest = Focus::None;        // the view gives the focus and puts it back to None
+    // Inner size of picFrame, the widest that the window has room for, and the width that a person
+    // has dragged it to; 0: as wide as there is room. Twips.
+    Single FrameWidth = 8.5f * TwipsPerInch, FrameHeight = 6.75f * TwipsPerInch;
+    Single FrameRoom = 0, StretchedWidth = 0;
+    MousePointer picFramePointer = MousePointer::Default;
+    Focus FocusRequest = Focus::None;  // the view gives the focus and puts it back to None
 };
 
 }  // namespace ladrix

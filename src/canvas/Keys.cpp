@@ -6,8 +6,10 @@
 #include "canvas/Colors.h"
 #include "canvas/Redraw.h"
 #include "canvas/Selection.h"
+#include "canvas/Snap.h"
 #include "canvas/Tools.h"
 #include "canvas/View.h"
+#include "canvas/Zoom.h"
 
 namespace ladrix {
 
@@ -61,12 +63,6 @@ bool stretchSelected(Drawing& drawing, Step step) {
     return moved;
 }
 
-void setSnapByKey(Editor& editor, Single step) {
-    editor.SnapStep = step;
-    showSnapStep(editor);
-    if (editor.GridFollowsSnap) RedrawDrawing(editor);
-}
-
 void pageByKey(Editor& editor, Short keyCode) {
     ScrollBar& bar = editor.form.VScroll1;
     const auto hundredths = [](Single inches) {
@@ -90,10 +86,16 @@ void pressControlKey(Editor& editor, Short keyCode) {
             editor.form.picSelectedColor.BackColor = Black;
             break;
         case key::Left:
-            setSnapByKey(editor, editor.SnapStep / 2);
+            snapLowerByKey(editor);
             break;
         case key::Right:
-            setSnapByKey(editor, editor.SnapStep * 2);
+            snapHigherByKey(editor);
+            break;
+        case key::Plus:
+            mnuEditZoomIn_Click(editor);
+            break;
+        case key::Minus:
+            mnuEditZoomOut_Click(editor);
             break;
         default:
             break;
@@ -152,7 +154,9 @@ void walkPalette(Editor& editor, Short keyCode) {
 void Form_KeyDown(Editor& editor, Short keyCode, Short shift) {
     if (keyCode == key::Escape) cmdReset_Click(editor);
     if (keyCode == key::PageDown || keyCode == key::PageUp) pageByKey(editor, keyCode);
-    if (shift == ControlKey) pressControlKey(editor, keyCode);
+    // On many keyboards the plus sign takes Shift.
+    const bool plus = keyCode == key::Plus && shift == ControlShift;
+    if (shift == ControlKey || plus) pressControlKey(editor, keyCode);
     if (shift == ControlAlt) {
         if (const auto color = colorOfKey(keyCode)) {
             editor.CurrentColor = *color;

@@ -10,7 +10,7 @@ namespace key {
 constexpr Short Backspace = 8, Enter = 13, Escape = 27, PageUp = 33, PageDown = 34, Left = 37,
                 Up = 38, Right = 39, Down = 40, Plus = 187, Minus = 189;
 }
-enum : Short { NoShift = 0, ShiftKey = 1, ControlKey = 2, ControlAlt = 6 };
+enum : Short { NoShift = 0, ShiftKey = 1, ControlKey = 2, ControlShift = 3, ControlAlt = 6 };
 
 // The form sees keys first. ESC resets in every state. Letters come as their capital's code.
 void Form_KeyDown(Editor& editor, Short keyCode, Short shift);

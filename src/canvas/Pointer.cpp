@@ -9,6 +9,7 @@
 #include "canvas/Redraw.h"
 #include "canvas/Selection.h"
 #include "canvas/Tools.h"
+#include "canvas/Zoom.h"
 #include "platform/Numbers.h"
 
 namespace ladrix {
@@ -249,11 +250,7 @@ void picLX_MouseMove(Editor& editor, Short button, Short, Single x, Single y) {
 
 void picLX_MouseDown(Editor& editor, Short button, Short, Single x, Single y) {
     editor.form.pointer.picGrip.Visible = false;
-    if (zoomPending(editor)) {
-        editor.ZoomPointX = x;
-        editor.ZoomPointY = y;
-        return;
-    }
+    if (zoomPending(editor)) return zoomAtPress(editor, x, y);
     editor.MouseIsDown = true;
     if (editor.SimulationMode) return;
     if (button == RightButton) return pressRightButton(editor);

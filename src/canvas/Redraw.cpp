@@ -8,6 +8,7 @@
 #include "canvas/Selection.h"
 #include "canvas/Tools.h"
 #include "canvas/View.h"
+#include "canvas/Zoom.h"
 #include "platform/Numbers.h"
 
 namespace ladrix {
@@ -172,7 +173,7 @@ void ResetEditor(Editor& editor) {
     editor.MouseIsDown = false;
     endBand(editor);
     editor.SnapXFound = editor.SnapYFound = false;
-    editor.ZoomInPending = editor.ZoomOutPending = false;
+    endZoomMode(editor);
     editor.symbols.block.CurDevice.clear();
     editor.ToolName.clear();
     editor.SavingUserSymbol = editor.SymbolPointPending = editor.SymbolPointFound = false;
@@ -216,7 +217,11 @@ void colorReset(Editor& editor, bool something) {
 }
 
 std::string readyMessage(const Editor& editor) {
-    return "Drawing Reset and Ready. Click on a symbol for placement. Current Zoom Scale = " +
+    return "Drawing Reset and Ready. Click on a symbol for placement. " + zoomScaleText(editor);
+}
+
+std::string zoomScaleText(const Editor& editor) {
+    return "Current Zoom Scale = " +
            singleText(editor.ZoomFactor * 100, editor.platform.locale.decimalMark) + "%";
 }
 

@@ -22,8 +22,9 @@ void mnuOptionReset_Click(Editor& editor);
 // Whether Reset is coloured as having something to reset.
 void colorReset(Editor& editor, bool something);
 
-// The message that stands after a reset and after a zoom.
+// The messages that stand after a reset and after a zoom, and while a zoom is pending.
 std::string readyMessage(const Editor& editor);
+std::string zoomScaleText(const Editor& editor);
 
 // The point size at which `font` has, on the canvas at its zoom, the width that it has on paper:
 // found in steps from the stored size, once per font and zoom.

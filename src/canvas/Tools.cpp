@@ -4,6 +4,7 @@
 #include "canvas/Labels.h"
 #include "canvas/Pointer.h"
 #include "canvas/Redraw.h"
+#include "canvas/Zoom.h"
 #include "platform/Numbers.h"
 #include "symbols/DeviceNames.h"
 
@@ -116,7 +117,7 @@ void pressButton(Editor& editor, Short index) {
 void cmdSym_Click(Editor& editor, Short index) {
     if (editor.Arranging) return;
     editor.MouseIsDown = false;
-    editor.ZoomInPending = editor.ZoomOutPending = false;
+    endZoomMode(editor);
     if (editor.SelectedCount != 0) {
         ClearCopyState(editor);
         ResetEditor(editor);

@@ -1,5 +1,6 @@
 // How the page lies in the frame: page size, scroll bars, grid. All drawing coordinates are inches
-// of the page, whatever the view.
+// of the page, whatever the view. A change of the view paints the drawing once and touches no
+// table.
 #pragma once
 
 #include "canvas/Editor.h"
@@ -20,16 +21,32 @@ void layOutNewPage(Editor& editor);
 // 100 percent, scrolled to the upper left.
 void ResetZoom(Editor& editor);
 
-// The bars' ranges and whether they are needed; their values are held within.
+// How much of the page the frame shows at this zoom.
+void measureFrame(Editor& editor);
+
+// Measures the frame, then the bars' ranges, whether they are needed, and their values from the
+// scroll targets, which are held within. Neither scrolls nor paints.
 void ArrangeScrollBars(Editor& editor);
 
-// The bar's value has changed, by a drag or by its keys.
+// The bar's value has changed, by a drag or by its keys: the view follows.
 void HScroll1_Change(Editor& editor);
 void VScroll1_Change(Editor& editor);
 
-// Wipes the canvas and paints the grid lines on it.
-void DrawGrid(Editor& editor);
+// To the foot and to the head of the page.
+void MovePageDown(Editor& editor);
+void MovePageUp(Editor& editor);
 
-void showSnapStep(Editor& editor);
+// The view takes its place from the bars' values and is painted.
+void showScrolledView(Editor& editor);
+
+// Puts the view's upper left corner there, as near as the page allows and finer than the bars'
+// hundredths of an inch; their values follow. Does not paint.
+void placeView(Editor& editor, Single left, Single top);
+
+// As placeView, and paints if the view has moved: for the wheel and a dragged page.
+void ScrollTo(Editor& editor, Single left, Single top);
+
+// Wipes the canvas and paints the grid lines on it, those in view.
+void DrawGrid(Editor& editor);
 
 }  // namespace ladrix

@@ -1,12 +1,14 @@
 #include "qt/CanvasWidget.h"
 
-#include <QCoreApplication>
 #include <QPaintEvent>
 #include <QSignalBlocker>
+#include <QWheelEvent>
+#include <cmath>
 
 #include "canvas/Pointer.h"
 #include "canvas/Selection.h"
 #include "canvas/View.h"
+#include "canvas/Zoom.h"
 #include "qt/KeyCodes.h"
 #include "qt/Theme.h"
 
@@ -15,7 +17,9 @@ namespace ladrix {
 namespace {
 
 constexpr Single TwipsPerPixel = 15;
-constexpr int OverlayRoom = 2;  // logical pixels that an overlay's pen takes around it
+constexpr int WheelNotch = 120;        // of the toolkit's angle
+constexpr double PixelsPerNotch = 96;  // an inch of the screen
+constexpr int OverlayRoom = 2;         // logical pixels that an overlay's pen takes around it
 constexpr QColor CrossHair{0x7D, 0x93, 0xB2};
 
 Short buttonNumber(Qt::MouseButton button) {
@@ -27,6 +31,11 @@ Short buttonNumber(Qt::MouseButton button) {
 Short heldButton(Qt::MouseButtons buttons) {
     if (buttons & Qt::LeftButton) return LeftButton;
     return buttons & Qt::RightButton ? Short{RightButton} : Short{0};
+}
+
+// What a length of the frame leaves for the page between its margins.
+Single innerTwips(int pixels) {
+    return static_cast<Single>(std::max(1, pixels - 2 * QtCanvas::Margin)) * TwipsPerPixel;
 }
 
 void showBar(QScrollBar& bar, ScrollBar& shown, const ScrollBar& state) {
@@ -82,6 +91,8 @@ void CanvasWidget::showPointer(MousePointer pointer) {
             return setCursor(theme::cursor("cursor-zoom-in", 10, 10));
         case MousePointer::ZoomOut:
             return setCursor(theme::cursor("cursor-zoom-out", 10, 10));
+        case MousePointer::SizeWidth:
+            return setCursor(Qt::SizeHorCursor);
     }
 }
 
@@ -106,10 +117,7 @@ void CanvasWidget::updateOverlay(const Overlay& before, const Overlay& now) {
 // scroll bars the page stands off from the frame by it.
 void CanvasWidget::fitViewport() {
     canvas_.resize(size(), devicePixelRatioF());
-    const auto twips = [](int pixels) {
-        return static_cast<Single>(std::max(1, pixels - 2 * QtCanvas::Margin)) * TwipsPerPixel;
-    };
-    Form_Resize(program_.editor, twips(width()), twips(height()));
+    Form_Resize(program_.editor, innerTwips(width()), innerTwips(height()));
     loaded_ = true;
     emit handled();
 }
@@ -230,22 +238,34 @@ void CanvasWidget::release(const QMouseEvent& event) {
 }
 
 void CanvasWidget::mousePressEvent(QMouseEvent* event) {
+    if (event->button() == Qt::MiddleButton) return startPan(event->position());
+    if (pan_) return;
     press(*event);
     emit handled();
 }
 
 void CanvasWidget::mouseMoveEvent(QMouseEvent* event) {
-    const Single x = canvas_.inchesX(event->position().x());
-    const Single y = canvas_.inchesY(event->position().y());
-    const Short held = heldButton(event->buttons());
-    if (held == 0 || pressed_ == Target::Canvas)
-        picLX_MouseMove(program_.editor, held, classicShift(event->modifiers()), x, y);
-    else if (pressed_ == Target::Picture)
-        img_MouseMove(program_.editor, held, x, y);
+    if (pan_ && !(event->buttons() & Qt::MiddleButton)) endPan();
+    if (pan_)
+        pan(event->position());
+    else
+        movePointer(event->position(), event->buttons(), event->modifiers());
     emit handled();
 }
 
+void CanvasWidget::movePointer(QPointF at, Qt::MouseButtons buttons,
+                               Qt::KeyboardModifiers modifiers) {
+    const Single x = canvas_.inchesX(at.x());
+    const Single y = canvas_.inchesY(at.y());
+    const Short held = heldButton(buttons);
+    if (held == 0 || pressed_ == Target::Canvas)
+        picLX_MouseMove(program_.editor, held, classicShift(modifiers), x, y);
+    else if (pressed_ == Target::Picture)
+        img_MouseMove(program_.editor, held, x, y);
+}
+
 void CanvasWidget::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() == Qt::MiddleButton) return endPan();
     release(*event);
     emit handled();
 }
@@ -254,19 +274,72 @@ void CanvasWidget::mouseReleaseEvent(QMouseEvent* event) {
 void CanvasWidget::mouseDoubleClickEvent(QMouseEvent* event) {
     const bool onCanvas =
         pressed_ == Target::Canvas && targetAt(event->position()) == Target::Canvas;
-    if (event->button() != Qt::LeftButton || !onCanvas) return mousePressEvent(event);
+    if (event->button() != Qt::LeftButton || !onCanvas || pan_) return mousePressEvent(event);
     picLX_DblClick(program_.editor);
     emit handled();
 }
 
+// What the turn leaves under the pointer is what the pointer is on from then: the ghost, the band
+// and the read-out follow.
+void CanvasWidget::wheelEvent(QWheelEvent* event) {
+    event->accept();
+    if (event->modifiers() & Qt::ControlModifier)
+        zoomByTurn(*event);
+    else
+        scrollByWheel(*event);
+    if (pan_) startPan(event->position());
+    movePointer(event->position(), event->buttons(), event->modifiers());
+    emit handled();
+}
+
+// Some platforms have turned a notch with Shift sideways already.
+void CanvasWidget::scrollByWheel(const QWheelEvent& event) {
+    QPointF turn = QPointF(event.angleDelta()) * (PixelsPerNotch / WheelNotch);
+    if (event.modifiers() & Qt::ShiftModifier && turn.x() == 0) turn = turn.transposed();
+    const Editor& editor = program_.editor;
+    ScrollTo(program_.editor, editor.ScaleLeft - static_cast<Single>(turn.x() / canvas_.scale()),
+             editor.ScaleTop - static_cast<Single>(turn.y() / canvas_.scale()));
+}
+
+void CanvasWidget::zoomByTurn(const QWheelEvent& event) {
+    const QPointF at = event.position();
+    const auto zoom = [&](ZoomStep step) {
+        zoomByWheel(program_.editor, step, canvas_.inchesX(at.x()), canvas_.inchesY(at.y()));
+    };
+    wheelTurn_ += event.angleDelta().y();
+    for (; wheelTurn_ >= WheelNotch; wheelTurn_ -= WheelNotch)
+        zoom(ZoomStep::In);
+    for (; wheelTurn_ <= -WheelNotch; wheelTurn_ += WheelNotch)
+        zoom(ZoomStep::Out);
+}
+
+void CanvasWidget::startPan(QPointF at) {
+    pan_ = {at, program_.editor.ScaleLeft, program_.editor.ScaleTop};
+    setCursor(Qt::ClosedHandCursor);
+}
+
+void CanvasWidget::pan(QPointF at) {
+    const QPointF way = (at - pan_->from) / canvas_.scale();
+    ScrollTo(program_.editor, pan_->left - static_cast<Single>(way.x()),
+             pan_->top - static_cast<Single>(way.y()));
+}
+
+void CanvasWidget::endPan() {
+    pan_.reset();
+    showPointer(shown_.Pointer);
+}
+
 CanvasFrame::CanvasFrame(Program& program, QtCanvas& canvas, QWidget* parent)
-    : QWidget(parent), program_(program), picLX_(new CanvasWidget(program, canvas, this)) {
+    : QWidget(parent),
+      program_(program),
+      picLX_(new CanvasWidget(program, canvas, this)),
+      handle_(new StretchHandle(program, this)) {
     setObjectName("picFrame");
     FormLX& form = program.editor.form;
     HScroll1_ = makeBar(Qt::Horizontal, "HScroll1", form.HScroll1, &HScroll1_Change);
     VScroll1_ = makeBar(Qt::Vertical, "VScroll1", form.VScroll1, &VScroll1_Change);
     connect(picLX_, &CanvasWidget::handled, this, &CanvasFrame::handled);
-    connect(picLX_, &CanvasWidget::wheelTurned, this, &CanvasFrame::scrollByWheel);
+    connect(handle_, &StretchHandle::handled, this, &CanvasFrame::handled);
 }
 
 QScrollBar* CanvasFrame::makeBar(Qt::Orientation orientation, const char* name, ScrollBar& state,
@@ -284,23 +357,35 @@ QScrollBar* CanvasFrame::makeBar(Qt::Orientation orientation, const char* name, 
     return bar;
 }
 
-void CanvasFrame::scrollByWheel(QWheelEvent* event) {
-    const bool sideways = event->modifiers() & Qt::ShiftModifier;
-    QScrollBar* bar = sideways ? HScroll1_ : VScroll1_;
-    if (bar->isHidden()) return event->accept();
-    QCoreApplication::sendEvent(bar, event);
+// The canvas takes the whole frame, or the width that a person has dragged it to.
+void CanvasFrame::arrange() {
+    FormLX& form = program_.editor.form;
+    const bool stretchable = program_.editor.StretchMode;
+    const int room = width() - (stretchable ? StretchHandle::Width : 0);
+    form.FrameRoom = innerTwips(room);
+    const int wanted = static_cast<int>(std::lround(form.StretchedWidth / TwipsPerPixel));
+    const int used = wanted > 0 ? std::min(room, wanted + 2 * QtCanvas::Margin) : room;
+    const int thick = VScroll1_->sizeHint().width();
+    const QSize free(used - thick, height() - thick);
+    VScroll1_->setGeometry(free.width(), 0, thick, free.height());
+    HScroll1_->setGeometry(0, free.height(), free.width(), thick);
+    handle_->setGeometry(used, 0, StretchHandle::Width, height());
+    handle_->setVisible(stretchable);
+    picLX_->setGeometry(0, 0, used, height());
 }
 
 void CanvasFrame::resizeEvent(QResizeEvent*) {
-    const int thick = VScroll1_->sizeHint().width();
-    const QSize free = size() - QSize(thick, thick);
-    VScroll1_->setGeometry(free.width(), 0, thick, free.height());
-    HScroll1_->setGeometry(0, free.height(), free.width(), thick);
-    picLX_->setGeometry(rect());
+    arrange();
 }
 
 void CanvasFrame::refresh() {
     const FormLX& form = program_.editor.form;
+    const Stretch now{program_.editor.StretchMode, form.StretchedWidth};
+    if (shownStretch_ != now) {
+        shownStretch_ = now;
+        arrange();
+    }
+    handle_->refresh();
     showBar(*HScroll1_, shownHScroll1_, form.HScroll1);
     showBar(*VScroll1_, shownVScroll1_, form.VScroll1);
     picLX_->refresh();

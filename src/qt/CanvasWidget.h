@@ -7,9 +7,11 @@
 
 #include <QScrollBar>
 #include <QWidget>
+#include <optional>
 
 #include "app/Program.h"
 #include "qt/QtCanvas.h"
+#include "qt/StretchHandle.h"
 
 namespace ladrix {
 
@@ -27,7 +29,6 @@ class CanvasWidget final : public QWidget {
 
   signals:
     void handled();  // a handler has run
-    void wheelTurned(QWheelEvent* event);
 
   protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -36,7 +37,7 @@ class CanvasWidget final : public QWidget {
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
-    void wheelEvent(QWheelEvent* event) override { emit wheelTurned(event); }
+    void wheelEvent(QWheelEvent* event) override;
 
   private:
     enum class Target { Canvas, Grip, Picture };
@@ -44,6 +45,12 @@ class CanvasWidget final : public QWidget {
     Target targetAt(QPointF at) const;
     void press(const QMouseEvent& event);
     void release(const QMouseEvent& event);
+    void scrollByWheel(const QWheelEvent& event);
+    void zoomByTurn(const QWheelEvent& event);
+    void movePointer(QPointF at, Qt::MouseButtons buttons, Qt::KeyboardModifiers modifiers);
+    void startPan(QPointF at);
+    void pan(QPointF at);
+    void endPan();
     QRect pixelRect(const Overlay& overlay) const;
     void updateOverlay(const Overlay& before, const Overlay& now);
     void showPointer(MousePointer pointer);
@@ -61,10 +68,17 @@ class CanvasWidget final : public QWidget {
     unsigned labelVersion_ = 0, pictureVersion_ = 0;
     Target pressed_ = Target::Canvas;  // what took the last press
     bool loaded_ = false;              // the form has its first size
+    int wheelTurn_ = 0;                // with Ctrl, not yet a whole step
+    struct Pan {
+        QPointF from;      // the press
+        Single left, top;  // the view then
+    };
+    std::optional<Pan> pan_;  // while the page is dragged by the middle button
 };
 
 // picFrame: the canvas with its scroll bars, which lie over the margins that the canvas leaves
-// around the page, so that the view never jumps when one comes or goes.
+// around the page, so that the view never jumps when one comes or goes. While the view is being
+// stretched, a handle stands at the canvas' right edge.
 class CanvasFrame final : public QWidget {
     Q_OBJECT
 
@@ -84,12 +98,20 @@ class CanvasFrame final : public QWidget {
     using Handler = void (*)(Editor&);
     QScrollBar* makeBar(Qt::Orientation orientation, const char* name, ScrollBar& state,
                         Handler changed);
-    void scrollByWheel(QWheelEvent* event);
+    void arrange();
 
     Program& program_;
     CanvasWidget* picLX_;
     QScrollBar *HScroll1_, *VScroll1_;
     ScrollBar shownHScroll1_, shownVScroll1_;
+    StretchHandle* handle_;
+    struct Stretch {
+        bool on = false;
+        Single width = 0;
+
+        friend bool operator==(const Stretch&, const Stretch&) = default;
+    };
+    Stretch shownStretch_;
 };
 
 }  // namespace ladrix

@@ -5,7 +5,10 @@
 
 #include "canvas/Colors.h"
 #include "canvas/Labels.h"
+#include "canvas/Pointer.h"
 #include "canvas/Redraw.h"
+#include "canvas/Snap.h"
+#include "canvas/Zoom.h"
 #include "qt/InputFilters.h"
 #include "qt/QtText.h"
 #include "qt/Theme.h"
@@ -179,19 +182,22 @@ void ToolStrip::showScaleList(const ComboBox& state) {
 
 void ToolStrip::makeSnapAndZoom(QBoxLayout& row) {
     const FormLX& form = program_.editor.form;
-    row.addWidget(makeButton("cmdSnapLower", form.cmdSnapLower, nullptr, Look::Icon, "snap-finer",
-                             tr("Halve the snap pitch")));
-    QToolButton* snap =
-        makeButton("cmdSnap", form.cmdSnap, nullptr, Look::Text, tr("Snap"), tr("Snap pitch"));
+    row.addWidget(makeButton("cmdSnapLower", form.cmdSnapLower, &cmdSnapLower_Click, Look::Icon,
+                             "snap-finer", tr("Halve the snap pitch (Ctrl+Left)")));
+    QToolButton* snap = makeButton("cmdSnap", form.cmdSnap, &cmdSnap_Click, Look::Text, tr("Snap"),
+                                   tr("Snap pitch"));
     snap->setMinimumWidth(96);
+    snap->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(snap, &QWidget::customContextMenuRequested, this,
+            [this] { run([](Editor& editor) { cmdSnap_MouseDown(editor, RightButton); }); });
     row.addWidget(snap);
-    row.addWidget(makeButton("cmdSnapHigher", form.cmdSnapHigher, nullptr, Look::Icon,
-                             "snap-coarser", tr("Double the snap pitch")));
+    row.addWidget(makeButton("cmdSnapHigher", form.cmdSnapHigher, &cmdSnapHigher_Click, Look::Icon,
+                             "snap-coarser", tr("Double the snap pitch (Ctrl+Right)")));
     addDivider(row);
-    row.addWidget(
-        makeButton("cmdZoomIn", form.cmdZoomIn, nullptr, Look::Icon, "zoom-in", tr("Zoom in")));
-    row.addWidget(
-        makeButton("cmdZoomOut", form.cmdZoomOut, nullptr, Look::Icon, "zoom-out", tr("Zoom out")));
+    row.addWidget(makeButton("cmdZoomIn", form.cmdZoomIn, &cmdZoomIn_Click, Look::Icon, "zoom-in",
+                             tr("Zoom in where you click (at once: Ctrl++)")));
+    row.addWidget(makeButton("cmdZoomOut", form.cmdZoomOut, &cmdZoomOut_Click, Look::Icon,
+                             "zoom-out", tr("Zoom out where you click (at once: Ctrl+-)")));
 }
 
 void ToolStrip::makeReset(QBoxLayout& row) {

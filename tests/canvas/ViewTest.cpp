@@ -51,7 +51,7 @@ TEST(ScrollBars, StandOnlyWhereThePageIsLargerThanTheFrame) {
     for (const Case& c : {Case{8.5f, 6.75f, false, true, 0, 425}, Case{5, 12, true, false, 350, 0},
                           Case{5, 5, true, true, 350, 600}, Case{20, 20, false, false, 0, 0}}) {
         Bench bench;
-        bench.editor.form.HScroll1.Value = bench.editor.form.VScroll1.Value = 9999;
+        bench.editor.HScrollTarget = bench.editor.VScrollTarget = 9999;
         Form_Resize(bench.editor, c.width * TwipsPerInch, c.height * TwipsPerInch);
         const FormLX& form = bench.editor.form;
         EXPECT_EQ(form.HScroll1.Visible, c.horizontal) << c.width;
@@ -73,6 +73,7 @@ TEST(ScrollBars, MoveTheViewAndRedraw) {
     bench.play("tool Ground; click 1 1; key 27 0");
     Form_Resize(bench.editor, 5 * TwipsPerInch, 5 * TwipsPerInch);
     bench.canvas.persistent.clear();
+    const int redraws = bench.canvas.persistentCls;
     bench.editor.form.HScroll1.Value = 125;
     HScroll1_Change(bench.editor);
     bench.editor.form.VScroll1.Value = 250;
@@ -82,10 +83,65 @@ TEST(ScrollBars, MoveTheViewAndRedraw) {
     EXPECT_EQ(bench.canvas.scaleLeft, 1.25f);
     EXPECT_EQ(bench.canvas.scaleTop, 2.5f);
     EXPECT_FALSE(bench.canvas.persistent.empty());
+    EXPECT_EQ(bench.canvas.persistentCls, redraws + 2) << "one redraw each";
+    EXPECT_EQ(bench.editor.form.FocusRequest, Focus::Canvas);
     EXPECT_TRUE(bench.editor.symbols.SkipUserSymbolOnce);
     bench.editor.ZoomInPending = true;
     HScroll1_Change(bench.editor);
     EXPECT_FALSE(bench.editor.symbols.SkipUserSymbolOnce);
+}
+
+TEST(ScrollBars, KeepTheirPlaceWhenTheFrameIsResized) {
+    Bench bench;
+    Form_Resize(bench.editor, 5 * TwipsPerInch, 5 * TwipsPerInch);
+    bench.play("click 3 2; key 187 2; key 34 0");
+    const int below = bench.editor.form.VScroll1.Value;
+    ASSERT_GT(below, 0);
+    Form_Resize(bench.editor, 5.5f * TwipsPerInch, 5 * TwipsPerInch);
+    EXPECT_EQ(bench.editor.form.VScroll1.Value, below) << "not back to where the zoom had put it";
+    EXPECT_FLOAT_EQ(bench.canvas.scaleTop, static_cast<Single>(below) / 100);
+}
+
+TEST(ScrollBars, AreHiddenInSimulationAndStillScroll) {
+    Bench bench;
+    bench.editor.SimulationMode = true;
+    Form_Resize(bench.editor, 5 * TwipsPerInch, 5 * TwipsPerInch);
+    EXPECT_FALSE(bench.editor.form.HScroll1.Visible || bench.editor.form.VScroll1.Visible);
+    MovePageDown(bench.editor);
+    EXPECT_FLOAT_EQ(bench.canvas.scaleTop, 6);
+    MovePageUp(bench.editor);
+    EXPECT_EQ(bench.canvas.scaleTop, 0);
+}
+
+TEST(ScrollTo, IsExactHeldWithinThePageAndCostsOneRedraw) {
+    struct Case {
+        Single left, top, atLeft, atTop;
+        int redraws;
+    };
+    for (const Case& c : {Case{1.2345f, 2.0004f, 1.2345f, 2.0004f, 1}, Case{-3, 4, 0, 4, 1},
+                          Case{99, 99, 3.5f, 6, 1}, Case{-1, -1, 0, 0, 0}}) {
+        Bench bench;
+        Form_Resize(bench.editor, 5 * TwipsPerInch, 5 * TwipsPerInch);
+        const int redraws = bench.canvas.persistentCls;
+        ScrollTo(bench.editor, c.left, c.top);
+        EXPECT_FLOAT_EQ(bench.canvas.scaleLeft, c.atLeft);
+        EXPECT_FLOAT_EQ(bench.canvas.scaleTop, c.atTop);
+        EXPECT_EQ(bench.canvas.persistentCls, redraws + c.redraws) << c.left;
+        EXPECT_NEAR(bench.editor.form.HScroll1.Value, c.atLeft * 100, 0.51);
+        EXPECT_NEAR(bench.editor.form.VScroll1.Value, c.atTop * 100, 0.51);
+    }
+}
+
+TEST(ScrollTo, BringsTheGhostBackUnderAPointerThatHasNotMoved) {
+    Bench bench;
+    Form_Resize(bench.editor, 5 * TwipsPerInch, 5 * TwipsPerInch);
+    bench.play("tool Lamp; move 3 3");
+    bench.canvas.temporary.clear();
+    bench.play("move 3 3");
+    ASSERT_THAT(bench.canvas.temporary, IsEmpty());
+    ScrollTo(bench.editor, 1, 1);
+    bench.play("move 3 3");
+    EXPECT_FALSE(bench.canvas.temporary.empty());
 }
 
 TEST(ResetZoom, ShowsTheUpperLeftAtFullSize) {
@@ -124,7 +180,23 @@ TEST(Grid, IsPaintedThinInItsPitchAndNeverRecorded) {
     mnuOptBlackBackground_Click(bench.editor);
     EXPECT_EQ(bench.canvas.BackColor, Black);
     DrawGrid(bench.editor);
-    EXPECT_NE(layer.at(0).color, RGB(239, 239, 239));
+    EXPECT_EQ(layer.at(0).color, RGB(32, 32, 32));
+    EXPECT_EQ(layer.at(3).color, RGB(64, 64, 64)) << "every fourth";
+}
+
+TEST(Grid, CostsOnlyTheLinesInView) {
+    Bench bench;
+    bench.editor.GridFollowsSnap = true;
+    bench.editor.SnapStep = 0.005f;
+    bench.editor.ZoomFactor = 20;
+    bench.canvas.view = {4, 5, 4.095f, 5.025f};
+    DrawGrid(bench.editor);
+    ASSERT_EQ(bench.canvas.persistent.size(), 10u + 3u);
+    EXPECT_NEAR(bench.canvas.persistent[0].x1, 4, 1e-5);
+    EXPECT_NEAR(bench.canvas.persistent[10].y1, 5, 1e-5);
+    bench.canvas.view = {-9, -9, -1, -1};
+    DrawGrid(bench.editor);
+    EXPECT_THAT(bench.canvas.persistent, IsEmpty());
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
+#include <QContextMenuEvent>
 #include <QElapsedTimer>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -12,10 +13,12 @@
 #include <QScrollBar>
 #include <QStyle>
 #include <QToolButton>
+#include <QWheelEvent>
 
 #include "app/Startup.h"
 #include "canvas/DrawingCommands.h"
 #include "canvas/Keys.h"
+#include "canvas/View.h"
 #include "qt/KeyCodes.h"
 #include "qt/MainWindow.h"
 #include "qt/QtText.h"
@@ -451,6 +454,122 @@ TEST_F(WindowTest, ScrollingMovesThePageUnderThePointer) {
     // At the end the page's lower edge stands off from the frame.
     bar.setValue(bar.maximum());
     EXPECT_NEAR(at(0, 11).y(), picLX().height() - QtCanvas::Margin, 2);
+}
+
+TEST_F(WindowTest, TheWheelScrollsTheOtherWayWithShiftAndZoomsWithCtrl) {
+    open(900, 620);
+    window->findChild<QAction*>("mnuLayoutLargeLandscape")->trigger();
+    settle();
+    choose(ContactButton);
+    const QPointF pointer = at(3, 3);
+    move(picLX(), pointer);
+    const auto turn = [&](int angle, Qt::KeyboardModifiers modifiers) {
+        const unsigned redraws = editor().form.LabelVersion;
+        QWheelEvent event(pointer, picLX().mapToGlobal(pointer), QPoint(), QPoint(0, angle),
+                          Qt::NoButton, modifiers, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(&picLX(), &event);
+        settle();
+        return editor().form.LabelVersion - redraws;
+    };
+    EXPECT_EQ(turn(-120, Qt::NoModifier), 1u) << "redraws";
+    EXPECT_FLOAT_EQ(editor().ScaleTop, 1);
+    EXPECT_EQ(find<QScrollBar>("VScroll1").value(), 100);
+    EXPECT_EQ(textOf("lblCoords"), "X = 3, Y = 4") << "the pointer is over another point";
+    EXPECT_TRUE(editor().form.pointer.LineV.Visible);
+    EXPECT_EQ(turn(-60, Qt::ShiftModifier), 1u);
+    EXPECT_FLOAT_EQ(editor().ScaleLeft, 0.5f);
+    EXPECT_FLOAT_EQ(editor().ScaleTop, 1);
+    EXPECT_EQ(turn(600, Qt::NoModifier), 1u);
+    EXPECT_EQ(turn(120, Qt::NoModifier), 0u) << "at the head already";
+    const Single x = canvas.inchesX(pointer.x()), y = canvas.inchesY(pointer.y());
+    EXPECT_EQ(turn(60, Qt::ControlModifier), 0u) << "half a step";
+    EXPECT_EQ(turn(60, Qt::ControlModifier), 1u);
+    EXPECT_FLOAT_EQ(editor().ZoomFactor, 1.25f);
+    EXPECT_NEAR(at(x, y).x(), pointer.x(), 0.6);
+    EXPECT_NEAR(at(x, y).y(), pointer.y(), 0.6);
+    EXPECT_EQ(editor().CurrentTool, ContactButton);
+}
+
+TEST_F(WindowTest, TheMiddleButtonDragsThePageAndMeansNothingElse) {
+    open(900, 620);
+    window->findChild<QAction*>("mnuLayoutLargeLandscape")->trigger();
+    settle();
+    ScrollTo(editor(), 2, 3);
+    const QPointF from = at(5, 5);
+    choose(ContactButton);
+    move(picLX(), from);
+    sendMouse(picLX(), QEvent::MouseButtonPress, from, Qt::MiddleButton, Qt::MiddleButton);
+    EXPECT_EQ(picLX().cursor().shape(), Qt::ClosedHandCursor);
+    for (const QPointF way : {QPointF(10, 10), QPointF(48, 96)})
+        move(picLX(), from + way, Qt::MiddleButton);
+    EXPECT_NEAR(editor().ScaleLeft, 1.5, 1e-4);
+    EXPECT_NEAR(editor().ScaleTop, 2, 1e-4);
+    EXPECT_EQ(find<QScrollBar>("HScroll1").value(), 150);
+    click(picLX(), from + QPointF(48, 96));
+    sendMouse(picLX(), QEvent::MouseButtonRelease, from, Qt::MiddleButton, Qt::NoButton);
+    EXPECT_EQ(editor().drawing.devices.DeviceCount, 0);
+    EXPECT_EQ(picLX().cursor().shape(), Qt::BitmapCursor) << "the tool's again";
+    move(picLX(), from);
+    EXPECT_NEAR(editor().ScaleLeft, 1.5, 1e-4) << "the page is let go";
+    clickPage(4, 4);
+    EXPECT_EQ(editor().drawing.devices.DeviceCount, 1);
+}
+
+TEST_F(WindowTest, ZoomAndSnapButtonsActAndTellTheirState) {
+    const auto face = [&](const char* name) {
+        return find(name).palette().color(QPalette::Button);
+    };
+    click(find("cmdZoomIn"), QPointF(5, 5));
+    EXPECT_EQ(face("cmdZoomIn"), QColor(0, 255, 255));
+    const QCursor before = picLX().cursor();
+    move(picLX(), at(2, 2));
+    EXPECT_EQ(picLX().cursor().shape(), Qt::BitmapCursor);
+    clickPage(2, 2);
+    EXPECT_FLOAT_EQ(editor().ZoomFactor, 1.25f);
+    click(find("cmdZoomOut"), QPointF(5, 5));
+    EXPECT_NE(face("cmdZoomIn"), QColor(0, 255, 255));
+    clickPage(2, 2);
+    EXPECT_EQ(editor().ZoomFactor, 1);
+    press(picLX(), Qt::Key_Escape);
+    EXPECT_EQ(picLX().cursor().shape(), before.shape());
+    press(picLX(), Qt::Key_Plus, "+", Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_FLOAT_EQ(editor().ZoomFactor, 1.25f);
+
+    click(find("cmdSnapHigher"), QPointF(5, 5));
+    EXPECT_EQ(textOf("cmdSnap"), "Snap: 0.5");
+    machine.dialogs.inputAnswers = {"0,1"};
+    click(find("cmdSnap"), QPointF(5, 5));
+    EXPECT_EQ(textOf("cmdSnap"), "Snap: 0.1");
+    QContextMenuEvent menu(QContextMenuEvent::Mouse, QPoint(5, 5),
+                           find("cmdSnap").mapToGlobal(QPoint(5, 5)));
+    QCoreApplication::sendEvent(&find("cmdSnap"), &menu);
+    EXPECT_EQ(textOf("cmdSnap"), "Snap: 0.25");
+}
+
+TEST_F(WindowTest, TheViewIsStretchedByItsRightMargin) {
+    const int width = picLX().width();
+    auto& handle = find("stretchHandle");
+    EXPECT_FALSE(handle.isVisible());
+    window->findChild<QAction*>("mnuEditStretch")->trigger();
+    settle();
+    ASSERT_TRUE(handle.isVisible());
+    EXPECT_FALSE(find("VScroll1").isVisible());
+    EXPECT_EQ(picLX().width(), width - handle.width());
+    const QPointF grip(10, 100);
+    move(handle, grip);
+    EXPECT_EQ(handle.cursor().shape(), Qt::SizeHorCursor);
+    sendMouse(handle, QEvent::MouseButtonPress, grip, Qt::LeftButton, Qt::LeftButton);
+    for (int i = 0; i < 4; ++i)  // the handle comes along
+        move(handle, grip - QPointF(60, 0), Qt::LeftButton);
+    sendMouse(handle, QEvent::MouseButtonRelease, grip, Qt::LeftButton, Qt::NoButton);
+    EXPECT_EQ(picLX().width(), width - handle.width() - 240);
+    EXPECT_EQ(handle.x(), picLX().width());
+    EXPECT_NEAR(editor().VisibleWidth, (picLX().width() - 2 * QtCanvas::Margin) / 96.0, 1e-4);
+    window->findChild<QAction*>("mnuEditStretch")->trigger();
+    settle();
+    EXPECT_FALSE(handle.isVisible());
+    EXPECT_EQ(picLX().width(), width - handle.width() - 240);
+    EXPECT_TRUE(find("VScroll1").isVisible());
 }
 
 TEST_F(WindowTest, TheSmallestScreenCutsNothingOff) {

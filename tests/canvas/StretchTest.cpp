@@ -1,0 +1,77 @@
+// The view made narrower and wider by its right margin.
+#include "canvas/Stretch.h"
+
+#include <gtest/gtest.h>
+
+#include "Bench.h"
+#include "canvas/Pointer.h"
+#include "canvas/View.h"
+
+namespace ladrix::test {
+namespace {
+
+struct StretchTest : testing::Test {
+    Bench bench;
+    Editor& editor = bench.editor;
+    FormLX& form = editor.form;
+
+    void SetUp() override {
+        Form_Resize(editor, 6 * TwipsPerInch, 5 * TwipsPerInch);
+        form.FrameRoom = 6 * TwipsPerInch;
+    }
+    void drag(Single from, Single to) {
+        picFrame_MouseDown(editor, LeftButton, from);
+        picFrame_MouseMove(editor, LeftButton, to);
+        picFrame_MouseUp(editor);
+    }
+};
+
+TEST_F(StretchTest, TellsHowOnlyTheFirstTimeAndHidesTheBar) {
+    ASSERT_TRUE(form.VScroll1.Visible);
+    mnuEditStretch_Click(editor);
+    EXPECT_FALSE(form.VScroll1.Visible);
+    EXPECT_TRUE(form.menu[Menu::mnuEditStretch].Checked);
+    ASSERT_EQ(bench.machine.dialogs.boxes.size(), 1u);
+    EXPECT_TRUE(bench.machine.dialogs.boxes[0].text.starts_with("Place the mouse inside"));
+    mnuEditStretch_Click(editor);
+    EXPECT_TRUE(form.VScroll1.Visible);
+    EXPECT_FALSE(form.menu[Menu::mnuEditStretch].Checked);
+    mnuEditStretch_Click(editor);
+    EXPECT_EQ(bench.machine.dialogs.boxes.size(), 1u);
+}
+
+TEST_F(StretchTest, FollowsThePointersWayWhileTheButtonIsHeld) {
+    mnuEditStretch_Click(editor);
+    picFrame_MouseMove(editor, 0, 9000);
+    EXPECT_EQ(form.picFramePointer, MousePointer::SizeWidth);
+    EXPECT_EQ(form.StretchedWidth, 0);
+    picFrame_MouseDown(editor, LeftButton, 9000);
+    picFrame_MouseMove(editor, LeftButton, 8000);
+    picFrame_MouseMove(editor, LeftButton, 7560);
+    EXPECT_EQ(form.StretchedWidth, 5 * TwipsPerInch);
+    EXPECT_FLOAT_EQ(editor.VisibleWidth, 5);
+    EXPECT_EQ(form.HScroll1.Max, 350);
+    picFrame_MouseUp(editor);
+    picFrame_MouseMove(editor, LeftButton, 1000);
+    EXPECT_EQ(form.StretchedWidth, 5 * TwipsPerInch);
+    mnuEditStretch_Click(editor);
+    EXPECT_EQ(form.StretchedWidth, 5 * TwipsPerInch) << "the width outlasts the mode";
+    drag(7000, 6000);
+    EXPECT_EQ(form.StretchedWidth, 5 * TwipsPerInch);
+    EXPECT_EQ(form.picFramePointer, MousePointer::Default);
+}
+
+TEST_F(StretchTest, EndsAtTheRoomThereIsAndAtAnInch) {
+    mnuEditStretch_Click(editor);
+    drag(8640, -90000);
+    EXPECT_EQ(form.StretchedWidth, TwipsPerInch);
+    drag(1440, 90000);
+    EXPECT_EQ(form.StretchedWidth, 0) << "as wide as the window allows";
+    EXPECT_FLOAT_EQ(editor.VisibleWidth, 6);
+    picFrame_MouseDown(editor, RightButton, 8000);
+    picFrame_MouseMove(editor, RightButton, 4000);
+    EXPECT_EQ(form.StretchedWidth, 0);
+}
+
+}  // namespace
+}  // namespace ladrix::test
