@@ -12,6 +12,7 @@
 #include <QMenuBar>
 #include <QScrollBar>
 #include <QStyle>
+#include <QThread>
 #include <QToolButton>
 #include <QWheelEvent>
 
@@ -78,12 +79,24 @@ class WindowTest : public testing::Test {
         window->show();
         window->activateWindow();
         QApplication::setActiveWindow(window.get());
-        QElapsedTimer clock;  // a window manager takes its time
-        clock.start();
-        do
-            settle();
-        while (find("picBottom").width() != width && clock.elapsed() < 5000);
+        waitForRest(width);
         ASSERT_EQ(window->size(), QSize(width, height));
+    }
+
+    // A window manager takes its time, and may give a window its size in more than one step: the
+    // frame is at rest when several looks in a row find it the same.
+    void waitForRest(int width) {
+        QElapsedTimer clock;
+        clock.start();
+        Single height = 0;
+        for (int same = 0; same < 5 && clock.elapsed() < 5000;) {
+            QThread::msleep(10);
+            settle();
+            const bool still =
+                find("picBottom").width() == width && editor().form.FrameHeight == height;
+            same = still ? same + 1 : 0;
+            height = editor().form.FrameHeight;
+        }
     }
 
     template <class Widget = QWidget>
