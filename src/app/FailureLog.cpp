@@ -66,10 +66,10 @@ void ReportError(Program& program, std::string_view description, const Failure& 
         appendToLog(program, entry);
 }
 
-void appendErrorMessage(Program& program, std::string_view line) {
+void appendErrorMessage(Program& program, std::string_view lines) {
     try {
         program.platform.files->append(program.paths.BasePath + "Error Messages.txt",
-                                       std::string(line) + "\r\n");
+                                       std::string(lines) + "\r\n");
     } catch (const Failure&) {
         // The diagnostics are no reason to trouble the user.
     }

@@ -11,8 +11,8 @@ namespace ladrix {
 // description twice in a row is only logged. Never throws: a failure to log is dropped.
 void ReportError(Program& program, std::string_view description, const Failure& failure);
 
-// One line of the run's own diagnostics in "Error Messages.txt".
-void appendErrorMessage(Program& program, std::string_view line);
+// Lines of the run's own diagnostics in "Error Messages.txt"; the last line end is added.
+void appendErrorMessage(Program& program, std::string_view lines);
 
 void mnuAdminViewErrorLog_Click(Program& program);
 void frmLog_cmdExport_Click(Program& program);

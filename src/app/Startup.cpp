@@ -117,8 +117,13 @@ void shareWithEditor(Program& program) {
     editor.drawing.CurrentFolder = paths.DrawingsPath;
 }
 
+// The run's diagnostics start afresh; nobody needs what the last run left, so nothing is flushed.
 void renewErrorMessages(Program& program) {
-    program.platform.files->replace(program.paths.BasePath + "Error Messages.txt", "");
+    Files& files = *program.platform.files;
+    const std::string& folder = program.paths.BasePath;
+    if (FileExists(files, folder, "Error Messages.txt"))
+        files.remove(folder + "Error Messages.txt");
+    files.append(folder + "Error Messages.txt", "");
 }
 
 bool screenIsLargeEnough(Program& program) {
@@ -132,10 +137,10 @@ bool screenIsLargeEnough(Program& program) {
 
 void appendDiagnostics(Program& program) {
     const Paths& paths = program.paths;
-    appendErrorMessage(program, "Application Path: " + paths.AppFilePath);
-    appendErrorMessage(program, "Computer Name: " + program.platform.shell->computerName());
-    appendErrorMessage(program, "My Documents: " + paths.MyDocumentsPath);
-    appendErrorMessage(program, "Virtual My Documents: " + paths.VirtualMyDocuments);
+    appendErrorMessage(program, "Application Path: " + paths.AppFilePath + "\r\n" +
+                                    "Computer Name: " + program.platform.shell->computerName() +
+                                    "\r\n" + "My Documents: " + paths.MyDocumentsPath + "\r\n" +
+                                    "Virtual My Documents: " + paths.VirtualMyDocuments);
 }
 
 void setDefaults(Program& program) {
