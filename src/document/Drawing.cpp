@@ -203,7 +203,6 @@ void RecordLabel(Drawing& drawing, const Platform& platform, Label label) {
         appendLabel(drawing, platform, label);
         drawing.CurrentLabel = static_cast<Short>(drawing.labels.LabelCount - 1);
         drawing.DrawingChanged = true;
-        if (drawing.LabelsChanged) drawing.LabelsChanged();
         if (!drawing.NoSnapshot && drawing.TakeUndoSnapshot) drawing.TakeUndoSnapshot();
     } catch (const Failure& failure) {
         platform.ReportError("Record Label", failure);
@@ -260,7 +259,6 @@ void ClearTables(Drawing& drawing) {
     drawing.LabelRecords.clear();
     drawing.PictureRecords = 0;
     drawing.CurrentLabel = -1;
-    if (drawing.LabelsChanged) drawing.LabelsChanged();
 }
 
 }  // namespace ladrix

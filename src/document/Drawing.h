@@ -57,7 +57,6 @@ struct Drawing {
 
     // Set once by the layer above.
     std::function<void()> TakeUndoSnapshot;
-    std::function<void()> LabelsChanged;  // the label controls follow the table
 };
 
 // Every name of these is drawn from its own geometry, in place of scale and orientation.

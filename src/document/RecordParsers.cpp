@@ -465,7 +465,6 @@ void ParseDeviceString(Drawing& drawing, const Platform& platform) {
 
 void ParseLabelString(Drawing& drawing, const Platform& platform) {
     guarded(drawing, platform, "Parse Label String", [&] { readLabels(drawing, platform); });
-    if (drawing.LabelsChanged) drawing.LabelsChanged();
 }
 
 void ParsePictureString(Drawing& drawing, const Platform& platform, const PicturePaths& known) {

@@ -44,7 +44,6 @@ Bench::Bench() {
     drawing.CurrentFolder = machine.folder / "documents/";
     drawing.AttachLabels = false;
     drawing.TakeUndoSnapshot = [this] { ++snapshots; };
-    drawing.LabelsChanged = [this] { placeLabels(editor); };
     editor.symbols.BeginLabel = [this](std::string_view prefix, Single x, Single y) {
         BeginLabel(editor, prefix, x, y);
     };

@@ -14,7 +14,6 @@ class DrawingTest : public testing::Test {
   protected:
     DrawingTest() {
         drawing.TakeUndoSnapshot = [this] { ++snapshots; };
-        drawing.LabelsChanged = [this] { ++labelChanges; };
     }
 
     Device record(Device device) {
@@ -25,7 +24,7 @@ class DrawingTest : public testing::Test {
 
     test::FakePlatform machine;
     Drawing drawing;
-    int snapshots = 0, labelChanges = 0;
+    int snapshots = 0;
 };
 
 // All fields set, so that one kept by mistake shows.
@@ -212,7 +211,6 @@ TEST_F(DrawingTest, LabelsAreRecordedWithTheFixedColourWhenThatIsOn) {
     EXPECT_EQ(readable(drawing.LabelRecord(0)), "M1|1|2|255|Arial|8|False|False");
     EXPECT_TRUE(drawing.DrawingChanged);
     EXPECT_FALSE(drawing.NewAfterSave);
-    EXPECT_EQ(labelChanges, 2);
 }
 
 TEST_F(DrawingTest, ALabelIsAddedToATextThatHoldsTheOthersAndReplacesOneThatDoesNot) {
