@@ -10,7 +10,6 @@ namespace {
 
 constexpr std::string_view PreferencesName = "UserPreferences.upf";
 constexpr std::size_t TagLength = 15;
-constexpr std::size_t DashSpacingLine = 26;
 
 std::vector<std::string> linesOf(std::string_view text) {
     std::vector<std::string> lines;
@@ -24,8 +23,14 @@ std::vector<std::string> linesOf(std::string_view text) {
     return lines;
 }
 
+std::string tagOf(std::size_t line) {
+    const std::string digits = longText(static_cast<Long>(line));
+    return "Reserve Bit " + std::string(digits.size() < 2 ? "0" : "") + digits + ":";
+}
+
 // The value behind the tag; "" for a line that the file does not have.
-std::string valueOf(const std::vector<std::string>& lines, std::size_t index) {
+std::string valueOf(const std::vector<std::string>& lines, Setting setting) {
+    const auto index = static_cast<std::size_t>(setting);
     if (index >= lines.size()) return {};
     if (lines[index].size() < TagLength)
         throw Failure{failure::InvalidCall, "Line " + longText(static_cast<Long>(index)) +
@@ -41,13 +46,40 @@ void ReadUserPreferences(Program& program) {
     try {
         const bool own = FileExists(files, paths.DataFilesPath, PreferencesName);
         const std::string& folder = own ? paths.DataFilesPath : paths.AppFilePath;
+        program.PrefsFolder = folder;
         if (!own && !FileExists(files, folder, PreferencesName)) return;
         program.UserPrefs = linesOf(files.read(folder + std::string(PreferencesName)));
-        if (const std::string value = valueOf(program.UserPrefs, DashSpacingLine); !value.empty())
-            program.editor.DashSpacing = toSingle(value);
+        const std::string value = valueOf(program.UserPrefs, Setting::DashSpacing);
+        if (!value.empty()) program.editor.DashSpacing = toSingle(value);
     } catch (const Failure& failure) {
         ReportError(program, "Read User Preferences", failure);
     }
+}
+
+bool SaveUserPreferences(Program& program) {
+    Files& files = *program.platform.files;
+    const std::string target = program.PrefsFolder + std::string(PreferencesName);
+    const std::string spare = program.paths.AppFilePath + "Temp_" + std::string(PreferencesName);
+    try {
+        if (FileExists(files, program.PrefsFolder, PreferencesName)) files.copy(target, spare);
+        std::string text;
+        for (const std::string& line : program.UserPrefs)
+            text += line + "\r\n";
+        files.replace(target, text);
+        if (files.status(spare)) files.remove(spare);
+        return true;
+    } catch (const Failure& failure) {
+        ReportError(program, "Save User Preferences", failure);
+        return false;
+    }
+}
+
+void StoreSetting(Program& program, Setting setting, std::string_view value) {
+    const auto index = static_cast<std::size_t>(setting);
+    for (std::size_t line = program.UserPrefs.size(); line <= index; ++line)
+        program.UserPrefs.push_back(tagOf(line));
+    program.UserPrefs[index] = tagOf(index).append(value);
+    SaveUserPreferences(program);
 }
 
 }  // namespace ladrix

@@ -10,4 +10,21 @@ namespace ladrix {
 // own. Without a file every setting has its default.
 void ReadUserPreferences(Program& program);
 
+// Writes UserPrefs to the folder that they were read from. Until the new file stands, the former
+// one is also in the program's folder as "Temp_UserPreferences.upf"; a save that fails is reported
+// and leaves that copy. False if it failed.
+bool SaveUserPreferences(Program& program);
+
+// The lines that hold a setting; every other line is kept as it was read.
+enum class Setting : unsigned char {
+    PrinterName = 22,
+    PrinterNumber = 23,
+    PrintLineWeight = 24,
+    PaletteRows = 25,
+    DashSpacing = 26,  // inches
+};
+
+// Gives the setting's line a new value, in memory and in the file.
+void StoreSetting(Program& program, Setting setting, std::string_view value);
+
 }  // namespace ladrix

@@ -41,7 +41,8 @@ struct Program {
     Editor editor;
     FileBrowser frmFile;
     LogViewer frmLog;
-    std::vector<std::string> UserPrefs;
+    std::vector<std::string> UserPrefs;  // the lines of the preferences file
+    std::string PrefsFolder;             // where they were read
     std::string LastErrorText;  // description of the last report
     std::string TraceText;      // the stage of the start, for reports
     bool Ending = false;        // the run is over; the view closes its windows

@@ -4,19 +4,22 @@
 
 #include <array>
 #include <cstddef>
+#include <string>
 
 namespace ladrix {
 
 // clang-format off
 enum class Menu : unsigned char {
     mnuFile, mnuFileNew, mnuFileOpen, mnuFileOpenViewer, mnuFileSave, mnuFileSaveAs,
-    mnuFileSaveBitmap, mnuFileDrawCircuit1, mnuFilePrintCircuit1, mnuFileRestore, mnuFileTemplates,
-    mnuExit,
+    mnuFileSaveBitmap, mnuFileExport, mnuFileDrawCircuit1, mnuFilePrintCircuit1,
+    mnuFilePrintPreview, mnuFileRestore, mnuFileBackups, mnuFileTemplates, mnuFileRecent0,
+    mnuFileRecent1, mnuFileRecent2, mnuFileRecent3, mnuFileRecent4, mnuFileRecent5, mnuFileRecent6,
+    mnuFileRecent7, mnuFileRecent8, mnuExit,
     mnuLayout, mnuLayoutNormal, mnuLayoutLandscape, mnuLargePortrait, mnuLayoutLargeLandscape,
     mnuLayoutMore,
     mnuLibraries, mnuLibManage, mnuLibManageUserLibraries, mnuLibManageRename, mnuLibManageDelete,
-    mnuLibManageRows, mnuLibElectrical, mnuLibElectronic, mnuLibIEC, mnuLibHyd, mnuLibOpen,
-    mnuLibNewLibrary, mnuLibraryNext, mnuLibraryPrevious,
+    mnuLibManageMove, mnuLibManageCopy, mnuLibManageOrder, mnuLibManageRows, mnuLibElectrical, mnuLibElectronic, mnuLibIEC, mnuLibHyd, mnuLibOpen,
+    mnuLibNewLibrary, mnuLibMerge, mnuLibraryNext, mnuLibraryPrevious, mnuLibFind,
     mnuInsert, mnuInsertPicture,
     mnuEdit, mnuEditFileDescription, mnuEditText, mnuEditTextCaption, mnuEditTextProps,
     mnuEditTextAlignLeft, mnuEditTextAlignRight, mnuEditTextAlignTop, mnuEditDrawing,
@@ -27,6 +30,7 @@ enum class Menu : unsigned char {
     mnuOptionSmallerFont, mnuOptionLabelColor, mnuOptionAttachLabels, mnuOptAutoIncrement,
     mnuOptionAddSpace, mnuOptChangeSelectionColor, mnuOptionPrintThin, mnuOptionThickDevices,
     mnuOptBlackBackground, mnuOptDashedLineConstant, mnuOptMatchGridToSnap, mnuOptPrinter,
+    mnuOptSavePreferences, mnuOptRestorePreferences,
     mnuMode, mnuModeNormal, mnuModeDesign, mnuModeSimulation, mnuSimCircuit0, mnuSimCircuit1,
     mnuSimCircuit2, mnuModeIllustration,
     mnuAdmin, mnuAdminCreateShortcut, mnuAdminCreateSymbolExportFile, mnuAdminViewErrorLog,
@@ -40,6 +44,7 @@ struct MenuState {
     bool Enabled = true;
     bool Visible = true;
     bool Checked = false;
+    std::string Caption = {};  // in place of the table's; "": the table's own
 
     friend bool operator==(const MenuState&, const MenuState&) = default;
 };

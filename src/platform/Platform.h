@@ -19,7 +19,23 @@ enum class Buttons { Ok, OkCancel, YesNo, YesNoCancel };
 enum class Answer { Ok, Cancel, Yes, No };
 
 // The forms that the core can ask for, by their own names.
-enum class Form { frmFile, frmDesc, frmLog };
+enum class Form {
+    frmFile,
+    frmDesc,
+    frmLog,
+    frmTextProps,
+    frmFavorites,
+    frmButtonColor,
+    frmUS,
+    frmUBRows,
+    frmLibManager,
+    frmFind,
+    frmLayout,
+    frmPrinter,
+    frmPrinters,
+    frmPreview,
+    frmHelp,
+};
 
 class Dialogs {
   public:
@@ -31,6 +47,9 @@ class Dialogs {
                                              std::string_view value) = 0;
     // Shows the form from its state and returns when its Visible has become false.
     virtual void show(Form form) = 0;
+    // Shows the form beside the main window, or brings it to the front, and returns at once. It
+    // stays until its Visible is false.
+    virtual void open(Form form) = 0;
     // The pop-up of the menu's entries at the pointer; returns at once.
     virtual void popUp(std::string_view menuName) = 0;
 };

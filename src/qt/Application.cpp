@@ -43,6 +43,8 @@ void runForm(Program& program, QWidget* window, Form form) {
         case Form::frmLog:
             LogDialog(program, window).run();
             return;
+        default:
+            return;
     }
 }
 

@@ -131,6 +131,7 @@ void MainWindow::showMenus() {
         const MenuState& state = program_.editor.form.menu[command.entry];
         QAction& entry = *entries_.at(command.entry);
         entry.setVisible(state.Visible);
+        entry.setText(toQString(state.Caption.empty() ? command.caption : state.Caption));
         entry.setEnabled(ladrix::isEnabled(program_, command));
         if (command.checkable) entry.setChecked(state.Checked);
     }

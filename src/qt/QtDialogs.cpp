@@ -108,6 +108,11 @@ void QtDialogs::show(Form form) {
     runForm(form);
 }
 
+void QtDialogs::open(Form form) {
+    if (turnedAway("a window was to be opened") || !openForm) return;
+    openForm(form);
+}
+
 void QtDialogs::popUp(std::string_view menuName) {
     if (popUpMenu) popUpMenu(menuName);
 }

@@ -15,6 +15,7 @@ class QtDialogs final : public Dialogs {
     QWidget* window = nullptr;
     std::function<void()> beforeModal;  // the window shows the present state
     std::function<void(Form)> runForm;
+    std::function<void(Form)> openForm;
     std::function<void(std::string_view)> popUpMenu;
 
     // Nobody is there to answer: boxes go to standard error and answer Cancel.
@@ -25,6 +26,7 @@ class QtDialogs final : public Dialogs {
     std::optional<std::string> input(std::string_view prompt, std::string_view title,
                                      std::string_view value) override;
     void show(Form form) override;
+    void open(Form form) override;
     void popUp(std::string_view menuName) override;
 
   private:

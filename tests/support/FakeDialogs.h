@@ -47,6 +47,7 @@ class FakeDialogs final : public Dialogs {
     std::optional<std::string> input(std::string_view prompt, std::string_view title,
                                      std::string_view value) override;
     void show(Form form) override;
+    void open(Form form) override { forms.push_back(form); }
     void popUp(std::string_view menuName) override;
 };
 
