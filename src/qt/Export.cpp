@@ -130,6 +130,7 @@ class KeptMessages final : public Dialogs {
         return std::nullopt;
     }
     void show(Form) override {}
+    void open(Form) override {}
     void popUp(std::string_view) override {}
 };
 
