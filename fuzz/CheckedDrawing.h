@@ -49,6 +49,7 @@ class SilentDialogs final : public Dialogs {
         return std::nullopt;
     }
     void show(Form) override {}
+    void open(Form) override {}
     void popUp(std::string_view) override {}
 };
 

@@ -74,6 +74,7 @@ class BoxesOnStandardError final : public Dialogs {
         return std::nullopt;
     }
     void show(Form) override { shown = true; }
+    void open(Form) override { shown = true; }
     void popUp(std::string_view) override { shown = true; }
 };
 
