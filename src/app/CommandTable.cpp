@@ -4,6 +4,7 @@
 
 #include "app/CommandHandlers.h"
 #include "app/FailureLog.h"
+#include "app/LineOptions.h"
 #include "canvas/Colors.h"
 #include "canvas/CopyMove.h"
 #include "canvas/DrawingCommands.h"
@@ -114,7 +115,7 @@ constexpr Command Commands[] = {
     {Menu::mnuOptionPrintThin, Menu::mnuUOptions, "mnuOptionPrintThin", "Enable Thin Printing", "", nullptr, false, true},
     {Menu::mnuOptionThickDevices, Menu::mnuUOptions, "mnuOptionThickDevices", "Enable Thick Symbols", "", onEditor<mnuOptionThickDevices_Click>, false, true},
     {Menu::mnuOptBlackBackground, Menu::mnuUOptions, "mnuOptBlackBackground", "Enable Black Background", "", onEditor<mnuOptBlackBackground_Click>, false, true},
-    {Menu::mnuOptDashedLineConstant, Menu::mnuUOptions, "mnuOptDashedLineConstant", "Change Dashed Line Spacing", "", nullptr, true, false},
+    {Menu::mnuOptDashedLineConstant, Menu::mnuUOptions, "mnuOptDashedLineConstant", "Change Dashed Line Spacing", "", mnuOptDashedLineConstant_Click, true, false},
     {Menu::mnuOptMatchGridToSnap, Menu::mnuUOptions, "mnuOptMatchGridToSnap", "&Match Grid to Snap", "", onEditor<mnuOptMatchGridToSnap_Click>, false, true},
     {Menu::mnuOptPrinter, Menu::mnuUOptions, "mnuOptPrinter", "&Printer Options", "", nullptr, true, false},
     {Menu::mnuOptSavePreferences, Menu::mnuUOptions, "mnuOptSavePreferences", "Save a Copy of the User Preferences", "", nullptr, true, false},

@@ -1,6 +1,7 @@
 #include "app/Preferences.h"
 
 #include "app/FailureLog.h"
+#include "canvas/LineTool.h"
 #include "platform/Files.h"
 #include "platform/Numbers.h"
 
@@ -50,7 +51,11 @@ void ReadUserPreferences(Program& program) {
         if (!own && !FileExists(files, folder, PreferencesName)) return;
         program.UserPrefs = linesOf(files.read(folder + std::string(PreferencesName)));
         const std::string value = valueOf(program.UserPrefs, Setting::DashSpacing);
-        if (!value.empty()) program.editor.DashSpacing = toSingle(value);
+        if (value.empty()) return;
+        const Single spacing = toSingle(value);
+        if (!(spacing >= LeastDashSpacing))
+            throw Failure{failure::InvalidCall, "A dash spacing of " + value + " is not possible."};
+        program.editor.DashSpacing = spacing;
     } catch (const Failure& failure) {
         ReportError(program, "Read User Preferences", failure);
     }

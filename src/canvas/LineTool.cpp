@@ -25,7 +25,7 @@ std::vector<Segment> dashesOf(const Segment& line, Single length) {
     std::vector<Segment> dashes;
     const Single dx = line.x2 - line.x, dy = line.y2 - line.y;
     const Single whole = std::sqrt(dx * dx + dy * dy);
-    if (!(length > 0) || whole == 0 || whole / length > 32767) return dashes;
+    if (!(length >= LeastDashSpacing) || whole == 0) return dashes;
     const Single unitX = dx / whole, unitY = dy / whole;
     for (Single from = 0; whole - length > from; from += 2 * length)
         dashes.push_back({line.x + unitX * from, line.y + unitY * from,

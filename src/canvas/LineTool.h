@@ -7,6 +7,9 @@
 
 namespace ladrix {
 
+// A finer dash would be a grey line of thousands of devices.
+constexpr Single LeastDashSpacing = 0.01f;  // inches
+
 // The first click sets the start; each further click draws and records a line, or in dashed mode a
 // run of dashes, and goes on from its end.
 void InsertSavedLine(Editor& editor, Long color, std::string_view widthTag);

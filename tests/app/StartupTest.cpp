@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "app/LineOptions.h"
+#include "app/Preferences.h"
 #include "canvas/DrawingCommands.h"
 #include "canvas/PaletteButtons.h"
 #include "support/FakePlatform.h"
@@ -120,14 +122,45 @@ TEST_F(StartTest, ThePreferencesDashSpacingIsReadFromTheDataFolderFirst) {
     EXPECT_EQ(program.UserPrefs.size(), 27u);
 }
 
-TEST_F(StartTest, ATruncatedPreferencesFileIsReportedAndTheDefaultsStand) {
+TEST_F(StartTest, PreferencesThatCannotBeAreReportedAndTheDefaultsStand) {
     std::string lines;
     for (int i = 0; i < 26; ++i)
         lines += "Reserve Bit 00:\r\n";
-    disk().write(documents("Data Files/UserPreferences.upf"), lines + "short");
+    for (const char* last :
+         {"short", "Reserve Bit 26:wide", "Reserve Bit 26:-1", "Reserve Bit 26:0.000001"}) {
+        disk().write(documents("Data Files/UserPreferences.upf"), lines + last);
+        program.LastErrorText.clear();
+        fake.dialogs.boxes.clear();
+        ASSERT_TRUE(startProgram(program));
+        EXPECT_EQ(fake.dialogs.boxes.size(), 1u) << last;
+        EXPECT_FLOAT_EQ(program.editor.DashSpacing, 0.125f) << last;
+    }
+}
+
+TEST_F(StartTest, ADashSpacingIsStoredInTheUsersMarkAndAnAbsurdOneIsTold) {
+    fake.platform.locale.decimalMark = ',';
     ASSERT_TRUE(startProgram(program));
-    ASSERT_EQ(fake.dialogs.boxes.size(), 1u);
-    EXPECT_FLOAT_EQ(program.editor.DashSpacing, 0.125f);
+    struct Case {
+        const char *typed, *stored, *box;
+    };
+    for (const Case& c : {Case{"0.5", "0,5", ""},
+                          {"0,25", "0,25", ""},
+                          {"wide", "0,25", "Expected a numeric value."},
+                          {"0", "0,25", "The dash spacing must be at least 0,01 inches."},
+                          {"-1", "0,25", "The dash spacing must be at least 0,01 inches."},
+                          {"1e-9", "0,25", "The dash spacing must be at least 0,01 inches."},
+                          {"", "0,25", ""}}) {
+        fake.dialogs.boxes.clear();
+        fake.dialogs.inputAnswers = {c.typed};
+        mnuOptDashedLineConstant_Click(program);
+        EXPECT_EQ(fake.dialogs.boxes.empty() ? "" : fake.dialogs.boxes[0].text, c.box);
+        EXPECT_EQ(program.UserPrefs.at(26), std::string("Reserve Bit 26:") + c.stored) << c.typed;
+    }
+    Program next{fake.platform};
+    next.paths = program.paths;
+    next.PrefsFolder = program.PrefsFolder;
+    ReadUserPreferences(next);
+    EXPECT_FLOAT_EQ(next.editor.DashSpacing, 0.25f);
 }
 
 TEST_F(StartTest, WithoutADocumentsFolderTheBaseIsTheFixedRootWithoutADataFolder) {
