@@ -111,7 +111,7 @@ constexpr Command Commands[] = {
     {Menu::mnuOptionAttachLabels, Menu::mnuUOptions, "mnuOptionAttachLabels", "Attach Labels for Popular Devices", "", flipAttachLabels, false, true},
     {Menu::mnuOptAutoIncrement, Menu::mnuUOptions, "mnuOptAutoIncrement", "Auto-Increment Label Caption", "", nullptr, false, true},
     {Menu::mnuOptionAddSpace, Menu::mnuUOptions, "mnuOptionAddSpace", "Separate Symbol Name from Number", "", nullptr, false, true},
-    {Menu::mnuOptChangeSelectionColor, Menu::mnuUOptions, "mnuOptChangeSelectionColor", "Change Selection Color", "", nullptr, true, false},
+    {Menu::mnuOptChangeSelectionColor, Menu::mnuUOptions, "mnuOptChangeSelectionColor", "Change Selection Color", "", onEditor<mnuOptChangeSelectionColor_Click>, true, false},
     {Menu::mnuOptionPrintThin, Menu::mnuUOptions, "mnuOptionPrintThin", "Enable Thin Printing", "", nullptr, false, true},
     {Menu::mnuOptionThickDevices, Menu::mnuUOptions, "mnuOptionThickDevices", "Enable Thick Symbols", "", onEditor<mnuOptionThickDevices_Click>, false, true},
     {Menu::mnuOptBlackBackground, Menu::mnuUOptions, "mnuOptBlackBackground", "Enable Black Background", "", onEditor<mnuOptBlackBackground_Click>, false, true},

@@ -1,13 +1,13 @@
 #include "canvas/Colors.h"
 
+#include "canvas/Labels.h"
 #include "canvas/Redraw.h"
+#include "canvas/Undo.h"
 #include "platform/Numbers.h"
 
 namespace ladrix {
 
 namespace {
-
-constexpr Single DegreesPerRadian = 57.29577951f;
 
 constexpr Long PanelColors[] = {
     // clang-format off
@@ -23,15 +23,44 @@ constexpr Long PanelColors[] = {
     // clang-format on
 };
 
+void recolorSelection(Editor& editor, Long color) {
+    finishLabelEdit(editor);
+    DeviceTable& devices = editor.drawing.devices;
+    for (std::size_t i = 0; i < devices.DeviceSelected.size(); ++i)
+        if (devices.DeviceSelected[i] != 0) devices.DeviceColor[i] = color;
+    LabelTable& labels = editor.drawing.labels;
+    for (std::size_t i = 0; editor.LabelColorOn && i < labels.LabelSelected.size(); ++i)
+        if (labels.LabelSelected[i] != 0) labels.LabelColor[i] = color;
+    recordStep(editor);
+}
+
 void chooseColor(Editor& editor, Long color) {
-    if (editor.SelectionColorPending) {
-        editor.SelectionColorPending = false;
-        editor.SelectionColor = color;
-    }
+    if (std::exchange(editor.SelectionColorPending, false)) editor.SelectionColor = color;
     editor.form.picSelectedColor.BackColor = color;
     editor.CurrentColor = color;
     editor.form.picColors.Visible = false;
     editor.form.FocusRequest = Focus::Canvas;
+    if (editor.SelectedCount == 0) return;
+    recolorSelection(editor, color);
+    ResetEditor(editor);
+}
+
+// The width tag of a selected device.
+std::string_view widthTagFor(const Editor& editor, std::string_view name) {
+    const bool thick =
+        editor.ThickLineTool && (name == "InsertSavedLine" || editor.symbols.ThickDevices);
+    return thick ? "DrawWidth=2" : "";
+}
+
+bool retagSelection(Editor& editor) {
+    DeviceTable& devices = editor.drawing.devices;
+    bool any = false;
+    for (std::size_t i = 0; i < devices.DeviceSelected.size(); ++i) {
+        if (devices.DeviceSelected[i] == 0) continue;
+        devices.DeviceWidthTag[i] = widthTagFor(editor, devices.DeviceName[i]);
+        any = true;
+    }
+    return any;
 }
 
 void applyScaleText(Editor& editor) {
@@ -42,15 +71,6 @@ void applyScaleText(Editor& editor) {
             singleText(editor.SymbolScaleX, editor.platform.locale.decimalMark);
 }
 
-void storeRadius(Editor& editor, Single radius) {
-    const std::string& tool = editor.ToolName;
-    if (tool == "Connection Point" || tool == "Small Circle" || tool == "Large Circle")
-        editor.CircleRadius = radius;
-    if (tool == "Small Circle") editor.LastSmallCircle = radius;
-    if (tool == "Large Circle") editor.LastLargeCircle = radius;
-    if (tool.starts_with("Arc ")) editor.ArcRadius = editor.LastArc = radius;
-}
-
 }  // namespace
 
 void LoadMyColors(Editor& editor) {
@@ -58,7 +78,7 @@ void LoadMyColors(Editor& editor) {
 }
 
 void cmdColors_Click(Editor& editor) {
-    editor.form.picColors.Visible = !editor.form.picColors.Visible;
+    editor.form.picColors.Visible = true;
 }
 
 void lblColor_Click(Editor& editor, std::size_t index) {
@@ -69,10 +89,19 @@ void picSelectedColor_Click(Editor& editor) {
     chooseColor(editor, editor.form.picSelectedColor.BackColor);
 }
 
+void mnuOptChangeSelectionColor_Click(Editor& editor) {
+    editor.SelectionColorPending = true;
+    editor.form.lblMessage.Caption = "Choose the color in which selected items are shown.";
+    cmdColors_Click(editor);
+}
+
 void cmdDrawWidth_Click(Editor& editor, Short index) {
     editor.ThickLineTool = index == 0;
     editor.form.cmdDrawWidth[0].BackColor = editor.ThickLineTool ? Cyan : ButtonFace;
     editor.form.cmdDrawWidth[1].BackColor = editor.ThickLineTool ? ButtonFace : Cyan;
+    if (!retagSelection(editor)) return;
+    paintDrawing(editor);
+    recordStep(editor);
 }
 
 void FillScaleList(Editor& editor) {
@@ -100,32 +129,6 @@ void cmbScale_Click(Editor& editor) {
 
 void cmdScaleOK_Click(Editor& editor) {
     applyScaleText(editor);
-}
-
-void txtRadius_Change(Editor& editor) {
-    const std::string& text = editor.form.txtRadius.Text;
-    if (text.empty() || editor.CurrentTool == -1) return;
-    try {
-        storeRadius(editor, toSingle(text));
-    } catch (const Failure& failure) {
-        if (editor.platform.ReportError)
-            editor.platform.ReportError("Radius information invalid.", failure);
-    }
-}
-
-void txtCircleStart_Change(Editor& editor) {
-    if (const auto degrees = typedNumber(editor.form.txtCircleStart.Text))
-        editor.ArcStartAngle = *degrees / DegreesPerRadian;
-}
-
-void txtCircleEnd_Change(Editor& editor) {
-    if (const auto degrees = typedNumber(editor.form.txtCircleEnd.Text))
-        editor.ArcEndAngle = *degrees / DegreesPerRadian;
-}
-
-bool numberKeyAllowed(Short keyAscii) {
-    return (keyAscii >= '0' && keyAscii <= '9') || keyAscii == '.' || keyAscii == ',' ||
-           keyAscii == 8;
 }
 
 void mnuOptionThickDevices_Click(Editor& editor) {

@@ -4,6 +4,7 @@
 
 #include "canvas/Redraw.h"
 #include "canvas/Selection.h"
+#include "canvas/Undo.h"
 
 namespace ladrix {
 
@@ -102,16 +103,6 @@ void pastePictures(Editor& editor, Way way) {
     drawing.PictureCount = static_cast<Short>(drawing.PictureTable.size());
 }
 
-// The step is in the tables: the canvas, the texts and the history follow.
-void finishStep(Editor& editor) {
-    Drawing& drawing = editor.drawing;
-    RedrawDrawing(editor);
-    RebuildLabelString(drawing, editor.platform);
-    RebuildPictureString(drawing, editor.platform);
-    drawing.DrawingChanged = true;
-    editor.form.menu[Menu::mnuEditUndo].Enabled = true;
-}
-
 }  // namespace
 
 void mnuEditCopy_Click(Editor& editor) {
@@ -166,9 +157,9 @@ void PasteBuffer(Editor& editor) {
     pasteDevices(drawing, editor.copied.devices, way);
     pasteLabels(drawing, editor.copied.labels, way);
     if (!editor.copied.pictures.empty()) pastePictures(editor, way);
-    finishStep(editor);
+    paintDrawing(editor);
     editor.form.lblMessage.Caption = "Select another insertion point or press ESC to end.";
-    if (drawing.TakeUndoSnapshot) drawing.TakeUndoSnapshot();
+    recordStep(editor);
 }
 
 void MoveSelection(Editor& editor) {
@@ -178,9 +169,9 @@ void MoveSelection(Editor& editor) {
     editor.form.lblMessage.Caption = std::to_string(editor.SelectedCount) + " items moved.";
     ClearSelection(editor);
     endCopy(editor);
-    finishStep(editor);
+    paintDrawing(editor);
     RecountSelection(editor);
-    if (editor.drawing.TakeUndoSnapshot) editor.drawing.TakeUndoSnapshot();
+    recordStep(editor);
 }
 
 void ClearCopyState(Editor& editor) {

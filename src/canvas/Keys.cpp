@@ -8,6 +8,7 @@
 #include "canvas/Selection.h"
 #include "canvas/Snap.h"
 #include "canvas/Tools.h"
+#include "canvas/Undo.h"
 #include "canvas/View.h"
 #include "canvas/Zoom.h"
 
@@ -90,6 +91,12 @@ void pressControlKey(Editor& editor, Short keyCode) {
             break;
         case key::Right:
             snapHigherByKey(editor);
+            break;
+        case key::Home:
+            MovePageUp(editor);
+            break;
+        case key::End:
+            MovePageDown(editor);
             break;
         case key::Plus:
             mnuEditZoomIn_Click(editor);
@@ -182,12 +189,8 @@ void picLX_KeyDown(Editor& editor, Short keyCode, Short shift) {
     if (shift == ShiftKey) moved = moveSelectedItems(editor.drawing, step->x, step->y);
     if (!moved) return;
     editor.SnapshotPending = true;
-    editor.drawing.DrawingChanged = true;
-    RedrawDrawing(editor);
-    RebuildLabelString(editor.drawing, editor.platform);
-    RebuildPictureString(editor.drawing, editor.platform);
-    if (editor.drawing.TakeUndoSnapshot) editor.drawing.TakeUndoSnapshot();
-    editor.form.menu[Menu::mnuEditUndo].Enabled = true;
+    paintDrawing(editor);
+    recordStep(editor);
 }
 
 }  // namespace ladrix

@@ -7,8 +7,8 @@ namespace ladrix {
 
 // The classic codes of the keys that the handlers know.
 namespace key {
-constexpr Short Backspace = 8, Enter = 13, Escape = 27, PageUp = 33, PageDown = 34, Left = 37,
-                Up = 38, Right = 39, Down = 40, Plus = 187, Minus = 189;
+constexpr Short Backspace = 8, Enter = 13, Escape = 27, PageUp = 33, PageDown = 34, End = 35,
+                Home = 36, Left = 37, Up = 38, Right = 39, Down = 40, Plus = 187, Minus = 189;
 }
 enum : Short { NoShift = 0, ShiftKey = 1, ControlKey = 2, ControlShift = 3, ControlAlt = 6 };
 

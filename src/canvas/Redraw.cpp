@@ -181,7 +181,7 @@ void ResetEditor(Editor& editor) {
         editor.SnapshotPending = false;
         if (editor.drawing.TakeUndoSnapshot) editor.drawing.TakeUndoSnapshot();
     }
-    editor.TextAlignPending = false;
+    editor.TextAlignPending = editor.SelectionColorPending = false;
     editor.form.picMoreSym.Visible = false;
     editor.form.cmbScale.Enabled = editor.form.cmdScaleOK.Enabled = true;
     finishLabelEdit(editor);

@@ -7,6 +7,7 @@
 #include "canvas/Pointer.h"
 #include "canvas/Redraw.h"
 #include "canvas/Tools.h"
+#include "canvas/Undo.h"
 #include "platform/Numbers.h"
 
 namespace ladrix {
@@ -303,8 +304,7 @@ void img_MouseUp(Editor& editor) {
     const bool moved = editor.draggedPicture.moved;
     editor.draggedPicture = {};
     if (!moved) return;
-    RebuildPictureString(editor.drawing, editor.platform);
-    editor.SnapshotPending = true;
+    recordStep(editor);
     ResetEditor(editor);
 }
 
@@ -332,14 +332,11 @@ void DeleteSelection(Editor& editor) {
     drawing.devices.eraseSelected();
     drawing.labels.eraseSelected();
     erasePictures(editor);
-    RebuildLabelString(drawing, editor.platform);
-    RebuildPictureString(drawing, editor.platform);
     showPanel(editor, Panel::None);
     RecountSelection(editor);
-    RedrawDrawing(editor);
+    paintDrawing(editor);
     editor.form.lblMessage.Caption = "Selected Items Deleted";
-    drawing.DrawingChanged = true;
-    if (drawing.TakeUndoSnapshot) drawing.TakeUndoSnapshot();
+    recordStep(editor);
 }
 
 void RecountSelection(Editor& editor) {

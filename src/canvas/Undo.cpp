@@ -1,5 +1,6 @@
 #include "canvas/Undo.h"
 
+#include <algorithm>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -80,11 +81,35 @@ void parsePictures(Editor& editor, std::string_view text) {
     loadPictures(editor);
 }
 
+// A field of a record; "" where it has fewer.
+std::string_view fieldOf(std::string_view record, int index) {
+    for (; index > 0; --index) {
+        const auto separator = record.find(FieldSeparator);
+        if (separator == std::string_view::npos) return {};
+        record.remove_prefix(separator + 1);
+    }
+    return record.substr(0, record.find(FieldSeparator));
+}
+
+// A file's reader passes over the width tag of circles and semicircles; a step back and forth must
+// not lose it.
+void restoreWidthTags(Drawing& drawing) {
+    DeviceTable& devices = drawing.devices;
+    const auto rows = std::min(devices.DeviceName.size(), drawing.DeviceRecords.start.size());
+    for (std::size_t i = 0; i < rows; ++i) {
+        const RecordLayout layout = recordLayout(devices.DeviceName[i]);
+        if (layout != RecordLayout::Circle && layout != RecordLayout::SemiCircle) continue;
+        const int tagField = layout == RecordLayout::Circle ? 5 : 6;
+        devices.DeviceWidthTag[i] = fieldOf(drawing.DeviceRecord(static_cast<Short>(i)), tagField);
+    }
+}
+
 void parseSections(Editor& editor, const Sections& sections) {
     Drawing& drawing = editor.drawing;
     drawing.DeviceString = sections.devices;
     drawing.LabelString = sections.labels;
     ParseDeviceString(drawing, editor.platform);
+    restoreWidthTags(drawing);
     ParseLabelString(drawing, editor.platform);
     parsePictures(editor, sections.pictures);
 }
@@ -109,6 +134,16 @@ void TakeUndoSnapshot(Editor& editor) {
     if (editor.UndoTop >= FirstShift) editor.history.shiftDown();
     rememberPictures(editor);
     editor.history.set(editor.UndoTop, snapshotText(editor.drawing));
+}
+
+void recordStep(Editor& editor) {
+    Drawing& drawing = editor.drawing;
+    RebuildDeviceString(drawing, editor.platform);
+    RebuildLabelString(drawing, editor.platform);
+    RebuildPictureString(drawing, editor.platform);
+    drawing.DrawingChanged = true;
+    editor.form.menu[Menu::mnuEditUndo].Enabled = true;
+    if (drawing.TakeUndoSnapshot) drawing.TakeUndoSnapshot();
 }
 
 void RestoreSnapshot(Editor& editor) {

@@ -16,6 +16,10 @@ namespace ladrix {
 // Called by everything that changes the drawing, when its texts hold the change.
 void TakeUndoSnapshot(Editor& editor);
 
+// The end of a command that has changed the tables: their texts follow, the drawing counts as
+// changed and the history gets its step. Painting is the caller's.
+void recordStep(Editor& editor);
+
 // Shows the state of UndoPosition, with nothing selected. A position beyond the ends is told and
 // held.
 void RestoreSnapshot(Editor& editor);

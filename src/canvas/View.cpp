@@ -11,7 +11,8 @@ namespace ladrix {
 namespace {
 
 constexpr Single FinestGrid = 0.02f;  // inches on the screen; a finer grid would be a grey page
-constexpr int LinesPerBright = 4;     // of the grid on a black page
+constexpr int LinesPerBright = 4;     // of the grid
+constexpr Single OwnPitch = 0.25f;    // inches, while the grid does not follow the snap
 
 void arrangeBar(ScrollBar& bar, Single page, Single visible, Single& target) {
     const bool needed = page > visible;
@@ -88,8 +89,9 @@ LineRange linesInView(Single pitch, Single page, Single viewFrom, Single viewTo)
 }
 
 Long gridColor(const Editor& editor, int line) {
-    if (!editor.BlackBackground) return RGB(239, 239, 239);
-    return line % LinesPerBright == 0 ? RGB(64, 64, 64) : RGB(32, 32, 32);
+    const bool bright = line % LinesPerBright == 0;
+    if (editor.BlackBackground) return bright ? RGB(64, 64, 64) : RGB(32, 32, 32);
+    return bright && !editor.GridFollowsSnap ? editor.GridColor : RGB(239, 239, 239);
 }
 
 }  // namespace
@@ -175,7 +177,7 @@ void ScrollTo(Editor& editor, Single left, Single top) {
 void DrawGrid(Editor& editor) {
     Canvas& canvas = *editor.platform.picLX;
     canvas.Cls();
-    const Single pitch = editor.GridFollowsSnap ? editor.SnapStep * 2 : 0.25f;
+    const Single pitch = editor.GridFollowsSnap ? editor.SnapStep * 2 : OwnPitch;
     if (!(pitch * editor.ZoomFactor >= FinestGrid)) return;
     const Extent view = canvas.visible();
     const Short width = canvas.DrawWidth;

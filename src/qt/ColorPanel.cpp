@@ -15,6 +15,7 @@ constexpr int Cell = 24;
 constexpr int Gap = theme::Unit;
 constexpr int Inset = 2 * theme::Unit;
 constexpr int Pitch = Cell + Gap;
+constexpr int Top = 415 / 15;  // from the head of the tool strip, as the form has it
 
 void paintSwatch(QPainter& painter, const QRect& rect, const QColor& fill, const QColor& edge) {
     painter.setRenderHint(QPainter::Antialiasing);
@@ -60,7 +61,7 @@ void ColorPanel::refresh() {
     const int rows = (cellCount() + Columns - 1) / Columns;
     setAttribute(Qt::WA_NoMouseReplay, false);
     setFixedSize(2 * Inset + Columns * Pitch - Gap, 2 * Inset + rows * Pitch - Gap);
-    move(anchor_->mapToGlobal(QPoint(0, anchor_->height() + Gap)));
+    move(anchor_->parentWidget()->mapToGlobal(QPoint(anchor_->x(), Top)));
     hovered_ = -1;
     show();
 }
@@ -105,14 +106,43 @@ void ColorPanel::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void ColorPanel::mouseReleaseEvent(QMouseEvent* event) {
-    const int index = cellAt(event->position().toPoint());
-    if (index < 0) return;
-    lblColor_Click(program_.editor, static_cast<std::size_t>(index));
-    emit handled();
+    choose(cellAt(event->position().toPoint()));
 }
 
 void ColorPanel::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Escape) emit escapePressed();
+    switch (event->key()) {
+        case Qt::Key_Escape:
+            emit escapePressed();
+            return;
+        case Qt::Key_Left:
+            return moveMark(-1);
+        case Qt::Key_Right:
+            return moveMark(1);
+        case Qt::Key_Up:
+            return moveMark(-Columns);
+        case Qt::Key_Down:
+            return moveMark(Columns);
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+        case Qt::Key_Space:
+            return choose(hovered_);
+        default:
+            return;
+    }
+}
+
+// By key; the first press marks the first cell.
+void ColorPanel::moveMark(int step) {
+    const int target = hovered_ < 0 ? 0 : hovered_ + step;
+    if (target < 0 || target >= cellCount()) return;
+    hovered_ = target;
+    update();
+}
+
+void ColorPanel::choose(int index) {
+    if (index < 0) return;
+    lblColor_Click(program_.editor, static_cast<std::size_t>(index));
+    emit handled();
 }
 
 // Closed by the toolkit: the state follows.

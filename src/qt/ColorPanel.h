@@ -20,7 +20,7 @@ class ColorSwatch final : public QAbstractButton {
     void paintEvent(QPaintEvent* event) override;
 };
 
-// picColors: drops down below its button; a press elsewhere closes it.
+// picColors: drops down from its button; a press elsewhere closes it.
 class ColorPanel final : public QWidget {
     Q_OBJECT
 
@@ -42,6 +42,8 @@ class ColorPanel final : public QWidget {
     void hideEvent(QHideEvent* event) override;
 
   private:
+    void moveMark(int step);
+    void choose(int index);
     QRect cellRect(int index) const;
     int cellAt(QPoint point) const;  // -1: none
     int cellCount() const { return static_cast<int>(program_.editor.form.lblColor.size()); }

@@ -1,6 +1,6 @@
 #include "qt/InputFilters.h"
 
-#include "canvas/Colors.h"
+#include "canvas/RadiusFields.h"
 #include "platform/Encoding.h"
 
 namespace ladrix {

@@ -28,9 +28,9 @@ Short classicKeyCode(const QKeyEvent& event) {
         case Qt::Key_PageDown:
             return key::PageDown;
         case Qt::Key_End:
-            return 35;
+            return key::End;
         case Qt::Key_Home:
-            return 36;
+            return key::Home;
         case Qt::Key_Left:
             return key::Left;
         case Qt::Key_Up:

@@ -4,8 +4,10 @@
 #include <QPainter>
 
 #include "canvas/Colors.h"
+#include "canvas/Keys.h"
 #include "canvas/Labels.h"
 #include "canvas/Pointer.h"
+#include "canvas/RadiusFields.h"
 #include "canvas/Redraw.h"
 #include "canvas/Snap.h"
 #include "canvas/Zoom.h"
@@ -110,7 +112,7 @@ void ToolStrip::makeColors(QBoxLayout& row) {
     connect(swatch, &ColorSwatch::clicked, this, [this] { run(&picSelectedColor_Click); });
     QToolButton* drop = makeButton("cmdColors", form.cmdColors, &cmdColors_Click, Look::Icon,
                                    "colours", tr("Choose a colour"));
-    picColors_ = new ColorPanel(program_, swatch);
+    picColors_ = new ColorPanel(program_, drop);
     connect(picColors_, &ColorPanel::handled, this, &ToolStrip::handled);
     connect(picColors_, &ColorPanel::escapePressed, this, &ToolStrip::escapePressed);
     row.addWidget(swatch);
@@ -234,10 +236,10 @@ void ToolStrip::makeRadiusPanel(QBoxLayout& row) {
                                        &txtCircleStart_Change, tr("Start angle in degrees"));
     txtCircleEnd_ = makeNumberField("txtCircleEnd", form.txtCircleEnd, &txtCircleEnd_Change,
                                     tr("End angle in degrees"));
-    connect(start, &QLineEdit::returnPressed, txtCircleEnd_, [this] {
-        txtCircleEnd_->setFocus();
-        txtCircleEnd_->selectAll();
-    });
+    connect(start, &QLineEdit::returnPressed, this,
+            [this] { run([](Editor& editor) { txtCircleStart_KeyDown(editor, key::Enter); }); });
+    for (const QLineEdit* field : {radius, txtCircleEnd_})
+        connect(field, &QLineEdit::returnPressed, this, [this] { run(&cmdCircle_Click); });
     auto* angles = new QWidget(picRadius);
     QBoxLayout* ofAngles = panelLayout(*angles);
     ofAngles->addWidget(makeLabel("lblCircle1", form.lblCircle[1], tr("Start")));
@@ -248,8 +250,8 @@ void ToolStrip::makeRadiusPanel(QBoxLayout& row) {
     inside->addWidget(makeLabel("lblCircle0", form.lblCircle[0], tr("Radius")));
     inside->addWidget(radius);
     inside->addWidget(angles);
-    inside->addWidget(makeButton("cmdCircle", form.cmdCircle, nullptr, Look::Text, tr("Apply"),
-                                 tr("Apply to the selected circles and arcs")));
+    inside->addWidget(makeButton("cmdCircle", form.cmdCircle, &cmdCircle_Click, Look::Text,
+                                 tr("Apply"), tr("Apply to the selected circles and arcs")));
     bindings_.addPanel(*picRadius, form.picRadius);
     bindings_.watch(form.RadiusPanelWide, [angles](bool wide) { angles->setVisible(wide); });
     row.addWidget(picRadius);

@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "Bench.h"
-#include "canvas/Colors.h"
+#include "canvas/RadiusFields.h"
 
 namespace ladrix::test {
 namespace {

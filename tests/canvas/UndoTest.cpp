@@ -8,9 +8,11 @@
 #include <random>
 
 #include "Bench.h"
+#include "canvas/Colors.h"
 #include "canvas/CopyMove.h"
 #include "canvas/DrawingCommands.h"
 #include "canvas/Labels.h"
+#include "canvas/RadiusFields.h"
 #include "canvas/Redraw.h"
 #include "canvas/Selection.h"
 #include "document/DrawingFile.h"
@@ -183,10 +185,20 @@ struct RandomCommands {
         bench.play("move " + point());
         if (bench.editor.form.pointer.picGrip.Visible) picGrip_Click(bench.editor);
     }
+    void restyle() {
+        pick();
+        Editor& editor = bench.editor;
+        editor.LabelColorOn = below(2) == 0;
+        editor.form.txtRadius.Text = "0." + std::to_string(1 + below(9));
+        if (below(2) == 0) cmdCircle_Click(editor);
+        if (below(2) == 0) cmdDrawWidth_Click(editor, static_cast<Short>(below(2)));
+        if (below(2) == 0) lblColor_Click(editor, below(40));
+        bench.play("key 27 0");
+    }
     void run() {
         static constexpr const char* Tools[] = {
             "Line", "Square", "Small Circle", "Arc Left", "Lamp", "Relay/Timer Coil", "Text"};
-        switch (below(6)) {
+        switch (below(7)) {
             case 0:
             case 1:
                 bench.editor.TextBuffer = "text " + std::to_string(below(9));
@@ -209,6 +221,9 @@ struct RandomCommands {
                 mnuEditCopy_Click(bench.editor);
                 bench.play("click " + point() + "; click " + point() + "; key 27 0");
                 break;
+            case 5:
+                restyle();
+                break;
             default:
                 pick();
                 if (bench.editor.SelectedCount > 0) DeleteSelection(bench.editor);
@@ -224,6 +239,7 @@ TEST(Undo, AndRedoGiveBackTheSameBytesAfterEveryCommand) {
         bench.drawing.AttachLabels = seed % 2 == 0;
         bench.addPicture({1, 1, 0.5f, 0.5f, "a.png", "/far/a.png", false});
         ClearHistory(bench.editor);
+        LoadMyColors(bench.editor);
         RandomCommands commands{bench, std::mt19937(seed)};
         const std::string start = bench.text();
         std::string beforeUndo;
