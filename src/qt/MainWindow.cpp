@@ -1,10 +1,13 @@
 #include "qt/MainWindow.h"
 
 #include <QCloseEvent>
+#include <QComboBox>
 #include <QCursor>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QMenuBar>
 #include <QPainter>
+#include <algorithm>
 
 #include "canvas/DrawingCommands.h"
 #include "canvas/Keys.h"
@@ -18,6 +21,32 @@ namespace {
 
 constexpr int FootHeight = 28;
 constexpr QSize SmallestWindow{800, 560};
+
+bool isField(const QObject* widget) {
+    return qobject_cast<const QLineEdit*>(widget) || qobject_cast<const QComboBox*>(widget);
+}
+
+// What moves about in a text or changes it.
+bool isEditingKey(const QKeyEvent& press) {
+    switch (press.key()) {
+        case Qt::Key_Left:
+        case Qt::Key_Right:
+        case Qt::Key_Up:
+        case Qt::Key_Down:
+        case Qt::Key_Home:
+        case Qt::Key_End:
+        case Qt::Key_Delete:
+        case Qt::Key_Backspace:
+            return true;
+        default:
+            break;
+    }
+    if (!press.modifiers().testFlag(Qt::ControlModifier) ||
+        press.modifiers().testFlag(Qt::AltModifier))
+        return false;
+    constexpr Qt::Key Keys[] = {Qt::Key_A, Qt::Key_C, Qt::Key_V, Qt::Key_X, Qt::Key_Y, Qt::Key_Z};
+    return std::find(std::begin(Keys), std::end(Keys), press.key()) != std::end(Keys);
+}
 
 }  // namespace
 
@@ -211,7 +240,8 @@ void MainWindow::giveFocus() {
             if (picTop_->txtEdit().isVisible()) picTop_->txtEdit().setFocus();
             return;
         case Focus::CircleEnd:
-            if (picTop_->txtCircleEnd().isVisible()) picTop_->txtCircleEnd().setFocus();
+            picTop_->txtCircleEnd().setFocus();
+            picTop_->txtCircleEnd().selectAll();
             return;
         case Focus::None:
             return;
@@ -228,11 +258,19 @@ void MainWindow::pressFormKey(const QKeyEvent& event) {
     Form_KeyDown(program_.editor, classicKeyCode(event), classicShift(event.modifiers()));
 }
 
-// The form sees keys before the widget that has the focus.
+// The form sees keys before the widget that has the focus. While a field has it the keys that edit
+// its text are the field's own: neither the form nor a command takes them.
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() != QEvent::KeyPress) return QMainWindow::eventFilter(watched, event);
+    const bool asked = event->type() == QEvent::ShortcutOverride;
+    if (!asked && event->type() != QEvent::KeyPress)
+        return QMainWindow::eventFilter(watched, event);
     const auto& press = *static_cast<QKeyEvent*>(event);
-    if (press.key() == Qt::Key_Tab || press.key() == Qt::Key_Backtab) return false;
+    const bool ofField = isField(watched) && isEditingKey(press);
+    if (asked) {
+        if (ofField) event->accept();
+        return ofField;
+    }
+    if (ofField || press.key() == Qt::Key_Tab || press.key() == Qt::Key_Backtab) return false;
     pressFormKey(press);
     const bool onCanvas = watched == &picFrame_->canvas();
     if (onCanvas)
