@@ -8,6 +8,7 @@
 #include "canvas/Colors.h"
 #include "canvas/CopyMove.h"
 #include "canvas/DrawingCommands.h"
+#include "canvas/LabelCommands.h"
 #include "canvas/PaletteButtons.h"
 #include "canvas/Redraw.h"
 #include "canvas/Selection.h"
@@ -24,6 +25,10 @@ namespace {
 template <void (*Handler)(Editor&)>
 void onEditor(Program& program) {
     Handler(program.editor);
+}
+
+void showTextProperties(Program& program) {
+    mnuEditTextProps_Click(program.frmTextProps, program.editor);
 }
 
 // clang-format off
@@ -82,11 +87,11 @@ constexpr Command Commands[] = {
     {Menu::mnuEdit, Menu::mnuEdit, "mnuEdit", "&Edit", "", nullptr, false, false},
     {Menu::mnuEditFileDescription, Menu::mnuEdit, "mnuEditFileDescription", "&Edit/Add File Description", "", onEditor<mnuEditFileDescription_Click>, false, false},
     {Menu::mnuEditText, Menu::mnuEdit, "mnuEditText", "Text Attributes", "", nullptr, true, false},
-    {Menu::mnuEditTextCaption, Menu::mnuEditText, "mnuEditTextCaption", "&Caption Only", "", nullptr, false, false},
-    {Menu::mnuEditTextProps, Menu::mnuEditText, "mnuEditTextProps", "Text &Properties", "", nullptr, false, false},
-    {Menu::mnuEditTextAlignLeft, Menu::mnuEditText, "mnuEditTextAlignLeft", "Align Selected Labels Left", "", nullptr, false, false},
-    {Menu::mnuEditTextAlignRight, Menu::mnuEditText, "mnuEditTextAlignRight", "Align Selected Labels Right", "", nullptr, false, false},
-    {Menu::mnuEditTextAlignTop, Menu::mnuEditText, "mnuEditTextAlignTop", "Align Selected Lables Top", "", nullptr, false, false},
+    {Menu::mnuEditTextCaption, Menu::mnuEditText, "mnuEditTextCaption", "&Caption Only", "", onEditor<mnuEditTextCaption_Click>, false, false},
+    {Menu::mnuEditTextProps, Menu::mnuEditText, "mnuEditTextProps", "Text &Properties", "", showTextProperties, false, false},
+    {Menu::mnuEditTextAlignLeft, Menu::mnuEditText, "mnuEditTextAlignLeft", "Align Selected Labels Left", "", onEditor<mnuEditTextAlignLeft_Click>, false, false},
+    {Menu::mnuEditTextAlignRight, Menu::mnuEditText, "mnuEditTextAlignRight", "Align Selected Labels Right", "", onEditor<mnuEditTextAlignRight_Click>, false, false},
+    {Menu::mnuEditTextAlignTop, Menu::mnuEditText, "mnuEditTextAlignTop", "Align Selected Lables Top", "", onEditor<mnuEditTextAlignTop_Click>, false, false},
     {Menu::mnuEditDrawing, Menu::mnuEdit, "mnuEditDrawing", "Drawing Attributes", "", nullptr, true, false},
     {Menu::mnuOptionReset, Menu::mnuEditDrawing, "mnuOptionReset", "Reset Drawing (ESC Key)", "", onEditor<mnuOptionReset_Click>, false, false},
     {Menu::mnuEditSelectAll, Menu::mnuEditDrawing, "mnuEditSelectAll", "Select All", "Ctrl+A", onEditor<mnuEditSelectAll_Click>, true, false},
@@ -106,11 +111,11 @@ constexpr Command Commands[] = {
     {Menu::mnuOptionSnap, Menu::mnuUOptions, "mnuOptionSnap", "Edit Snap", "", onEditor<mnuOptionSnap_Click>, true, false},
     {Menu::mnuOptionGrid, Menu::mnuUOptions, "mnuOptionGrid", "Show Grid", "", onEditor<mnuOptionGrid_Click>, false, true},
     {Menu::mnuOptionHalfScale, Menu::mnuUOptions, "mnuOptionHalfScale", "Half Scale", "", nullptr, false, true},
-    {Menu::mnuOptionSmallerFont, Menu::mnuUOptions, "mnuOptionSmallerFont", "Apply Small Font", "", nullptr, true, false},
-    {Menu::mnuOptionLabelColor, Menu::mnuUOptions, "mnuOptionLabelColor", "Enable Color Change for Labels", "", nullptr, false, true},
+    {Menu::mnuOptionSmallerFont, Menu::mnuUOptions, "mnuOptionSmallerFont", "Apply Small Font", "", onEditor<mnuOptionSmallerFont_Click>, true, false},
+    {Menu::mnuOptionLabelColor, Menu::mnuUOptions, "mnuOptionLabelColor", "Enable Color Change for Labels", "", onEditor<mnuOptionLabelColor_Click>, false, true},
     {Menu::mnuOptionAttachLabels, Menu::mnuUOptions, "mnuOptionAttachLabels", "Attach Labels for Popular Devices", "", flipAttachLabels, false, true},
-    {Menu::mnuOptAutoIncrement, Menu::mnuUOptions, "mnuOptAutoIncrement", "Auto-Increment Label Caption", "", nullptr, false, true},
-    {Menu::mnuOptionAddSpace, Menu::mnuUOptions, "mnuOptionAddSpace", "Separate Symbol Name from Number", "", nullptr, false, true},
+    {Menu::mnuOptAutoIncrement, Menu::mnuUOptions, "mnuOptAutoIncrement", "Auto-Increment Label Caption", "", onEditor<mnuOptAutoIncrement_Click>, false, true},
+    {Menu::mnuOptionAddSpace, Menu::mnuUOptions, "mnuOptionAddSpace", "Separate Symbol Name from Number", "", onEditor<mnuOptionAddSpace_Click>, false, true},
     {Menu::mnuOptChangeSelectionColor, Menu::mnuUOptions, "mnuOptChangeSelectionColor", "Change Selection Color", "", onEditor<mnuOptChangeSelectionColor_Click>, true, false},
     {Menu::mnuOptionPrintThin, Menu::mnuUOptions, "mnuOptionPrintThin", "Enable Thin Printing", "", nullptr, false, true},
     {Menu::mnuOptionThickDevices, Menu::mnuUOptions, "mnuOptionThickDevices", "Enable Thick Symbols", "", onEditor<mnuOptionThickDevices_Click>, false, true},

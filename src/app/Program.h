@@ -7,6 +7,7 @@
 
 #include "browser/FileBrowser.h"
 #include "canvas/Editor.h"
+#include "canvas/TextProperties.h"
 #include "platform/Platform.h"
 
 namespace ladrix {
@@ -41,6 +42,7 @@ struct Program {
     Editor editor;
     FileBrowser frmFile;
     LogViewer frmLog;
+    TextProperties frmTextProps;
     std::vector<std::string> UserPrefs;  // the lines of the preferences file
     std::string PrefsFolder;             // where they were read
     std::string LastErrorText;  // description of the last report

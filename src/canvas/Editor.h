@@ -39,6 +39,16 @@ struct PictureDrag {
     bool moved = false;
 };
 
+// The selected labels that follow the pointer; their rows keep their places until the release.
+struct LabelDrag {
+    Short index = -1;               // the label that was pressed; -1: none
+    Single pressX = 0, pressY = 0;  // inches of the page
+    bool moved = false;
+};
+
+// What the next press on the canvas aligns the selected labels by.
+enum class TextAlignment { None, Left, Right, Top };
+
 // Where a picture came from, and its image.
 struct KnownPicture {
     std::string FullPath;
@@ -96,6 +106,8 @@ struct Editor {
     CopyBuffer copied;
     bool CopyExplained = false;  // the message of the first copy has been shown
     bool ZoomInPending = false, ZoomOutPending = false, TextAlignPending = false;
+    TextAlignment textAlignment = TextAlignment::None;
+    Single TextAlignX = 0, TextAlignY = 0;
     bool SavingUserSymbol = false, SymbolPointPending = false, SymbolPointFound = false;
     bool SimulationMode = false;
     bool SnapshotPending = false;
@@ -110,6 +122,7 @@ struct Editor {
     Short SelectedCount = 0, SelectedDeviceCount = 0, SelectedLabelCount = 0;
     Short SelectedPicture = -1;  // the last one selected
     PictureDrag draggedPicture;
+    LabelDrag draggedLabels;
 
     // The view.
     Single PageWidth = 8.5f, PageHeight = 11;           // inches
@@ -143,6 +156,10 @@ struct Editor {
     std::map<std::string, KnownPicture, std::less<>> HistoryPictures;  // by file name
     // Empties the undo history, with the present state as its first. Set once by the layer above.
     std::function<void()> ClearHistory;
+
+    // The insertion point of a user symbol was given by a press on this label, at this point of the
+    // page, inches. Set once by the layer above.
+    std::function<void(Short label, Single x, Single y)> SymbolPointOnLabel;
 
     // Set once by the layer above.
     std::string AppFilePath, BasePath, UserSymbolsPath, UserButtonsPath;

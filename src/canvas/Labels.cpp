@@ -2,6 +2,7 @@
 
 #include "canvas/Pointer.h"
 #include "canvas/Redraw.h"
+#include "canvas/Selection.h"
 #include "canvas/Tools.h"
 #include "platform/Numbers.h"
 
@@ -49,11 +50,6 @@ void showLabelAsEdited(Editor& editor, std::size_t i) {
     ++editor.form.LabelVersion;
 }
 
-FontSpec fontOfLabel(const LabelTable& labels, std::size_t i) {
-    return {labels.LabelFontName[i], labels.LabelFontSize[i], labels.LabelBold[i],
-            labels.LabelItalic[i]};
-}
-
 // The label keeps its centre while its text grows and shrinks; the table follows each key.
 void takeEditedText(Editor& editor) {
     const auto i = static_cast<std::size_t>(editor.LastSelectedLabel);
@@ -69,7 +65,23 @@ void takeEditedText(Editor& editor) {
     showLabelAsEdited(editor, i);
 }
 
+// Enter leaves nothing selected of the label that was edited.
+void unselectEdited(Editor& editor, Short index) {
+    const auto i = static_cast<std::size_t>(index);
+    if (index < 0 || index >= editor.drawing.labels.LabelCount) return;
+    if (editor.drawing.labels.LabelSelected[i] == 0) return;
+    editor.drawing.labels.LabelSelected[i] = 0;
+    editor.form.lbl.at(i).ForeColor = editor.drawing.labels.LabelColor[i];
+    ++editor.form.LabelVersion;
+    RecountSelection(editor);
+}
+
 }  // namespace
+
+FontSpec fontOfLabel(const LabelTable& labels, std::size_t i) {
+    return {labels.LabelFontName[i], labels.LabelFontSize[i], labels.LabelBold[i],
+            labels.LabelItalic[i]};
+}
 
 Short recordCentredLabel(Editor& editor, std::string_view text, Single x, Single y, Long color) {
     const FontSpec font = defaultFont(editor);
@@ -98,10 +110,16 @@ void BeginLabel(Editor& editor, std::string_view prefix, Single x, Single y) {
     const Short index = recordCentredLabel(editor, text, x, y, Black);
     if (index < 0) return;
     editor.drawing.LabelPending = true;
+    editLabelText(editor, index);
+}
+
+void editLabelText(Editor& editor, Short index) {
+    const auto i = static_cast<std::size_t>(index);
     editor.TextGhostShown = false;
+    editor.LabelEdited = false;
     editor.LastSelectedLabel = index;
-    showLabelAsEdited(editor, static_cast<std::size_t>(index));
-    openTextBox(editor, text);
+    showLabelAsEdited(editor, i);
+    openTextBox(editor, editor.drawing.labels.LabelText[i]);
 }
 
 void drawTextGhost(Editor& editor, Single x, Single y, Long color) {
@@ -168,9 +186,23 @@ void txtEdit_EnterPressed(Editor& editor) {
                            editor.CurrentColor);
         editor.TextGhostShown = false;
     }
+    const Short edited = editor.LastSelectedLabel;
     finishLabelEdit(editor);
     if (editor.drawing.DeviceRecorded) return ResetEditor(editor);
+    unselectEdited(editor, edited);
     editor.form.picText.Visible = false;
+}
+
+void txtEdit_Refused(Editor& editor) {
+    editor.form.lblMessage.Caption = RefusedTextNote;
+}
+
+void endTextEdit(Editor& editor) {
+    finishLabelEdit(editor);
+    if (!editor.form.picText.Visible || editor.CurrentTool == TextTool) return;
+    showPanel(editor, Panel::None);
+    editor.TextBoxFocused = false;
+    editor.form.FocusRequest = Focus::Canvas;
 }
 
 void finishLabelEdit(Editor& editor) {

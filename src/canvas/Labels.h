@@ -16,6 +16,12 @@ void BeginLabel(Editor& editor, std::string_view prefix, Single x, Single y);
 // Text". Returns its index, -1 if it could not be recorded.
 Short recordCentredLabel(Editor& editor, std::string_view text, Single x, Single y, Long color);
 
+// Opens the label in txtEdit with its text marked; it shows each key at once.
+void editLabelText(Editor& editor, Short index);
+
+// The font of row i as it stands on paper.
+FontSpec fontOfLabel(const LabelTable& labels, std::size_t i);
+
 // The Text tool: its ghost on the temporary layer, centred on the point, and its placement, after
 // which the text is advanced when auto increment is on.
 void drawTextGhost(Editor& editor, Single x, Single y, Long color);
@@ -31,8 +37,15 @@ void txtEdit_Change(Editor& editor);
 // Enter ends the edit or places the text being composed.
 void txtEdit_EnterPressed(Editor& editor);
 
+// The field has kept out characters that a record cannot hold.
+constexpr std::string_view RefusedTextNote =
+    "A drawing can hold Western European characters only; the others are left out.";
+void txtEdit_Refused(Editor& editor);
+
 // Ends the edit of a label: it keeps the text typed so far and gets back its own colour. One undo
 // step if the text has changed. Called by Enter, by the next placement and by reset.
 void finishLabelEdit(Editor& editor);
+// The same, and the text box closes unless the Text tool needs it.
+void endTextEdit(Editor& editor);
 
 }  // namespace ladrix

@@ -4,6 +4,7 @@
 
 #include "canvas/CopyMove.h"
 #include "canvas/DrawingCommands.h"
+#include "canvas/LabelCommands.h"
 #include "canvas/Labels.h"
 #include "canvas/LineTool.h"
 #include "canvas/Redraw.h"
@@ -249,6 +250,7 @@ void picLX_MouseMove(Editor& editor, Short button, Short, Single x, Single y) {
 }
 
 void picLX_MouseDown(Editor& editor, Short button, Short, Single x, Single y) {
+    if (editor.TextAlignPending) return alignSelectedLabels(editor, x, y);
     editor.form.pointer.picGrip.Visible = false;
     if (zoomPending(editor)) return zoomAtPress(editor, x, y);
     editor.MouseIsDown = true;

@@ -84,6 +84,7 @@ void endBand(Editor& editor) {
 
 void resetMenus(Editor& editor) {
     MenuStates& menu = editor.form.menu;
+    menu[Menu::mnuEditText].Enabled = false;
     menu[Menu::mnuEditTextAlignLeft].Enabled = false;
     menu[Menu::mnuEditTextAlignRight].Enabled = false;
     menu[Menu::mnuEditTextAlignTop].Enabled = false;
@@ -123,7 +124,10 @@ LabelControl labelControl(Editor& editor, std::size_t i) {
     FontSpec font{labels.LabelFontName[i], labels.LabelFontSize[i],
                   editor.symbols.ThickDevices || labels.LabelBold[i], labels.LabelItalic[i]};
     font.size = fittedFontSize(editor, font);
-    const Long color = labels.LabelSelected[i] != 0 ? editor.SelectionColor : labels.LabelColor[i];
+    const bool edited =
+        editor.form.picText.Visible && editor.LastSelectedLabel == static_cast<Short>(i);
+    const Long color =
+        edited || labels.LabelSelected[i] != 0 ? editor.SelectionColor : labels.LabelColor[i];
     return {labels.LabelText[i], labels.LabelX[i], labels.LabelY[i], color, std::move(font), true};
 }
 
@@ -182,6 +186,8 @@ void ResetEditor(Editor& editor) {
         if (editor.drawing.TakeUndoSnapshot) editor.drawing.TakeUndoSnapshot();
     }
     editor.TextAlignPending = editor.SelectionColorPending = false;
+    editor.textAlignment = TextAlignment::None;
+    editor.draggedLabels = {};
     editor.form.picMoreSym.Visible = false;
     editor.form.cmbScale.Enabled = editor.form.cmdScaleOK.Enabled = true;
     finishLabelEdit(editor);

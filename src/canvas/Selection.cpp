@@ -170,10 +170,11 @@ void followLabelSelection(Editor& editor, std::size_t selected) {
     const auto& marks = editor.drawing.labels.LabelSelected;
     const auto first = std::find_if(marks.begin(), marks.end(), [](Short m) { return m != 0; });
     const Short only = selected == 1 ? static_cast<Short>(first - marks.begin()) : Short{-1};
-    if (editor.LastSelectedLabel != only) finishLabelEdit(editor);
+    if (editor.LastSelectedLabel != only) endTextEdit(editor);
     editor.LastSelectedLabel = only;
     MenuStates& menu = editor.form.menu;
     menu[Menu::mnuEditText].Enabled = selected > 0;
+    menu[Menu::mnuEditTextCaption].Enabled = selected == 1;
     for (const Menu entry :
          {Menu::mnuEditTextAlignLeft, Menu::mnuEditTextAlignRight, Menu::mnuEditTextAlignTop})
         menu[entry].Enabled = selected > 1;

@@ -11,6 +11,7 @@
 #include "qt/LogDialog.h"
 #include "qt/MainWindow.h"
 #include "qt/QtPlatform.h"
+#include "qt/TextPropsDialog.h"
 #include "qt/Theme.h"
 
 namespace ladrix {
@@ -42,6 +43,9 @@ void runForm(Program& program, QWidget* window, Form form) {
             return;
         case Form::frmLog:
             LogDialog(program, window).run();
+            return;
+        case Form::frmTextProps:
+            TextPropsDialog(program, window).run();
             return;
         default:
             return;

@@ -5,6 +5,7 @@
 #include <QWheelEvent>
 #include <cmath>
 
+#include "canvas/LabelEvents.h"
 #include "canvas/Pointer.h"
 #include "canvas/Selection.h"
 #include "canvas/View.h"
@@ -69,9 +70,11 @@ void CanvasWidget::refresh() {
         updateOverlay(shown_.shpSelect, now.shpSelect);
         updateOverlay(shown_.shpSelectLight, now.shpSelectLight);
         updateOverlay(shown_.picGrip, now.picGrip);
-        if (shown_.Pointer != now.Pointer) showPointer(now.Pointer);
-        shown_ = now;
     }
+    const bool pointerChanged = shown_.Pointer != now.Pointer || shownOverLabel_ != overLabel_;
+    shown_ = now;
+    shownOverLabel_ = overLabel_;
+    if (pointerChanged && !pan_) showPointer(now.Pointer);
     const FormLX& form = program_.editor.form;
     if (labelVersion_ != form.LabelVersion || pictureVersion_ != form.PictureVersion) {
         labelVersion_ = form.LabelVersion;
@@ -81,7 +84,10 @@ void CanvasWidget::refresh() {
     if (const QRegion damage = canvas_.takeDamage(); !damage.isEmpty()) update(damage);
 }
 
+// A label takes the press whatever tool is in hand, so the tool's pointer would promise too much.
 void CanvasWidget::showPointer(MousePointer pointer) {
+    if (overLabel_ == OverLabel::Selected) return setCursor(Qt::SizeAllCursor);
+    if (overLabel_ == OverLabel::Unselected) return setCursor(Qt::PointingHandCursor);
     switch (pointer) {
         case MousePointer::Default:
             return unsetCursor();
@@ -209,8 +215,23 @@ CanvasWidget::Target CanvasWidget::targetAt(QPointF at) const {
     const Editor& editor = program_.editor;
     const Overlay& grip = editor.form.pointer.picGrip;
     if (grip.Visible && pixelRect(grip).contains(at.toPoint())) return Target::Grip;
+    if (labelUnder(at)) return Target::Label;
     return pictureAt(editor, canvas_.inchesX(at.x()), canvas_.inchesY(at.y())) ? Target::Picture
                                                                                : Target::Canvas;
+}
+
+std::optional<Short> CanvasWidget::labelUnder(QPointF at) const {
+    return labelAt(program_.editor, canvas_.inchesX(at.x()), canvas_.inchesY(at.y()));
+}
+
+// What the pointer would take with its next press, or has taken.
+void CanvasWidget::lookUnder(QPointF at) {
+    overLabel_ = OverLabel::No;
+    if (targetAt(at) != Target::Label) return;
+    const auto label = static_cast<std::size_t>(*labelUnder(at));
+    const auto& marks = program_.editor.drawing.labels.LabelSelected;
+    overLabel_ =
+        label < marks.size() && marks[label] != 0 ? OverLabel::Selected : OverLabel::Unselected;
 }
 
 void CanvasWidget::press(const QMouseEvent& event) {
@@ -220,6 +241,10 @@ void CanvasWidget::press(const QMouseEvent& event) {
     const Single y = canvas_.inchesY(event.position().y());
     pressed_ = targetAt(event.position());
     if (pressed_ == Target::Grip) return picGrip_MouseDown(editor, button);
+    if (pressed_ == Target::Label) {
+        pressedLabel_ = *labelUnder(event.position());
+        return lbl_MouseDown(editor, pressedLabel_, button, x, y);
+    }
     if (pressed_ == Target::Picture)
         return img_MouseDown(editor, *pictureAt(editor, x, y), button, x, y);
     picLX_MouseDown(editor, button, classicShift(event.modifiers()), x, y);
@@ -232,6 +257,10 @@ void CanvasWidget::release(const QMouseEvent& event) {
         if (left && targetAt(event.position()) == Target::Grip) picGrip_Click(editor);
         return;
     }
+    if (pressed_ == Target::Label) {
+        if (left && lbl_MouseUp(editor)) lbl_Click(editor, pressedLabel_);
+        return;
+    }
     if (pressed_ == Target::Picture && left) return img_MouseUp(editor);
     picLX_MouseUp(editor, buttonNumber(event.button()), classicShift(event.modifiers()),
                   canvas_.inchesX(event.position().x()), canvas_.inchesY(event.position().y()));
@@ -241,6 +270,7 @@ void CanvasWidget::mousePressEvent(QMouseEvent* event) {
     if (event->button() == Qt::MiddleButton) return startPan(event->position());
     if (pan_) return;
     press(*event);
+    lookUnder(event->position());
     emit handled();
 }
 
@@ -260,22 +290,31 @@ void CanvasWidget::movePointer(QPointF at, Qt::MouseButtons buttons,
     const Short held = heldButton(buttons);
     if (held == 0 || pressed_ == Target::Canvas)
         picLX_MouseMove(program_.editor, held, classicShift(modifiers), x, y);
+    else if (pressed_ == Target::Label)
+        lbl_MouseMove(program_.editor, held, x, y);
     else if (pressed_ == Target::Picture)
         img_MouseMove(program_.editor, held, x, y);
+    if (held == 0 || pressed_ == Target::Label) lookUnder(at);
 }
 
 void CanvasWidget::mouseReleaseEvent(QMouseEvent* event) {
     if (event->button() == Qt::MiddleButton) return endPan();
     release(*event);
+    lookUnder(event->position());
     emit handled();
 }
 
 // Comes in place of the second press. Two presses on different targets are no double-click.
 void CanvasWidget::mouseDoubleClickEvent(QMouseEvent* event) {
-    const bool onCanvas =
-        pressed_ == Target::Canvas && targetAt(event->position()) == Target::Canvas;
-    if (event->button() != Qt::LeftButton || !onCanvas || pan_) return mousePressEvent(event);
-    picLX_DblClick(program_.editor);
+    const Target target = targetAt(event->position());
+    if (event->button() != Qt::LeftButton || pressed_ != target || pan_)
+        return mousePressEvent(event);
+    if (target == Target::Label && labelUnder(event->position()) == pressedLabel_)
+        lbl_DblClick(program_.editor, pressedLabel_);
+    else if (target == Target::Canvas)
+        picLX_DblClick(program_.editor);
+    else
+        return mousePressEvent(event);
     emit handled();
 }
 

@@ -1,8 +1,8 @@
 // The canvas on the screen and its frame with the scroll bars. The widget turns pointer events into
 // the canvas handlers' calls and paints what the state says: the canvas' two layers, then labels,
-// the marks of pictures, cross-hair, band and grip, which are state and not widgets. The grip and,
-// at 100 percent, the pictures take a press before the canvas does; the target of a press keeps the
-// pointer until the release. A frame repaints only what changed.
+// the marks of pictures, cross-hair, band and grip, which are state and not widgets. The grip, the
+// labels and, at 100 percent, the pictures take a press before the canvas does; the target of a
+// press keeps the pointer until the release. A frame repaints only what changed.
 #pragma once
 
 #include <QScrollBar>
@@ -40,9 +40,12 @@ class CanvasWidget final : public QWidget {
     void wheelEvent(QWheelEvent* event) override;
 
   private:
-    enum class Target { Canvas, Grip, Picture };
+    enum class Target { Canvas, Grip, Label, Picture };
+    enum class OverLabel { No, Unselected, Selected };
 
     Target targetAt(QPointF at) const;
+    std::optional<Short> labelUnder(QPointF at) const;
+    void lookUnder(QPointF at);
     void press(const QMouseEvent& event);
     void release(const QMouseEvent& event);
     void scrollByWheel(const QWheelEvent& event);
@@ -67,8 +70,10 @@ class CanvasWidget final : public QWidget {
     PointerState shown_;
     unsigned labelVersion_ = 0, pictureVersion_ = 0;
     Target pressed_ = Target::Canvas;  // what took the last press
-    bool loaded_ = false;              // the form has its first size
-    int wheelTurn_ = 0;                // with Ctrl, not yet a whole step
+    Short pressedLabel_ = -1;
+    OverLabel overLabel_ = OverLabel::No, shownOverLabel_ = OverLabel::No;
+    bool loaded_ = false;  // the form has its first size
+    int wheelTurn_ = 0;    // with Ctrl, not yet a whole step
     struct Pan {
         QPointF from;      // the press
         Single left, top;  // the view then

@@ -7,9 +7,10 @@ namespace ladrix {
 
 namespace {
 
-// A character outside the 16-bit plane is two units, neither of which is accepted alone.
+// True if something had to go. A character outside the 16-bit plane is two units, neither of which
+// is accepted alone.
 template <class Accepts>
-void keepOnly(QString& input, int& cursor, Accepts accepts) {
+bool keepOnly(QString& input, int& cursor, Accepts accepts) {
     QString kept;
     int keptCursor = 0;
     for (int i = 0; i < input.size(); ++i) {
@@ -17,17 +18,19 @@ void keepOnly(QString& input, int& cursor, Accepts accepts) {
         kept += input.at(i);
         if (i < cursor) ++keptCursor;
     }
-    if (kept.size() == input.size()) return;
+    if (kept.size() == input.size()) return false;
     input = kept;
     cursor = keptCursor;
+    return true;
 }
 
 }  // namespace
 
 QValidator::State RecordTextFilter::validate(QString& input, int& cursor) const {
-    keepOnly(input, cursor, [](QChar character) {
+    const bool cut = keepOnly(input, cursor, [](QChar character) {
         return !character.isSurrogate() && recordText(QString(character).toStdString()).has_value();
     });
+    if (cut) emit refused();
     return Acceptable;
 }
 

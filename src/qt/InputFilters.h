@@ -12,6 +12,9 @@ class RecordTextFilter final : public QValidator {
   public:
     using QValidator::QValidator;
     State validate(QString& input, int& cursor) const override;
+
+  signals:
+    void refused() const;  // something was kept out
 };
 
 // The digits and decimal marks of a number field.

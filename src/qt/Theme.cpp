@@ -81,6 +81,8 @@ class Style final : public QProxyStyle {
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* data) const override {
         if (hint == SH_ToolTip_WakeUpDelay) return 500;
+        // A list as long as its box says, with a scroll bar, in place of a menu of all entries.
+        if (hint == SH_ComboBox_Popup) return 0;
         if (hint == SH_EtchDisabledText || hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
         return QProxyStyle::styleHint(hint, option, widget, data);
     }

@@ -268,7 +268,11 @@ void ToolStrip::makeTextPanel(QBoxLayout& row) {
     txtEdit_->setMinimumWidth(120);
     txtEdit_->setTextMargins(theme::Unit, 0, theme::Unit, 0);
     txtEdit_->setMaximumWidth(TextFieldWidth);
-    txtEdit_->setValidator(new RecordTextFilter(txtEdit_));
+    auto* filter = new RecordTextFilter(txtEdit_);
+    connect(
+        filter, &RecordTextFilter::refused, this, [this] { run(&txtEdit_Refused); },
+        Qt::QueuedConnection);  // after the change that the rest of the typing makes
+    txtEdit_->setValidator(filter);
     txtEdit_->installEventFilter(this);
     bindings_.add(*txtEdit_, form.txtEdit);
     connect(txtEdit_, &QLineEdit::textEdited, this, [this](const QString& text) {
