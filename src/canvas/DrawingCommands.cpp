@@ -4,6 +4,7 @@
 
 #include "canvas/DrawingIO.h"
 #include "canvas/Redraw.h"
+#include "canvas/SaveGuard.h"
 #include "canvas/View.h"
 #include "document/DrawingFile.h"
 #include "document/Records.h"
@@ -79,6 +80,11 @@ void goOnAfterSave(Editor& editor) {
     if (drawing.ExitAfterSave && !drawing.ExitCancelled) editor.platform.shell->endProgram();
 }
 
+void fileTouched(Editor& editor, std::string_view text) {
+    RememberFile(editor, text);
+    if (editor.FileTouched) editor.FileTouched();
+}
+
 // Whether nothing stands in the way of giving the present drawing up.
 bool mayGoOn(Editor& editor) {
     if (editor.drawing.DrawingChanged) AskToSaveChanges(editor);
@@ -97,25 +103,72 @@ void removeTempDrawing(Editor& editor) {
 void takeNameAway(Editor& editor) {
     editor.drawing.CurrentFileName.clear();
     editor.drawing.TitleState = 0;
+    editor.backups.shown.clear();
     UpdateTitle(editor);
+}
+
+void tellIncomplete(Editor& editor) {
+    const std::string name = editor.drawing.CurrentFileName;
+    takeNameAway(editor);
+    editor.form.lblMessage.Caption = "Only a part of " + name +
+                                     " could be read. The drawing is untitled, so that saving "
+                                     "does not replace the file.";
 }
 
 // A file that could not be read, or only in part, gives the drawing no name: a save must not
 // replace it.
 void readNamedFile(Editor& editor) {
-    Drawing& drawing = editor.drawing;
-    const std::string name = drawing.CurrentFileName;
+    const Drawing& drawing = editor.drawing;
     try {
-        openText(editor, readDrawingFile(*editor.platform.files, drawing.CurrentFolder + name));
+        const FileText file = readDrawingFile(*editor.platform.files,
+                                              drawing.CurrentFolder + drawing.CurrentFileName);
+        openText(editor, file);
+        if (!drawing.ReadIncomplete) return fileTouched(editor, file.content);
     } catch (const Failure&) {
         takeNameAway(editor);
         throw;
     }
-    if (!drawing.ReadIncomplete) return;
-    takeNameAway(editor);
-    editor.form.lblMessage.Caption = "Only a part of " + name +
-                                     " could be read. The drawing is untitled, so that saving "
-                                     "does not replace the file.";
+    tellIncomplete(editor);
+}
+
+// The copy takes the place of what the drawing's file holds: the name stays, and a save is due. A
+// template in force has been saved with the drawing, so nothing is added.
+void readBackup(Editor& editor, const std::string& copy) {
+    Drawing& drawing = editor.drawing;
+    const FileText file = readDrawingFile(*editor.platform.files, editor.backups.offered + copy);
+    const bool withTemplate = std::exchange(drawing.TemplateActive, false);
+    if (NewDrawing(editor)) {
+        openText(editor, file);
+        drawing.DrawingChanged = true;
+        editor.backups.shown = nameWithoutExtension(copy);
+        UpdateTitle(editor);
+        if (drawing.ReadIncomplete) tellIncomplete(editor);
+    }
+    drawing.TemplateActive = drawing.TemplateActive || withTemplate;
+}
+
+void openNamed(Editor& editor) {
+    Drawing& drawing = editor.drawing;
+    const BackupState& backups = editor.backups;
+    if (!backups.offered.empty() && drawing.CurrentFolder == backups.offered) {
+        const std::string copy = std::exchange(drawing.CurrentFileName, backups.CurrentFileName);
+        drawing.CurrentFolder = backups.CurrentFolder;
+        readBackup(editor, copy);
+    } else if (drawing.TemplateActive || NewDrawing(editor)) {
+        readNamedFile(editor);
+    } else {
+        return;
+    }
+    removeTempDrawing(editor);
+}
+
+// False: the file is to stay as it is.
+bool writeNamedFile(Editor& editor) {
+    const std::string text = fileText(editor.drawing);
+    if (!MayReplaceFile(editor, text)) return false;
+    writeDrawing(editor, text);
+    fileTouched(editor, text);
+    return true;
 }
 
 // A preview has a message of its own for what cannot be read.
@@ -161,10 +214,18 @@ void mnuFileRestore_Click(Editor& editor) {
 }
 
 void mnuHelpDemo_Click(Editor& editor, int number) {
+    OpenNamedDrawing(editor, editor.AppFilePath, number == 1 ? "Demo1.els" : "Demo2.els");
+}
+
+bool MayGiveUpDrawing(Editor& editor) {
     askFor(editor.drawing, After::Nothing);
-    if (!mayGoOn(editor)) return;
-    editor.drawing.CurrentFolder = editor.AppFilePath;
-    editor.drawing.CurrentFileName = number == 1 ? "Demo1.els" : "Demo2.els";
+    return mayGoOn(editor);
+}
+
+void OpenNamedDrawing(Editor& editor, const std::string& folder, const std::string& name) {
+    if (!MayGiveUpDrawing(editor)) return;
+    editor.drawing.CurrentFolder = folder;
+    editor.drawing.CurrentFileName = name;
     OpenDrawing(editor);
 }
 
@@ -179,6 +240,7 @@ bool NewDrawing(Editor& editor) {
     editor.img.clear();
     editor.LastSelectedLabel = -1;
     editor.LabelEdited = false;
+    editor.backups.shown.clear();
     drawing.TitleState = drawing.CurrentFileName.empty() ? 0 : 1;
     layOutNewPage(editor);
     ResetEditor(editor);
@@ -193,7 +255,7 @@ void SaveDrawing(Editor& editor) {
     if (refusedTarget(editor)) return;
     if (mainText(drawing).size() == 2) return;
     try {
-        writeDrawing(editor);
+        if (!writeNamedFile(editor)) return;
     } catch (const Failure& failure) {
         drawing.DrawingChanged = true;
         drawing.SaveInProgress = false;
@@ -202,6 +264,7 @@ void SaveDrawing(Editor& editor) {
     keepTemplate(drawing);
     drawing.SaveInProgress = false;
     drawing.TitleState = 1;
+    editor.backups.shown.clear();
     editor.form.lblMessage.Caption = "File saved.";
     drawing.DrawingChanged = false;
     goOnAfterSave(editor);
@@ -211,10 +274,7 @@ void OpenDrawing(Editor& editor) {
     Drawing& drawing = editor.drawing;
     drawing.Reading = true;
     try {
-        if (drawing.TemplateActive || NewDrawing(editor)) {
-            readNamedFile(editor);
-            removeTempDrawing(editor);
-        }
+        openNamed(editor);
     } catch (const Failure& failure) {
         report(editor, "Open Drawing", failure);
     }
@@ -286,8 +346,7 @@ void WriteTempDrawing(Editor& editor) {
 
 void RestoreTempDrawing(Editor& editor) {
     Drawing& drawing = editor.drawing;
-    askFor(drawing, After::Nothing);
-    if (!mayGoOn(editor)) return;
+    if (!MayGiveUpDrawing(editor)) return;
     drawing.Reading = true;
     try {
         if (startUntitled(editor) &&
@@ -319,8 +378,10 @@ void frmDesc_cmdExit_Click(Editor& editor) {
 
 void UpdateTitle(Editor& editor) {
     const std::string& name = editor.drawing.CurrentFileName;
+    const std::string& backup = editor.backups.shown;
     editor.form.Caption = "Ladrix - Current Library: " + editor.UserLibraryName +
-                          " - File Name: " + (name.empty() ? "Untitled" : name);
+                          " - File Name: " + (name.empty() ? "Untitled" : name) +
+                          (backup.empty() ? "" : " (backup of " + backup + ")");
 }
 
 }  // namespace ladrix

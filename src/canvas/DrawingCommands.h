@@ -19,15 +19,22 @@ void mnuFileSaveAs_Click(Editor& editor);
 void mnuFileRestore_Click(Editor& editor);
 void mnuHelpDemo_Click(Editor& editor, int number);  // 1 or 2
 
+// Asks whether changes are to be saved. False: the present drawing stays.
+bool MayGiveUpDrawing(Editor& editor);
+// Asks likewise, then opens the file in the place of the present drawing.
+void OpenNamedDrawing(Editor& editor, const std::string& folder, const std::string& name);
+
 // Empties the tables and the history and resets the editor. Refused while a copy waits for a point.
 // False if refused.
 bool NewDrawing(Editor& editor);
 
 // Writes CurrentFileName in CurrentFolder; untitled: shows the browser, which calls back.
 // Afterwards goes on with what was asked for (a new drawing, opening another, the end of the
-// program).
+// program). Nothing is done if the user would rather keep the file as it is (see SaveGuard.h).
 void SaveDrawing(Editor& editor);
 
+// Reads CurrentFileName in CurrentFolder. A file of the backups that are offered is read under the
+// name of the drawing that they are of, which then counts as changed.
 void OpenDrawing(Editor& editor);
 
 // Reads the file into the document's own tables, which are given up, and returns the page key and

@@ -5,7 +5,6 @@
 #include "canvas/DrawingCommands.h"
 #include "canvas/Redraw.h"
 #include "canvas/View.h"
-#include "document/DrawingFile.h"
 #include "document/Records.h"
 
 namespace ladrix {
@@ -43,11 +42,10 @@ FileText readDrawingFile(Files& files, const std::string& path) {
     return file;
 }
 
-void writeDrawing(Editor& editor) {
-    Drawing& drawing = editor.drawing;
+void writeDrawing(Editor& editor, std::string_view text) {
+    const Drawing& drawing = editor.drawing;
     copyPictures(editor);
-    editor.platform.files->replace(drawing.CurrentFolder + drawing.CurrentFileName,
-                                   fileText(drawing));
+    editor.platform.files->replace(drawing.CurrentFolder + drawing.CurrentFileName, text);
 }
 
 void openText(Editor& editor, const FileText& file) {

@@ -3,22 +3,18 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "canvas/Editor.h"
-#include "platform/Files.h"
+#include "document/DrawingFile.h"
 
 namespace ladrix {
-
-struct FileText {
-    std::string content;
-    FileTime modified;
-};
 
 // The whole file. Refuses what is missing, not a regular file or too large.
 FileText readDrawingFile(Files& files, const std::string& path);
 
-// Writes the drawing under its name, after its pictures have been copied beside it.
-void writeDrawing(Editor& editor);
+// Writes the drawing's text under its name, after its pictures have been copied beside it.
+void writeDrawing(Editor& editor, std::string_view text);
 
 // Fills the tables from a file's text, or adds it to the template in force, and shows the drawing.
 void openText(Editor& editor, const FileText& file);

@@ -55,6 +55,19 @@ struct KnownPicture {
     std::shared_ptr<const Picture> image;
 };
 
+// The drawing's file as this run read or wrote it last.
+struct FileSeen {
+    std::string path;  // "": none yet
+    std::size_t sum = 0;
+};
+
+// Backup copies in the place of the drawing that they are of.
+struct BackupState {
+    // While they are offered: their folder, a file of which is opened under the drawing's name.
+    std::string offered, CurrentFolder, CurrentFileName;
+    std::string shown;  // the copy that the drawing came from, until it is saved
+};
+
 struct Editor {
     explicit Editor(const Platform& machine) : platform(machine) {}
 
@@ -144,6 +157,9 @@ struct Editor {
     std::vector<std::shared_ptr<const Picture>> img;  // the loaded pictures, beside PictureTable
     bool LoggedIn = false;                            // the author's login is in force
 
+    FileSeen fileSeen;
+    BackupState backups;
+
     // What the open dialog of the description holds.
     struct {
         bool Visible = false;
@@ -160,6 +176,9 @@ struct Editor {
     // The insertion point of a user symbol was given by a press on this label, at this point of the
     // page, inches. Set once by the layer above.
     std::function<void(Short label, Single x, Single y)> SymbolPointOnLabel;
+
+    // The drawing has been read from its file or written to it. Set once by the layer above.
+    std::function<void()> FileTouched;
 
     // Set once by the layer above.
     std::string AppFilePath, BasePath, UserSymbolsPath, UserButtonsPath;

@@ -25,11 +25,19 @@ namespace ladrix {
 constexpr std::string_view DefaultPageKey = "8.5x11Portrait";
 constexpr std::string_view PictureMarker = "///Picture Files///";
 
+// A file as it is read: its date tells how to take it apart.
+struct FileText {
+    std::string content;
+    FileTime modified;
+};
+
 struct DrawingParts {
     std::string description;
     std::string pageKey;
     std::string devices, labels;          // master texts
     std::optional<std::string> pictures;  // absent: the file has no picture section
+
+    friend bool operator==(const DrawingParts&, const DrawingParts&) = default;
 };
 
 // From the description block to the labels.
