@@ -1,14 +1,9 @@
 // make_demos OUTPUT-FOLDER: makes the two demonstration drawings, Demo1.els and Demo2.els. Every
 // terminal and every end of a wire stands on a raster of an eighth of an inch.
-#include <exception>
-#include <functional>
-#include <iostream>
 #include <string>
 #include <string_view>
 
-#include "DemoSheet.h"
-#include "document/DrawingFile.h"
-#include "platform/DiskFiles.h"
+#include "Sheet.h"
 
 namespace ladrix::tools {
 
@@ -17,14 +12,14 @@ namespace {
 constexpr Single SymbolLength = 0.5f;
 
 // A symbol of two terminals side by side, and the wire that leads to it from `wireFrom`.
-void inRung(DemoSheet& sheet, Single wireFrom, std::string_view name, Single x, Single y,
+void inRung(Sheet& sheet, Single wireFrom, std::string_view name, Single x, Single y,
             std::string_view tag) {
     sheet.wire({{wireFrom, y}, {x, y}});
     sheet.symbol(name, x, y, tag);
 }
 
 // An operator's name above the designation that its symbol bears.
-void named(DemoSheet& sheet, std::string_view text, Single symbolX, Single y) {
+void named(Sheet& sheet, std::string_view text, Single symbolX, Single y) {
     sheet.centred(text, symbolX + SymbolLength / 2, y, Plain);
 }
 
@@ -33,7 +28,7 @@ struct Entry {
 };
 
 // The lamp that ends a rung, its colour's letter in it, and the wires to both sides.
-void pilotLight(DemoSheet& sheet, Single wireFrom, Point at, Single wireTo, const Entry& entry,
+void pilotLight(Sheet& sheet, Single wireFrom, Point at, Single wireTo, const Entry& entry,
                 std::string_view colour) {
     const Single end = at.x + SymbolLength;
     inRung(sheet, wireFrom, "InsertLamp", at.x, at.y, colour);
@@ -42,7 +37,7 @@ void pilotLight(DemoSheet& sheet, Single wireFrom, Point at, Single wireTo, cons
     sheet.wire({{end, at.y}, {wireTo, at.y}});
 }
 
-void list(DemoSheet& sheet, Point corner, Single indent, std::initializer_list<Entry> entries) {
+void list(Sheet& sheet, Point corner, Single indent, std::initializer_list<Entry> entries) {
     Single y = corner.y;
     for (const Entry& entry : entries) {
         sheet.from(entry.designation, corner.x, y, Plain);
@@ -52,7 +47,7 @@ void list(DemoSheet& sheet, Point corner, Single indent, std::initializer_list<E
 }
 
 // The frame half an inch inside the page and the title block at its foot.
-void frameAndTitle(DemoSheet& sheet, Point page, std::string_view title, std::string_view subtitle,
+void frameAndTitle(Sheet& sheet, Point page, std::string_view title, std::string_view subtitle,
                    std::string_view number) {
     const Single left = 0.5f, right = page.x - 0.5f, bottom = page.y - 0.5f;
     const Single top = bottom - 0.625f, numberLeft = right - 2.25f, sheetLeft = right - 1;
@@ -69,7 +64,7 @@ void frameAndTitle(DemoSheet& sheet, Point page, std::string_view title, std::st
     sheet.from("1 OF 1", sheetLeft + 0.125f, entry, Heading);
 }
 
-void lineNumbers(DemoSheet& sheet, Single x, std::initializer_list<Single> lines) {
+void lineNumbers(Sheet& sheet, Single x, std::initializer_list<Single> lines) {
     int number = 0;
     for (const Single y : lines)
         sheet.centred(std::to_string(++number), x, y, Remark);
@@ -83,7 +78,7 @@ constexpr Single TransformerY = 4.5f;
 constexpr Single SecondaryLeft = 3.375f, SecondaryRight = 4.125f;  // X1 and X2
 
 // One phase from the supply to the motor's side of its overload heater.
-void phase(DemoSheet& sheet, const std::string& number) {
+void phase(Sheet& sheet, const std::string& number) {
     const Single y = PhaseY[number[0] - '1'];
     sheet.centred("L" + number, 0.8125f, y, Plain);
     sheet.circle(0.925f, y, 0.0375f);
@@ -100,7 +95,7 @@ void phase(DemoSheet& sheet, const std::string& number) {
     sheet.wireNumber("T" + number, 6.25f, y);
 }
 
-void motor(DemoSheet& sheet) {
+void motor(Sheet& sheet) {
     const Single centreX = 7, centreY = PhaseY[1], radius = 0.5f;
     sheet.wire({{6, PhaseY[0]}, {centreX, PhaseY[0]}, {centreX, centreY - radius}}, Heavy);
     sheet.wire({{6, centreY}, {centreX - radius, centreY}}, Heavy);
@@ -112,7 +107,7 @@ void motor(DemoSheet& sheet) {
     sheet.symbol("InsertGround", 7.625f, 2.75f);
 }
 
-void powerCircuit(DemoSheet& sheet) {
+void powerCircuit(Sheet& sheet) {
     sheet.from("POWER CIRCUIT", 0.75f, 0.75f, Heading);
     sheet.from("480 VAC, 3 PHASE, 60 HZ", 0.75f, 0.9375f, Plain);
     for (const char* number : {"1", "2", "3"})
@@ -123,7 +118,7 @@ void powerCircuit(DemoSheet& sheet) {
     motor(sheet);
 }
 
-void controlTransformer(DemoSheet& sheet) {
+void controlTransformer(Sheet& sheet) {
     const Single fuseY = 3.5f, fuseEnd = fuseY + SymbolLength;
     sheet.dot(PrimaryLeft, PhaseY[0]);
     sheet.wire({{PrimaryLeft, PhaseY[0]}, {PrimaryLeft, fuseY}});
@@ -151,7 +146,7 @@ constexpr Single RailLeft = 1.25f, RailRight = 7.25f;
 constexpr Single SupplyY = 5.375f;
 
 // X1 fused to the left rail, X2 grounded to the right one.
-void controlSupply(DemoSheet& sheet) {
+void controlSupply(Sheet& sheet) {
     const Single secondaryY = TransformerY + 0.5f;
     sheet.wire({{SecondaryLeft, secondaryY}, {SecondaryLeft, SupplyY}, {2.5f, SupplyY}});
     sheet.wireNumber("X1", 2.9375f, SupplyY);
@@ -163,7 +158,7 @@ void controlSupply(DemoSheet& sheet) {
     sheet.symbol("InsertGround", 5, 5.5f);
 }
 
-void starterLadder(DemoSheet& sheet) {
+void starterLadder(Sheet& sheet) {
     const Single run = 6.625f, seal = 7.25f, light = 7.875f;
     const Single sealLeft = 3.125f, sealRight = 4.375f, load = 5.125f;
     sheet.wire({{2, SupplyY}, {RailLeft, SupplyY}, {RailLeft, light}});
@@ -194,7 +189,7 @@ void starterLadder(DemoSheet& sheet) {
     pilotLight(sheet, RailLeft, {load, light}, RailRight, {"1LT", "POWER ON"}, "W");
 }
 
-void drawStarter(DemoSheet& sheet) {
+void drawStarter(Sheet& sheet) {
     frameAndTitle(sheet, {8.5f, 11}, "THREE-WIRE MOTOR STARTER",
                   "Full voltage, non-reversing, with control transformer", "DEMO 1");
     powerCircuit(sheet);
@@ -226,7 +221,7 @@ constexpr Single StopLine = 2.625f, StartLine = 3.5f, SealLine = 4.125f;
 constexpr Single RunLine = 4.875f, StoppedLine = 5.625f;
 constexpr Single StartX = 5, LoadX = 7;
 
-void stationSupply(DemoSheet& sheet) {
+void stationSupply(Sheet& sheet) {
     const Single top = 1.375f, radius = 0.0375f;
     sheet.circle(Rail1 - radius, top - radius, radius);
     sheet.circle(Rail2 - radius, top - radius, radius);
@@ -241,7 +236,7 @@ void stationSupply(DemoSheet& sheet) {
     lineNumbers(sheet, 1.125f, {StopLine, StartLine, SealLine, RunLine, StoppedLine});
 }
 
-void stations(DemoSheet& sheet) {
+void stations(Sheet& sheet) {
     sheet.dot(Rail1, StopLine);
     inRung(sheet, Rail1, "InsertPBNC", 2.25f, StopLine, "1PB");
     named(sheet, "STOP 1", 2.25f, StopLine - 0.525f);
@@ -265,7 +260,7 @@ void stations(DemoSheet& sheet) {
     sheet.dot(right, StopLine);
 }
 
-void starterCoil(DemoSheet& sheet) {
+void starterCoil(Sheet& sheet) {
     inRung(sheet, StartX + SymbolLength, "InsertRelayCoil", LoadX, StopLine, "M");
     sheet.wireNumber("4", 6.5f, StopLine);
     inRung(sheet, LoadX + SymbolLength, "InsertContactNC", 8.25f, StopLine, "OL");
@@ -277,7 +272,7 @@ void starterCoil(DemoSheet& sheet) {
     sheet.frameLine({9.9f, StopLine + 0.065f}, {9.96f, StopLine + 0.065f});
 }
 
-void pilotLights(DemoSheet& sheet) {
+void pilotLights(Sheet& sheet) {
     const Single contactEnd = StartX + SymbolLength;
     sheet.dot(Rail1, RunLine);
     inRung(sheet, Rail1, "InsertContactNO", StartX, RunLine, "M");
@@ -290,7 +285,7 @@ void pilotLights(DemoSheet& sheet) {
     sheet.wireNumber("7", 6.25f, StoppedLine);
 }
 
-void drawStations(DemoSheet& sheet) {
+void drawStations(Sheet& sheet) {
     frameAndTitle(sheet, {11, 8.5f}, "TWO-STATION START/STOP",
                   "Motor starter control with pilot lights", "DEMO 2");
     sheet.from("CONTROL CIRCUIT", 0.75f, 0.75f, Heading);
@@ -314,12 +309,7 @@ void drawStations(DemoSheet& sheet) {
 
 // --------------------------------------------------------------------------------------------
 
-struct Demo {
-    std::string_view fileName, pageKey, description;
-    std::function<void(DemoSheet&)> draw;
-};
-
-const Demo Demos[] = {
+constexpr SheetFile Demos[] = {
     {"Demo1.els", "8.5x11Portrait",
      "Three-wire motor starter: power circuit with disconnect, fuses, contactor, overload heaters "
      "and motor; control transformer with fuses and ground; start/stop control with seal-in "
@@ -331,34 +321,10 @@ const Demo Demos[] = {
      drawStations},
 };
 
-bool makeDemos(const std::string& folder) {
-    DiskFiles disk;
-    Files& files = disk;
-    for (const Demo& demo : Demos) {
-        DemoSheet sheet(demo.pageKey, demo.description);
-        demo.draw(sheet);
-        if (!sheet.good()) return false;
-        files.replace(withSeparator(files, folder) + std::string(demo.fileName),
-                      fileText(sheet.drawing));
-    }
-    return true;
-}
-
 }  // namespace
 
 }  // namespace ladrix::tools
 
 int main(int argc, char** argv) {
-    if (argc != 2) {
-        std::cerr << "Usage: make_demos OUTPUT-FOLDER\n";
-        return 1;
-    }
-    try {
-        return ladrix::tools::makeDemos(argv[1]) ? 0 : 1;
-    } catch (const ladrix::Failure& failure) {
-        std::cerr << failure.text << '\n';
-    } catch (const std::exception& error) {
-        std::cerr << error.what() << '\n';
-    }
-    return 1;
+    return ladrix::tools::makeSheets(ladrix::tools::Demos, argc, argv);
 }

@@ -64,7 +64,7 @@ bool waitFor(const std::function<bool()>& condition) {
 
 Home::Home() : formerHome_(qgetenv("HOME")) {
     folder_.makeFolder("home/Documents");
-    for (const char* name : {"Demo1.els", "Demo2.els"}) {
+    for (const char* name : {"Demo1.els", "Demo2.els", "Template Ladder.tpl"}) {
         folder_.makeFolder("program");
         std::filesystem::copy(ProgramPath(name), folder_.native("program"));
     }

@@ -1,5 +1,5 @@
-// The shipped demonstration drawings, read as an electrician reads them: from the file, by where
-// wires, dots and terminals lie. Nothing here knows how the drawings were made.
+// The shipped drawings, demonstrations and templates, read as an electrician reads them: from the
+// file, by where wires, dots and terminals lie. Nothing here knows how the drawings were made.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -264,19 +264,30 @@ class DemoDrawing : public testing::TestWithParam<const char*> {};
 INSTANTIATE_TEST_SUITE_P(, DemoDrawing, testing::Values("Demo1", "Demo2"),
                          [](const auto& test) { return std::string(test.param); });
 
-TEST_P(DemoDrawing, IsReadWithoutARemarkAndFitsItsPage) {
-    const Schematic schematic(std::string(GetParam()) + ".els");
+class ShippedDrawing : public testing::TestWithParam<const char*> {};
+INSTANTIATE_TEST_SUITE_P(, ShippedDrawing,
+                         testing::Values("Demo1.els", "Demo2.els", "Template A4 Portrait.tpl",
+                                         "Template Letter Landscape.tpl", "Template Ladder.tpl"),
+                         [](const auto& test) {
+                             std::string name = test.param;
+                             std::erase_if(name, [](char c) { return c == ' ' || c == '.'; });
+                             return name;
+                         });
+
+TEST_P(ShippedDrawing, IsReadWithoutARemarkAndFitsItsPage) {
+    const Schematic schematic(GetParam());
     EXPECT_TRUE(schematic.machine.reports.empty());
     EXPECT_TRUE(schematic.machine.dialogs.boxes.empty());
     EXPECT_FALSE(schematic.drawing.FileDescription.empty());
-    ASSERT_GT(schematic.parts.size(), 10u);
+    ASSERT_GT(schematic.drawing.devices.DeviceCount, 10);
     const auto page = pageSize(schematic.drawing.PageLayoutKey);
     ASSERT_TRUE(page);
     for (Short i = 0; i < schematic.drawing.devices.DeviceCount; ++i) {
         const Extent extent = deviceExtent(schematic.drawing.devices, i);
-        EXPECT_GE(std::min(extent.left, extent.top), 0.5f) << i;
-        EXPECT_LE(extent.right, page->PageWidth - 0.5f) << i;
-        EXPECT_LE(extent.bottom, page->PageHeight - 0.5f) << i;
+        // What every printer reaches.
+        EXPECT_GE(std::min(extent.left, extent.top), 0.25f) << i;
+        EXPECT_LE(extent.right, page->PageWidth - 0.25f) << i;
+        EXPECT_LE(extent.bottom, page->PageHeight - 0.25f) << i;
     }
 }
 
@@ -333,8 +344,8 @@ bool crossesCircle(const Extent& box, const Primitive& circle) {
     return false;
 }
 
-TEST_P(DemoDrawing, HasNoLabelOnALineOrOnAnotherLabel) {
-    Schematic schematic(std::string(GetParam()) + ".els");
+TEST_P(ShippedDrawing, HasNoLabelOnALineOrOnAnotherLabel) {
+    Schematic schematic(GetParam());
     RecordingPage page;
     Symbols symbols;
     for (Short i = 0; i < schematic.drawing.devices.DeviceCount; ++i) {
@@ -424,6 +435,40 @@ TEST(TwoStationDemo, StartsAndStopsFromEitherStationAndShowsIt) {
             EXPECT_FALSE(circuit.operate({start, stop})) << "stop has precedence";
             EXPECT_FALSE(circuit.operate({})) << "no restart by itself";
         }
+    }
+}
+
+// A new drawing snaps to quarters of an inch: rungs must be drawn on the numbered lines.
+TEST(LadderTemplate, HasFusedRailsAndEvenlyNumberedLinesOnTheSnapStep) {
+    const Schematic schematic("Template Ladder.tpl");
+    Circuit circuit{schematic, schematic.supply("L1"), schematic.supply("N"), {}};
+    Nets nets = circuit.nets();
+    EXPECT_FALSE(nets.joined(circuit.hot, circuit.neutral));
+    const auto rail = [&](Point supply) {
+        const auto end = std::max_element(schematic.wires.begin(), schematic.wires.end(),
+                                          [&](const Wire& a, const Wire& b) {
+                                              return (nets.joined(a.to, supply) ? a.to.y : 0) <
+                                                     (nets.joined(b.to, supply) ? b.to.y : 0);
+                                          });
+        return end->to;
+    };
+    const Point left = rail(circuit.hot), right = rail(circuit.neutral);
+    EXPECT_EQ(Nets(schematic).joined(left, circuit.hot), false) << "through the fuse alone";
+    EXPECT_TRUE(same(left, {1.25f, left.y}) && same(right, {6.5f, left.y})) << left << right;
+    std::vector<Single> lines;
+    for (Short i = 0; i < schematic.drawing.devices.DeviceCount; ++i) {
+        const Device d = schematic.drawing.devices.row(i);
+        if (d.name == "InsertSavedLine" && d.color != Black && d.y == d.y2 && d.x2 == left.x)
+            lines.push_back(d.y);
+    }
+    ASSERT_EQ(lines.size(), 14u);
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        EXPECT_EQ(lines[i], 2.25f + 0.5f * static_cast<Single>(i));
+        bool isNumbered = false;
+        for (Short j = 0; j < schematic.drawing.labels.LabelCount; ++j)
+            isNumbered |= schematic.drawing.labels.row(j).text == std::to_string(i + 1) &&
+                          schematic.box(j).top < lines[i] && schematic.box(j).bottom > lines[i];
+        EXPECT_TRUE(isNumbered) << i + 1;
     }
 }
 

@@ -1,14 +1,20 @@
-// A sheet on which a demonstration drawing is made, by the routines that a click on the canvas
-// ends in: symbols and dots through the dispatcher, wires and labels through the recorder.
+// A sheet on which a shipped drawing is made, by the routines that a click on the canvas ends in:
+// symbols and dots through the dispatcher, wires and labels through the recorder.
 #pragma once
 
 #include <cmath>
+#include <exception>
 #include <initializer_list>
+#include <iostream>
+#include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "ToolMachine.h"
 #include "document/Drawing.h"
+#include "document/DrawingFile.h"
+#include "platform/DiskFiles.h"
 #include "symbols/DrawDevice.h"
 
 namespace ladrix::tools {
@@ -33,11 +39,11 @@ constexpr TextStyle Remark{7, false, RemarkColor};
 constexpr TextStyle Heading{10, true};
 constexpr TextStyle Title{14, true};
 
-class DemoSheet {
+class Sheet {
   public:
     Drawing drawing;
 
-    DemoSheet(std::string_view pageKey, std::string_view description) {
+    Sheet(std::string_view pageKey, std::string_view description) {
         drawing.PageLayoutKey = pageKey;
         drawing.FileDescription = description;
         symbols_.block.obj = &machine_.canvas;
@@ -67,6 +73,13 @@ class DemoSheet {
     void frameLine(Point from, Point to) { line(from, to, FrameColor, {}); }
     void frame(Point corner, Point opposite) {
         record("InsertSavedSquare", corner, opposite, FrameColor, "0");
+    }
+    // A frame of twice the width.
+    void border(Point corner, Point opposite) {
+        const Point right{opposite.x, corner.y}, foot{corner.x, opposite.y};
+        for (const auto& [from, to] : {std::pair{corner, right}, std::pair{right, opposite},
+                                       std::pair{opposite, foot}, std::pair{foot, corner}})
+            line(from, to, FrameColor, Heavy);
     }
     // The mechanical link of a switch of several poles.
     void dashedVertical(Single x, Single top, Single bottom) {
@@ -141,5 +154,36 @@ class DemoSheet {
         record("InsertSavedLine", a, b, color, widthTag);
     }
 };
+
+struct SheetFile {
+    std::string_view fileName, pageKey, description;
+    void (*draw)(Sheet& sheet);
+};
+
+// The whole of a program that takes the output folder as its argument. The result is its exit
+// status.
+inline int makeSheets(std::span<const SheetFile> sheets, int argc, char** argv) {
+    if (argc != 2) {
+        std::cerr << "Usage: " << argv[0] << " OUTPUT-FOLDER\n";
+        return 1;
+    }
+    try {
+        DiskFiles disk;
+        Files& files = disk;
+        for (const SheetFile& file : sheets) {
+            Sheet sheet(file.pageKey, file.description);
+            file.draw(sheet);
+            if (!sheet.good()) return 1;
+            files.replace(withSeparator(files, argv[1]) + std::string(file.fileName),
+                          fileText(sheet.drawing));
+        }
+        return 0;
+    } catch (const Failure& failure) {
+        std::cerr << failure.text << '\n';
+    } catch (const std::exception& error) {
+        std::cerr << error.what() << '\n';
+    }
+    return 1;
+}
 
 }  // namespace ladrix::tools
