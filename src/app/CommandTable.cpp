@@ -4,6 +4,8 @@
 
 #include "app/CommandHandlers.h"
 #include "app/FailureLog.h"
+#include "app/FileMenu.h"
+#include "app/RecentFiles.h"
 #include "app/LineOptions.h"
 #include "canvas/Colors.h"
 #include "canvas/CopyMove.h"
@@ -45,17 +47,17 @@ constexpr Command Commands[] = {
     {Menu::mnuFilePrintCircuit1, Menu::mnuFile, "mnuFilePrintCircuit1", "Print Circuit", "", nullptr, false, false},
     {Menu::mnuFilePrintPreview, Menu::mnuFile, "mnuFilePrintPreview", "Print Preview", "", nullptr, false, false},
     {Menu::mnuFileRestore, Menu::mnuFile, "mnuFileRestore", "&Restore File from Crash", "", onEditor<mnuFileRestore_Click>, true, false},
-    {Menu::mnuFileBackups, Menu::mnuFile, "mnuFileBackups", "Open Backup of This Drawing...", "", nullptr, false, false},
+    {Menu::mnuFileBackups, Menu::mnuFile, "mnuFileBackups", "Open Backup of This Drawing...", "", mnuFileBackups_Click, false, false},
     {Menu::mnuFileTemplates, Menu::mnuFile, "mnuFileTemplates", "View Available Templates (Requires Internet Connection)", "", nullptr, false, false},
-    {Menu::mnuFileRecent0, Menu::mnuFile, "mnuFileRecent0", "Recent Drawing 1", "", nullptr, true, false},
-    {Menu::mnuFileRecent1, Menu::mnuFile, "mnuFileRecent1", "Recent Drawing 2", "", nullptr, false, false},
-    {Menu::mnuFileRecent2, Menu::mnuFile, "mnuFileRecent2", "Recent Drawing 3", "", nullptr, false, false},
-    {Menu::mnuFileRecent3, Menu::mnuFile, "mnuFileRecent3", "Recent Drawing 4", "", nullptr, false, false},
-    {Menu::mnuFileRecent4, Menu::mnuFile, "mnuFileRecent4", "Recent Drawing 5", "", nullptr, false, false},
-    {Menu::mnuFileRecent5, Menu::mnuFile, "mnuFileRecent5", "Recent Drawing 6", "", nullptr, false, false},
-    {Menu::mnuFileRecent6, Menu::mnuFile, "mnuFileRecent6", "Recent Drawing 7", "", nullptr, false, false},
-    {Menu::mnuFileRecent7, Menu::mnuFile, "mnuFileRecent7", "Recent Drawing 8", "", nullptr, false, false},
-    {Menu::mnuFileRecent8, Menu::mnuFile, "mnuFileRecent8", "Recent Drawing 9", "", nullptr, false, false},
+    {Menu::mnuFileRecent0, Menu::mnuFile, "mnuFileRecent0", "Recent Drawing 1", "", mnuFileRecent_Click<0>, true, false},
+    {Menu::mnuFileRecent1, Menu::mnuFile, "mnuFileRecent1", "Recent Drawing 2", "", mnuFileRecent_Click<1>, false, false},
+    {Menu::mnuFileRecent2, Menu::mnuFile, "mnuFileRecent2", "Recent Drawing 3", "", mnuFileRecent_Click<2>, false, false},
+    {Menu::mnuFileRecent3, Menu::mnuFile, "mnuFileRecent3", "Recent Drawing 4", "", mnuFileRecent_Click<3>, false, false},
+    {Menu::mnuFileRecent4, Menu::mnuFile, "mnuFileRecent4", "Recent Drawing 5", "", mnuFileRecent_Click<4>, false, false},
+    {Menu::mnuFileRecent5, Menu::mnuFile, "mnuFileRecent5", "Recent Drawing 6", "", mnuFileRecent_Click<5>, false, false},
+    {Menu::mnuFileRecent6, Menu::mnuFile, "mnuFileRecent6", "Recent Drawing 7", "", mnuFileRecent_Click<6>, false, false},
+    {Menu::mnuFileRecent7, Menu::mnuFile, "mnuFileRecent7", "Recent Drawing 8", "", mnuFileRecent_Click<7>, false, false},
+    {Menu::mnuFileRecent8, Menu::mnuFile, "mnuFileRecent8", "Recent Drawing 9", "", mnuFileRecent_Click<8>, false, false},
     {Menu::mnuExit, Menu::mnuFile, "mnuExit", "E&xit", "", exitProgram, true, false},
     {Menu::mnuLayout, Menu::mnuLayout, "mnuLayout", "&Layout", "", nullptr, false, false},
     {Menu::mnuLayoutNormal, Menu::mnuLayout, "mnuLayoutNormal", "8.5 x 11 Portrait", "", choosePage<0>, false, false},

@@ -15,6 +15,7 @@ Program::Program(Platform& machine) : platform(machine), editor(machine) {
     };
     editor.drawing.TakeUndoSnapshot = [this] { TakeUndoSnapshot(editor); };
     editor.ClearHistory = [this] { ClearHistory(editor); };
+    editor.FileTouched = [this] { KeepRecentFile(*this); };
     ClearHistory(editor);
 }
 

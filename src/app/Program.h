@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "app/RecentFiles.h"
 #include "browser/FileBrowser.h"
 #include "canvas/Editor.h"
 #include "canvas/TextProperties.h"
@@ -43,11 +44,12 @@ struct Program {
     FileBrowser frmFile;
     LogViewer frmLog;
     TextProperties frmTextProps;
+    RecentFiles recentFiles;
     std::vector<std::string> UserPrefs;  // the lines of the preferences file
     std::string PrefsFolder;             // where they were read
-    std::string LastErrorText;  // description of the last report
-    std::string TraceText;      // the stage of the start, for reports
-    bool Ending = false;        // the run is over; the view closes its windows
+    std::string LastErrorText;           // description of the last report
+    std::string TraceText;               // the stage of the start, for reports
+    bool Ending = false;                 // the run is over; the view closes its windows
 };
 
 }  // namespace ladrix

@@ -206,6 +206,7 @@ bool startProgram(Program& program) {
     setUserLibraryPaths(program.paths, program.platform.files->separator());
     shareWithEditor(program);
     ReadUserPreferences(program);
+    ReadRecentFiles(program);
     return Form_Load(program);
 }
 

@@ -9,6 +9,7 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "app/FileMenu.h"
 #include "canvas/DrawingCommands.h"
 #include "canvas/Keys.h"
 #include "qt/KeyCodes.h"
@@ -128,6 +129,10 @@ void MainWindow::makeMenus() {
             menu.addAction(entry);
         }
     }
+    connect(menus_.at(Menu::mnuFile), &QMenu::aboutToShow, this, [this] {
+        mnuFile_Popup(program_);
+        showMenus();
+    });
 }
 
 QAction* MainWindow::makeEntry(const Command& command) {
