@@ -7,6 +7,7 @@
 #include "app/FileMenu.h"
 #include "app/RecentFiles.h"
 #include "app/LineOptions.h"
+#include "app/FileCommands.h"
 #include "canvas/Colors.h"
 #include "canvas/CopyMove.h"
 #include "canvas/DrawingCommands.h"
@@ -85,7 +86,7 @@ constexpr Command Commands[] = {
     {Menu::mnuLibraryPrevious, Menu::mnuLibraries, "mnuLibraryPrevious", "Index to &Previous User Library", "", nullptr, false, false},
     {Menu::mnuLibFind, Menu::mnuLibraries, "mnuLibFind", "&Find Symbol...", "", nullptr, true, false},
     {Menu::mnuInsert, Menu::mnuInsert, "mnuInsert", "Insert", "", nullptr, false, false},
-    {Menu::mnuInsertPicture, Menu::mnuInsert, "mnuInsertPicture", "&Picture File", "", nullptr, false, false},
+    {Menu::mnuInsertPicture, Menu::mnuInsert, "mnuInsertPicture", "&Picture File", "", mnuInsertPicture_Click, false, false},
     {Menu::mnuEdit, Menu::mnuEdit, "mnuEdit", "&Edit", "", nullptr, false, false},
     {Menu::mnuEditFileDescription, Menu::mnuEdit, "mnuEditFileDescription", "&Edit/Add File Description", "", onEditor<mnuEditFileDescription_Click>, false, false},
     {Menu::mnuEditText, Menu::mnuEdit, "mnuEditText", "Text Attributes", "", nullptr, true, false},
@@ -125,8 +126,8 @@ constexpr Command Commands[] = {
     {Menu::mnuOptDashedLineConstant, Menu::mnuUOptions, "mnuOptDashedLineConstant", "Change Dashed Line Spacing", "", mnuOptDashedLineConstant_Click, true, false},
     {Menu::mnuOptMatchGridToSnap, Menu::mnuUOptions, "mnuOptMatchGridToSnap", "&Match Grid to Snap", "", onEditor<mnuOptMatchGridToSnap_Click>, false, true},
     {Menu::mnuOptPrinter, Menu::mnuUOptions, "mnuOptPrinter", "&Printer Options", "", nullptr, true, false},
-    {Menu::mnuOptSavePreferences, Menu::mnuUOptions, "mnuOptSavePreferences", "Save a Copy of the User Preferences", "", nullptr, true, false},
-    {Menu::mnuOptRestorePreferences, Menu::mnuUOptions, "mnuOptRestorePreferences", "Restore User Preferences", "", nullptr, false, false},
+    {Menu::mnuOptSavePreferences, Menu::mnuUOptions, "mnuOptSavePreferences", "Save a Copy of the User Preferences", "", mnuOptSavePreferences_Click, true, false},
+    {Menu::mnuOptRestorePreferences, Menu::mnuUOptions, "mnuOptRestorePreferences", "Restore User Preferences", "", mnuOptRestorePreferences_Click, false, false},
     {Menu::mnuMode, Menu::mnuMode, "mnuMode", "&User Mode", "", nullptr, false, false},
     {Menu::mnuModeNormal, Menu::mnuMode, "mnuModeNormal", "&Normal (Drawing)", "", chooseNormalMode, false, true},
     {Menu::mnuModeDesign, Menu::mnuMode, "mnuModeDesign", "&Design Symbol", "", nullptr, false, true},

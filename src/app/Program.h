@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "app/RecentFiles.h"
+#include "browser/Favorites.h"
 #include "browser/FileBrowser.h"
 #include "canvas/Editor.h"
 #include "canvas/TextProperties.h"
@@ -42,6 +43,8 @@ struct Program {
     Paths paths;
     Editor editor;
     FileBrowser frmFile;
+    Favorites favorites;
+    FavoritesForm frmFavorites;
     LogViewer frmLog;
     TextProperties frmTextProps;
     RecentFiles recentFiles;

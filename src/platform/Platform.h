@@ -80,8 +80,8 @@ class Fonts {
 class Shell {
   public:
     virtual ~Shell() = default;
-    // The folder of the running program, of the user's documents (5) and of the virtual documents
-    // (12); "" where the platform has none.
+    // The folder of the running program, of the user's documents (5), of the virtual documents (12)
+    // and of the user's pictures (39); "" where the platform has none.
     virtual std::string programFolder() = 0;
     virtual std::string specialFolder(int number) = 0;
     virtual std::string computerName() = 0;

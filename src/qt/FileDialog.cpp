@@ -14,6 +14,9 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include "app/FileCommands.h"
+#include "browser/BrowserFolders.h"
+#include "browser/BrowserSaving.h"
 #include "qt/FileIcons.h"
 #include "qt/FileListView.h"
 #include "qt/PathBar.h"
@@ -235,7 +238,7 @@ void FileDialog::setTabOrders() {
 }
 
 int FileDialog::run() {
-    frmFile_Load(browser_, editor_, program_.paths.DrawingsPath);
+    loadBrowser(program_);
     takeSize();
     showState();
     if (editor_.drawing.SaveInProgress)

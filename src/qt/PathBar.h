@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "browser/FileBrowser.h"
+#include "browser/BrowserFolders.h"
 
 class QLineEdit;
 class QMenu;

@@ -22,7 +22,7 @@ namespace ladrix {
 
 namespace {
 
-constexpr int DocumentsFolder = 5;
+constexpr int DocumentsFolder = 5, PicturesFolder = 39;
 constexpr Single TwipsPerPixel = 15;
 
 QString version() {
@@ -53,6 +53,8 @@ std::string QtShell::programFolder() {
 }
 
 std::string QtShell::specialFolder(int number) {
+    if (number == PicturesFolder)
+        return fromQString(QStandardPaths::writableLocation(QStandardPaths::PicturesLocation));
     if (number != DocumentsFolder) return "";
     const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     if (documents.isEmpty() || !QDir().mkpath(documents)) return "";

@@ -5,6 +5,9 @@
 
 #include <filesystem>
 
+#include "browser/BrowserFolders.h"
+#include "browser/BrowserSaving.h"
+#include "browser/Favorites.h"
 #include "canvas/DrawingCommands.h"
 #include "platform/Encoding.h"
 #include "support/FakePlatform.h"
@@ -66,11 +69,11 @@ class FileBrowserTest : public testing::Test {
 
     void showOpen() {
         editor.drawing.SaveInProgress = false;
-        frmFile_Load(browser, editor, drawings);
+        frmFile_Load(browser, editor, favorites, {drawings});
     }
     void showSave() {
         editor.drawing.SaveInProgress = true;
-        frmFile_Load(browser, editor, drawings);
+        frmFile_Load(browser, editor, favorites, {drawings});
     }
     void saveAs(const std::string& name) {
         txtSaveAs_Change(browser, name);
@@ -102,6 +105,7 @@ class FileBrowserTest : public testing::Test {
     test::FakePlatform fake;
     Editor editor{fake.platform};
     FileBrowser browser;
+    Favorites favorites;
     const std::string drawings = fake.folder / "drawings/";
 };
 
