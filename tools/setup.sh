@@ -5,7 +5,7 @@ root=$(cd -P "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 
 # "a|b": either will do, the first one known is installed.
 build_packages=(g++ cmake ninja-build qt6-base-dev "qt6-svg-dev|libqt6svg6-dev" libgl1-mesa-dev
-    fonts-liberation)
+    fonts-liberation libwmf-bin)
 display_packages=(xvfb)
 test_packages=(libgtest-dev libgmock-dev libbenchmark-dev clang-format-14 xvfb openbox xdotool
     poppler-utils)
@@ -24,6 +24,7 @@ say_needs() {
   CMake 3.25, Ninja, a C++20 compiler (GCC 12 or Clang 14, or later)
   Qt 6.4 or later with the modules Core, Gui, Widgets and Svg
   to run without a display: Xvfb; to show Arial's metrics: the Liberation fonts
+  to insert .wmf pictures: libwmf's wmf2svg
   for the tests also: GoogleTest with GoogleMock, Google Benchmark, clang-format 14, Xvfb,
   openbox, xdotool and poppler's command-line tools
   (Debian 12: ${build_packages[*]%%|*} ${test_packages[*]})"

@@ -7,6 +7,8 @@ namespace ladrix {
 
 namespace {
 
+constexpr Single DefaultDashSpacing = 0.125f;  // inches
+
 void showBrowser(Program& program, BrowserMode mode) {
     program.frmFile.FileBrowserMode = mode;
     program.platform.dialogs->show(Form::frmFile);
@@ -25,6 +27,7 @@ void mnuOptSavePreferences_Click(Program& program) {
 void mnuOptRestorePreferences_Click(Program& program) {
     showBrowser(program, BrowserMode::RestorePreferences);
     if (!program.frmFile.Chosen) return;
+    program.editor.DashSpacing = DefaultDashSpacing;  // where the file leaves it empty
     ReadUserPreferences(program);
     program.editor.form.lblMessage.Caption = "User preferences restored.";
 }

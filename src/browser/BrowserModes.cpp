@@ -7,9 +7,9 @@ namespace ladrix {
 namespace {
 
 constexpr FileType ExportTypes[] = {
-    {"&PDF (.pdf)", ".pdf"},
-    {"S&VG (.svg)", ".svg"},
-    {"PN&G (.png)", ".png"},
+    {"PDF (.pdf)", ".pdf"},
+    {"SVG (.svg)", ".svg"},
+    {"PNG (.png)", ".png"},
 };
 constexpr FileType PreferencesType[] = {{"", ".upf"}};
 

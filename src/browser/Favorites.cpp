@@ -41,6 +41,7 @@ void enableButtons(FavoritesForm& form) {
 // Shows the list with this row selected, or the last one where there are fewer.
 void showList(FavoritesForm& form, const Favorites& favorites, int index) {
     LoadFavoriteFolders(favorites, form);
+    form.cmdSave.Enabled = favorites.FavoritesChanged;
     const auto last = static_cast<int>(form.lstFavorites.List.size()) - 1;
     lstFavorites_Click(form, std::min(index, last));
 }
@@ -119,7 +120,6 @@ void frmFavorites_Load(FavoritesForm& form, const Favorites& favorites) {
     form.cmdMoveDown = captioned("Move &Down");
     form.cmdSave = captioned("&Save");
     form.cmdExit = captioned("E&xit");
-    form.cmdSave.Enabled = favorites.FavoritesChanged;
     showList(form, favorites, -1);
 }
 
@@ -159,7 +159,7 @@ void frmFavorites_cmdMoveDown_Click(FavoritesForm& form, Favorites& favorites) {
 void frmFavorites_cmdSave_Click(FavoritesForm& form, Favorites& favorites, FileBrowser& browser,
                                 const Editor& editor) {
     SaveFavorites(favorites, browser, editor);
-    lstFavorites_Click(form, form.lstFavorites.ListIndex);
+    showList(form, favorites, form.lstFavorites.ListIndex);
 }
 
 void lstFavorites_Click(FavoritesForm& form, int index) {

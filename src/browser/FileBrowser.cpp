@@ -20,7 +20,7 @@ void showTexts(FileBrowser& browser, const ModeTraits& traits) {
     browser.cmdSaveAs = captioned(traits.saves ? std::string(traits.OkCaption) : "&Save");
     browser.cmdOpenCancel = captioned("Cancel");
     browser.cmdNewFolder = captioned("&New Folder");
-    browser.cmdPreviewAll = captioned("Preview &All");
+    browser.cmdPreviewAll = captioned("Preview A&ll");
     browser.lblHeading = captioned(std::string(traits.heading));
     browser.lblHeading.Visible = !traits.heading.empty();
     browser.lblPrompt = captioned(std::string(traits.prompt));

@@ -7,6 +7,7 @@
 
 #include "app/Startup.h"
 #include "qt/DescriptionDialog.h"
+#include "qt/FavoritesDialog.h"
 #include "qt/FileDialog.h"
 #include "qt/LogDialog.h"
 #include "qt/MainWindow.h"
@@ -33,7 +34,9 @@ Options readOptions(const QStringList& arguments) {
     return {{}, false};
 }
 
+// A form that another one shows stands before that one.
 void runForm(Program& program, QWidget* window, Form form) {
+    if (QWidget* const before = QApplication::activeModalWidget()) window = before;
     switch (form) {
         case Form::frmFile:
             FileDialog(program, window).run();
@@ -46,6 +49,8 @@ void runForm(Program& program, QWidget* window, Form form) {
             return;
         case Form::frmTextProps:
             TextPropsDialog(program, window).run();
+        case Form::frmFavorites:
+            FavoritesDialog(program, window).run();
             return;
         default:
             return;

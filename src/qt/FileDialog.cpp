@@ -1,34 +1,37 @@
 #include "qt/FileDialog.h"
 
 #include <QButtonGroup>
+#include <QComboBox>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QRadioButton>
 #include <QScreen>
 #include <QShortcut>
 #include <QSplitter>
+#include <QStackedWidget>
 #include <QToolButton>
 #include <QVBoxLayout>
 
 #include "app/FileCommands.h"
-#include "browser/BrowserFolders.h"
 #include "browser/BrowserSaving.h"
 #include "qt/FileIcons.h"
 #include "qt/FileListView.h"
 #include "qt/PathBar.h"
 #include "qt/PreviewBox.h"
+#include "qt/PreviewSheet.h"
 #include "qt/QtText.h"
+#include "qt/Theme.h"
 
 namespace ladrix {
 
 namespace {
 
-constexpr int Space = 8;
-constexpr int Margin = 12;
+constexpr int Space = 2 * theme::Unit;
+constexpr int Margin = 3 * theme::Unit;
 
 QPushButton* makeButton(const char* name, QWidget* parent) {
     auto* const button = new QPushButton(parent);
@@ -37,10 +40,11 @@ QPushButton* makeButton(const char* name, QWidget* parent) {
     return button;
 }
 
-void showButton(QPushButton* button, const Control& control) {
-    button->setText(toQString(control.Caption));
-    button->setEnabled(control.Enabled);
-    button->setVisible(control.Visible);
+QHBoxLayout* makeRow(QWidget* row) {
+    auto* const layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(Space);
+    return layout;
 }
 
 }  // namespace
@@ -58,20 +62,41 @@ FileDialog::FileDialog(Program& program, QWidget* parent)
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(Margin, Margin, Margin, Margin);
     layout->setSpacing(Space);
+    layout->addWidget(makePrompt());
     layout->addWidget(makeTop());
+    layout->addWidget(makeFavorites());
     layout->addWidget(makeMiddle(), 1);
     layout->addWidget(makeNameRow());
     layout->addWidget(makeButtons());
     connectControls();
+    connectFolders();
+    connectList(FileList1_);
+    connectList(sheet_);
     makeShortcuts();
     setTabOrders();
 }
 
+QWidget* FileDialog::makePrompt() {
+    auto* const box = new QWidget(this);
+    auto* const layout = new QVBoxLayout(box);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(Space / 2);
+    lblHeading_ = new QLabel(box);
+    lblHeading_->setObjectName(QStringLiteral("lblHeading"));
+    QFont bold = lblHeading_->font();
+    bold.setBold(true);
+    lblHeading_->setFont(bold);
+    lblPrompt_ = new QLabel(box);
+    lblPrompt_->setObjectName(QStringLiteral("lblPrompt"));
+    lblPrompt_->setWordWrap(true);
+    layout->addWidget(lblHeading_);
+    layout->addWidget(lblPrompt_);
+    return box;
+}
+
 QWidget* FileDialog::makeTop() {
     auto* const row = new QWidget(this);
-    auto* const layout = new QHBoxLayout(row);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(Space);
+    auto* const layout = makeRow(row);
     cmdUp_ = new QToolButton(row);
     cmdUp_->setObjectName(QStringLiteral("cmdUp"));
     cmdUp_->setIcon(fileIcon(FileIcon::Up));
@@ -90,16 +115,61 @@ QWidget* FileDialog::makeTop() {
     return row;
 }
 
+QWidget* FileDialog::makeFavorites() {
+    auto* const row = new QWidget(this);
+    auto* const layout = makeRow(row);
+    auto* const label = new QLabel(tr("Favo&rites"), row);
+    cmbFavorites_ = new QComboBox(row);
+    cmbFavorites_->setObjectName(QStringLiteral("cmbFavorites"));
+    cmbFavorites_->setMinimumContentsLength(10);
+    cmbFavorites_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    label->setBuddy(cmbFavorites_);
+    cmdGoFavorite_ = makeButton("cmdGoFavorite", row);
+    cmdAddToFavorites_ = makeButton("cmdAddToFavorites", row);
+    options_ = new QToolButton(row);
+    options_->setObjectName(QStringLiteral("mnuOptions"));
+    options_->setText(tr("O&ptions"));
+    options_->setPopupMode(QToolButton::InstantPopup);
+    options_->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    auto* const menu = new QMenu(options_);
+    menu->addAction(tr("&Add This Folder to Favorites"), cmdAddToFavorites_, &QPushButton::click)
+        ->setObjectName(QStringLiteral("mnuOptAddToFavorites"));
+    menu->addAction(tr("&Manage Favorites..."), this,
+                    [this] { handle([this] { mnuOptManageFavorites_Click(program_); }); })
+        ->setObjectName(QStringLiteral("mnuOptManageFavorites"));
+    options_->setMenu(menu);
+    layout->addWidget(label);
+    layout->addWidget(cmbFavorites_, 1);
+    layout->addWidget(cmdGoFavorite_);
+    layout->addWidget(cmdAddToFavorites_);
+    layout->addWidget(options_);
+    return row;
+}
+
 QWidget* FileDialog::makeMiddle() {
     auto* const splitter = new QSplitter(this);
     splitter->setChildrenCollapsible(false);
     splitter->setHandleWidth(Space);
-    FileList1_ = new FileListView(browser_, splitter);
+    lists_ = new QStackedWidget(splitter);
+    FileList1_ = new FileListView(browser_, lists_);
     FileList1_->setObjectName(QStringLiteral("FileList1"));
     FileList1_->setAccessibleName(tr("Folders and files"));
+    sheet_ = new PreviewSheet(program_, lists_);
+    sheet_->setObjectName(QStringLiteral("previewSheet"));
+    sheet_->setAccessibleName(tr("Previews of the folder's drawings"));
+    lists_->addWidget(FileList1_);
+    lists_->addWidget(sheet_);
+    splitter->addWidget(lists_);
+    splitter->addWidget(preview_ = makePreview());
+    splitter->setStretchFactor(0, 3);
+    splitter->setStretchFactor(1, 2);
+    splitter->setSizes({600, 400});  // shares, not pixels: the splitter fits them to its width
+    return splitter;
+}
 
-    preview_ = new QWidget(splitter);
-    framPreview_ = new QGroupBox(preview_);
+QWidget* FileDialog::makePreview() {
+    auto* const side = new QWidget(this);
+    framPreview_ = new QGroupBox(side);
     framPreview_->setObjectName(QStringLiteral("framPreview"));
     auto* const frame = new QVBoxLayout(framPreview_);
     frame->setContentsMargins(Space, Space, Space, Space);
@@ -107,27 +177,22 @@ QWidget* FileDialog::makeMiddle() {
     picPreview_->setObjectName(QStringLiteral("picPreview"));
     frame->addWidget(picPreview_);
 
-    auto* const label = new QLabel(tr("&Description"), preview_);
-    txtDescription_ = new QPlainTextEdit(preview_);
+    lblDescription_ = new QLabel(tr("&Description"), side);
+    txtDescription_ = new QPlainTextEdit(side);
     txtDescription_->setObjectName(QStringLiteral("txtDescription"));
     txtDescription_->setReadOnly(true);
     txtDescription_->setTabChangesFocus(true);
     txtDescription_->setFixedHeight(5 * fontMetrics().lineSpacing());
-    label->setBuddy(txtDescription_);
+    lblDescription_->setBuddy(txtDescription_);
 
-    auto* const layout = new QVBoxLayout(preview_);
+    auto* const layout = new QVBoxLayout(side);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(Space / 2);
     layout->addWidget(framPreview_, 1);
     layout->addSpacing(Space / 2);
-    layout->addWidget(label);
+    layout->addWidget(lblDescription_);
     layout->addWidget(txtDescription_);
-    splitter->addWidget(FileList1_);
-    splitter->addWidget(preview_);
-    splitter->setStretchFactor(0, 3);
-    splitter->setStretchFactor(1, 2);
-    splitter->setSizes({600, 400});  // shares, not pixels: the splitter fits them to its width
-    return splitter;
+    return side;
 }
 
 QWidget* FileDialog::makeNameRow() {
@@ -135,40 +200,33 @@ QWidget* FileDialog::makeNameRow() {
     auto* const layout = new QGridLayout(nameRow_);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(Space);
-    auto* const name = new QLabel(tr("&File name"), nameRow_);
+    lblSaveAs_ = new QLabel(nameRow_);
     txtSaveAs_ = new QLineEdit(nameRow_);
     txtSaveAs_->setObjectName(QStringLiteral("txtSaveAs"));
-    name->setBuddy(txtSaveAs_);
-    auto* const type = new QLabel(tr("File type"), nameRow_);
-    auto* const types = new QWidget(nameRow_);
-    types->setObjectName(QStringLiteral("optFileType"));
-    auto* const row = new QHBoxLayout(types);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(2 * Margin);
+    lblSaveAs_->setBuddy(txtSaveAs_);
+    lblFileType_ = new QLabel(tr("File type"), nameRow_);
+    fileTypes_ = new QWidget(nameRow_);
+    fileTypes_->setObjectName(QStringLiteral("optFileType"));
+    fileTypeRow_ = makeRow(fileTypes_);
+    fileTypeRow_->setSpacing(2 * Margin);
     optFileType_ = new QButtonGroup(this);
-    const QString captions[] = {tr("&Drawing (.els)"), tr("&Template (.tpl)")};
-    for (int i = 0; i < 2; ++i) {
-        auto* const option = new QRadioButton(captions[i], types);
-        option->setObjectName(QStringLiteral("optFileType%1").arg(i));
-        optFileType_->addButton(option, i);
-        row->addWidget(option);
-    }
-    row->addStretch(1);
-    layout->addWidget(name, 0, 0);
+    layout->addWidget(lblSaveAs_, 0, 0);
     layout->addWidget(txtSaveAs_, 0, 1);
-    layout->addWidget(type, 1, 0);
-    layout->addWidget(types, 1, 1);
+    layout->addWidget(lblFileType_, 1, 0);
+    layout->addWidget(fileTypes_, 1, 1);
     return nameRow_;
 }
 
 QWidget* FileDialog::makeButtons() {
     auto* const row = new QWidget(this);
-    auto* const layout = new QHBoxLayout(row);
+    auto* const layout = makeRow(row);
     layout->setContentsMargins(0, Space / 2, 0, 0);
-    layout->setSpacing(Space);
+    cmdPreviewAll_ = makeButton("cmdPreviewAll", row);
+    cmdPreviewAll_->setCheckable(true);
     cmdOpenOK_ = makeButton("cmdOpenOK", row);
     cmdSaveAs_ = makeButton("cmdSaveAs", row);
     cmdOpenCancel_ = makeButton("cmdOpenCancel", row);
+    layout->addWidget(cmdPreviewAll_);
     layout->addStretch(1);
     layout->addWidget(cmdOpenOK_);
     layout->addWidget(cmdSaveAs_);
@@ -177,25 +235,6 @@ QWidget* FileDialog::makeButtons() {
 }
 
 void FileDialog::connectControls() {
-    connect(cmdUp_, &QToolButton::clicked, this,
-            [this] { handle([this] { goToParentFolder(browser_, editor_); }); });
-    connect(Dir1_, &PathBar::folderChosen, this, [this](const std::string& folder) {
-        handle([&] { Dir1_Change(browser_, editor_, folder); });
-        FileList1_->setFocus();
-    });
-    connect(Dir1_, &PathBar::pathTyped, this, [this](const std::string& path) {
-        handle([&] { goToPath(browser_, editor_, path); });
-    });
-    connect(Dir1_, &PathBar::editEnded, FileList1_, [this] { FileList1_->setFocus(); });
-    connect(FileList1_, &FileListView::marked, this, [this] {
-        handle([this] { FileList1_Click(browser_, editor_, FileList1_->markedRow()); });
-    });
-    connect(FileList1_, &FileListView::chosen, this,
-            [this](int row) { handle([&] { FileList1_DblClick(browser_, editor_, row); }); });
-    connect(FileList1_, &FileListView::parentWanted, cmdUp_, &QToolButton::click);
-    connect(FileList1_, &FileListView::columnClicked, this, [this](BrowserOrder order) {
-        handle([&] { FileList1_ColumnClick(browser_, order); });
-    });
     connect(txtSaveAs_, &QLineEdit::textEdited, this, [this](const QString& text) {
         handle([&] { txtSaveAs_Change(browser_, fromQString(text)); });
     });
@@ -204,11 +243,57 @@ void FileDialog::connectControls() {
     });
     connect(cmdNewFolder_, &QPushButton::clicked, this,
             [this] { handle([this] { cmdNewFolder_Click(browser_, editor_); }); });
+    connect(cmdPreviewAll_, &QPushButton::clicked, this, [this] {
+        handle([this] { cmdPreviewAll_Click(browser_); });
+        lists_->currentWidget()->setFocus();
+    });
     connect(cmdOpenOK_, &QPushButton::clicked, this,
             [this] { handle([this] { cmdOpenOK_Click(browser_, editor_); }); });
     connect(cmdSaveAs_, &QPushButton::clicked, this,
             [this] { handle([this] { cmdSaveAs_Click(browser_, editor_); }); });
     connect(cmdOpenCancel_, &QPushButton::clicked, this, &FileDialog::reject);
+}
+
+void FileDialog::connectFolders() {
+    connect(cmdUp_, &QToolButton::clicked, this,
+            [this] { handle([this] { goToParentFolder(browser_, editor_); }); });
+    connect(Dir1_, &PathBar::folderChosen, this, [this](const std::string& folder) {
+        handle([&] { Dir1_Change(browser_, editor_, folder); });
+        lists_->currentWidget()->setFocus();
+    });
+    connect(Dir1_, &PathBar::pathTyped, this, [this](const std::string& path) {
+        handle([&] { goToPath(browser_, editor_, path); });
+    });
+    connect(Dir1_, &PathBar::editEnded, this, [this] { lists_->currentWidget()->setFocus(); });
+    connect(cmbFavorites_, &QComboBox::textActivated, this, [this](const QString& folder) {
+        handle([&] { cmbFavorites_Change(browser_, fromQString(folder)); });
+    });
+    connect(cmdGoFavorite_, &QPushButton::clicked, this,
+            [this] { handle([this] { cmdGoFavorite_Click(browser_, editor_); }); });
+    connect(cmdAddToFavorites_, &QPushButton::clicked, this, [this] {
+        handle([this] { cmdAddToFavorites_Click(browser_, program_.favorites, editor_); });
+    });
+}
+
+void FileDialog::connectList(FileListView* list) {
+    connect(list, &FileListView::marked, this, [this, list] {
+        handle([&] { FileList1_Click(browser_, editor_, list->markedRow()); });
+    });
+    connect(list, &FileListView::chosen, this,
+            [this](int row) { handle([&] { FileList1_DblClick(browser_, editor_, row); }); });
+    connect(list, &FileListView::parentWanted, cmdUp_, &QToolButton::click);
+    connect(list, &FileListView::columnClicked, this, [this](BrowserOrder order) {
+        handle([&] { FileList1_ColumnClick(browser_, order); });
+    });
+}
+
+void FileDialog::connectList(PreviewSheet* sheet) {
+    connect(sheet, &PreviewSheet::marked, this, [this, sheet] {
+        handle([&] { FileList1_Click(browser_, editor_, sheet->markedRow()); });
+    });
+    connect(sheet, &PreviewSheet::chosen, this,
+            [this](int row) { handle([&] { FileList1_DblClick(browser_, editor_, row); }); });
+    connect(sheet, &PreviewSheet::parentWanted, cmdUp_, &QToolButton::click);
 }
 
 void FileDialog::makeShortcuts() {
@@ -223,16 +308,10 @@ void FileDialog::makeShortcuts() {
 
 // What is used most comes first; the folders of the path come last.
 void FileDialog::setTabOrders() {
-    QWidget* const order[] = {FileList1_,
-                              txtDescription_,
-                              txtSaveAs_,
-                              optFileType_->button(0),
-                              optFileType_->button(1),
-                              cmdOpenOK_,
-                              cmdSaveAs_,
-                              cmdOpenCancel_,
-                              cmdNewFolder_,
-                              cmdUp_};
+    QWidget* const order[] = {FileList1_,     sheet_,         txtDescription_, txtSaveAs_,
+                              fileTypes_,     cmdPreviewAll_, cmdOpenOK_,      cmdSaveAs_,
+                              cmdOpenCancel_, cmbFavorites_,  cmdGoFavorite_,  cmdAddToFavorites_,
+                              options_,       cmdNewFolder_,  cmdUp_};
     for (std::size_t i = 1; i < std::size(order); ++i)
         setTabOrder(order[i - 1], order[i]);
 }
@@ -241,10 +320,10 @@ int FileDialog::run() {
     loadBrowser(program_);
     takeSize();
     showState();
-    if (editor_.drawing.SaveInProgress)
+    if (isSaving(browser_, editor_.drawing))
         txtSaveAs_->setFocus();
     else
-        FileList1_->setFocus();
+        lists_->currentWidget()->setFocus();
     exec();
     browser_.Width = static_cast<Single>(width());
     browser_.Height = static_cast<Single>(height());
@@ -263,45 +342,6 @@ void FileDialog::takeSize() {
 
 void FileDialog::reject() {
     handle([this] { cmdOpenCancel_Click(browser_, editor_); });
-}
-
-void FileDialog::showState() {
-    if (!browser_.Visible) return done(0);
-    setWindowTitle(toQString(browser_.Caption));
-    if (shownFolder_ != browser_.BrowserFolder) {
-        shownFolder_ = browser_.BrowserFolder;
-        Dir1_->setPath(pathParts(browser_, *program_.platform.files));
-        cmdUp_->setEnabled(parentFolder(*program_.platform.files, shownFolder_) != shownFolder_);
-    }
-    FileList1_->showState();
-    showButton(cmdNewFolder_, browser_.cmdNewFolder);
-    showButton(cmdOpenOK_, browser_.cmdOpenOK);
-    showButton(cmdSaveAs_, browser_.cmdSaveAs);
-    showButton(cmdOpenCancel_, browser_.cmdOpenCancel);
-    (browser_.cmdSaveAs.Visible ? cmdSaveAs_ : cmdOpenOK_)->setDefault(true);
-    showSaveName();
-    showPreview();
-}
-
-void FileDialog::showSaveName() {
-    nameRow_->setVisible(browser_.txtSaveAs.Visible);
-    const QString name = toQString(browser_.txtSaveAs.Text);
-    if (txtSaveAs_->text() != name) txtSaveAs_->setText(name);
-    optFileType_->button(browser_.optFileType)->setChecked(true);
-    if (selectRequests_ == browser_.txtSaveAs.SelectAllRequests) return;
-    selectRequests_ = browser_.txtSaveAs.SelectAllRequests;
-    // The name is what will be typed over; its extension may stay.
-    const std::string_view stem = nameWithoutExtension(browser_.txtSaveAs.Text);
-    txtSaveAs_->setSelection(0, static_cast<int>(toQString(stem).size()));
-}
-
-void FileDialog::showPreview() {
-    preview_->setVisible(browser_.framPreview.Visible);
-    framPreview_->setTitle(toQString(browser_.framPreview.Caption));
-    if (shownPreview_ == browser_.PreviewVersion) return;
-    shownPreview_ = browser_.PreviewVersion;
-    txtDescription_->setPlainText(toQString(browser_.txtDescription.Text));
-    picPreview_->update();
 }
 
 }  // namespace ladrix

@@ -5,7 +5,7 @@
 
 namespace ladrix {
 
-enum class FileIcon { Folder, Drawing, Template, Up };
+enum class FileIcon { Folder, Drawing, Template, Up, Picture, Library, Page };
 
 const QIcon& fileIcon(FileIcon icon);
 

@@ -46,7 +46,13 @@ QString sizeText(const FileEntry& entry) {
 
 const QIcon& iconOf(const FileEntry& entry) {
     if (entry.isFolder) return fileIcon(FileIcon::Folder);
-    return fileIcon(extensionOf(entry.name) == ".tpl" ? FileIcon::Template : FileIcon::Drawing);
+    const std::string extension = extensionOf(entry.name);
+    if (extension == ".els") return fileIcon(FileIcon::Drawing);
+    if (extension == ".tpl") return fileIcon(FileIcon::Template);
+    if (extension == ".lib") return fileIcon(FileIcon::Library);
+    const bool picture = matchesFilter(entry.name, traitsOf(BrowserMode::Picture).BrowserFilter) ||
+                         extension == ".png" || extension == ".svg";
+    return fileIcon(picture ? FileIcon::Picture : FileIcon::Page);
 }
 
 constexpr int RowMargin = 3;

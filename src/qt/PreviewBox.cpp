@@ -3,7 +3,9 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "qt/QtImages.h"
 #include "qt/QtPainterPage.h"
+#include "qt/QtText.h"
 
 namespace ladrix {
 
@@ -61,15 +63,45 @@ void PreviewBox::renderPage(const QRect& page) {
     surface.flush();
 }
 
+QString PreviewBox::note() const {
+    const FileBrowser& browser = program_.frmFile;
+    if (!browser.PreviewNote.empty()) return toQString(browser.PreviewNote);
+    switch (traitsOf(browser.FileBrowserMode).preview) {
+        case BrowserPreview::Picture:
+            return tr("Select a picture to see it here.");
+        case BrowserPreview::Drawing:
+            return tr("Select a drawing to see it here.");
+        default:
+            return {};
+    }
+}
+
+// In its own size, or as large as there is room.
+void PreviewBox::paintPicture(QPainter& painter, const QtPicture& picture) const {
+    const QRect room = rect().adjusted(Margin, Margin, -Margin, -Margin);
+    QSize size(picture.pixelWidth(), picture.pixelHeight());
+    if (size.width() > room.width() || size.height() > room.height())
+        size.scale(room.size(), Qt::KeepAspectRatio);
+    QRect place(QPoint(), size.expandedTo(QSize(1, 1)));
+    place.moveCenter(room.center());
+    paintShadow(painter, place);
+    painter.fillRect(place, Qt::white);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(place, picture.shrunkTo(place.size() * devicePixelRatioF()));
+}
+
 void PreviewBox::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), Desk);
     const QRect page = pageRect();
     if (page.width() <= 0 || page.height() <= 0) return;
-    if (!program_.frmFile.PreviewShown) {
+    const FileBrowser& browser = program_.frmFile;
+    if (const auto* const picture = dynamic_cast<const QtPicture*>(browser.PreviewPicture.get()))
+        return paintPicture(painter, *picture);
+    if (!browser.PreviewShown) {
+        const QRect room = rect().adjusted(2 * Margin, Margin, -2 * Margin, -Margin);
         painter.setPen(palette().color(QPalette::PlaceholderText));
-        painter.drawText(page, Qt::AlignCenter | Qt::TextWordWrap,
-                         tr("Select a drawing to see it here."));
+        painter.drawText(room, Qt::AlignCenter | Qt::TextWordWrap, note());
         return;
     }
     paintShadow(painter, page);

@@ -1,4 +1,5 @@
-// The preview in the browser: the selected drawing's page on a desk, as large as the room allows.
+// The preview in the browser: the selected drawing's page, or the selected picture, on a desk, as
+// large as the room allows.
 #pragma once
 
 #include <QPixmap>
@@ -7,6 +8,8 @@
 #include "app/Program.h"
 
 namespace ladrix {
+
+class QtPicture;
 
 class PreviewBox final : public QWidget {
     Q_OBJECT
@@ -22,6 +25,8 @@ class PreviewBox final : public QWidget {
   private:
     QRect pageRect() const;
     void renderPage(const QRect& page);
+    QString note() const;  // in the place of a preview
+    void paintPicture(QPainter& painter, const QtPicture& picture) const;
 
     Program& program_;
     QPixmap image_;  // of the page, kept until the preview or the room changes

@@ -3,6 +3,7 @@
 #include <QFileInfo>
 #include <QImageReader>
 
+#include "qt/MetafilePicture.h"
 #include "qt/QtText.h"
 
 namespace ladrix {
@@ -33,6 +34,7 @@ std::shared_ptr<const Picture> QtImages::load(const std::string& path) {
     if (!info.exists()) throw Failure{failure::FileNotFound, path + ": file not found"};
     if (!info.isFile()) throw Failure{failure::PathFileAccess, path + ": not a regular file"};
 
+    if (isMetafile(file)) return std::make_shared<QtPicture>(readMetafile(file), MetafileDensity);
     QImageReader reader(file);
     reader.setDecideFormatFromContent(true);
     reader.setAutoTransform(true);

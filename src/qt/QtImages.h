@@ -1,4 +1,4 @@
-// Picture files of every format that the toolkit reads.
+// Picture files of every format that the toolkit reads, and Windows metafiles.
 #pragma once
 
 #include <QImage>
@@ -9,9 +9,11 @@ namespace ladrix {
 
 class QtPicture final : public Picture {
   public:
-    explicit QtPicture(QImage image) : image_(std::move(image)) {}
-    int pixelWidth() const override { return image_.width(); }
-    int pixelHeight() const override { return image_.height(); }
+    // `density`: image pixels to one pixel of the picture's size.
+    explicit QtPicture(QImage image, int density = 1)
+        : image_(std::move(image)), density_(density) {}
+    int pixelWidth() const override { return qMax(image_.width() / density_, 1); }
+    int pixelHeight() const override { return qMax(image_.height() / density_, 1); }
     const QImage& image() const { return image_; }
 
     // The image averaged down to about this size; the image itself where it is not far larger.
@@ -20,6 +22,7 @@ class QtPicture final : public Picture {
 
   private:
     QImage image_;
+    int density_ = 1;
     mutable QImage shrunk_;
 };
 
