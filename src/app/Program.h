@@ -11,6 +11,7 @@
 #include "canvas/Editor.h"
 #include "canvas/TextProperties.h"
 #include "platform/Platform.h"
+#include "usersymbols/UserSymbols.h"
 
 namespace ladrix {
 
@@ -45,6 +46,7 @@ struct Program {
     FileBrowser frmFile;
     Favorites favorites;
     FavoritesForm frmFavorites;
+    UserSymbols usersymbols;
     LogViewer frmLog;
     TextProperties frmTextProps;
     RecentFiles recentFiles;

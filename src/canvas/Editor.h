@@ -179,6 +179,9 @@ struct Editor {
 
     // The drawing has been read from its file or written to it. Set once by the layer above.
     std::function<void()> FileTouched;
+    // A user symbol's insertion point has been clicked, inches; `label` is the label that took the
+    // click, -1 for the canvas. Set once by the layer above.
+    std::function<void(Single x, Single y, Short label)> SymbolPointTaken;
 
     // Set once by the layer above.
     std::string AppFilePath, BasePath, UserSymbolsPath, UserButtonsPath;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <array>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -21,6 +22,9 @@ struct PaletteButton {
     bool HasOrientations = false;
     Short OrientationCount = 1;
     Short ButtonOrientation = 0;
+    // A user symbol's button alone: its two images and its place in the user's columns, twips.
+    std::shared_ptr<const Picture> UpPicture, CyanPicture;
+    Single Left = 0, Top = 0;
 };
 
 struct FlyOut {

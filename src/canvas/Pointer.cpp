@@ -197,6 +197,14 @@ void pressRightButton(Editor& editor) {
         editor.platform.dialogs->popUp("mnuEditDrawing");
 }
 
+// The release after this press may be another window's.
+void takeSymbolPoint(Editor& editor) {
+    editor.MouseIsDown = false;
+    editor.SymbolPointFound = true;
+    editor.SymbolPointPending = false;
+    if (editor.SymbolPointTaken) editor.SymbolPointTaken(editor.SnapX, editor.SnapY, -1);
+}
+
 }  // namespace
 
 Single snapTolerance(Single snapStep) {
@@ -256,6 +264,7 @@ void picLX_MouseDown(Editor& editor, Short button, Short, Single x, Single y) {
     editor.MouseIsDown = true;
     if (editor.SimulationMode) return;
     if (button == RightButton) return pressRightButton(editor);
+    if (editor.SavingUserSymbol && editor.SymbolPointPending) return takeSymbolPoint(editor);
     if (editor.CopyArmed && editor.CopyStage == 2) return takeCopyEnd(editor);
     if (editor.CopyArmed && editor.CopyStage == 1) {
         takeCopyStart(editor);

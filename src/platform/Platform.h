@@ -66,6 +66,13 @@ class Images {
     virtual ~Images() = default;
     // Throws a Failure if the file is missing, damaged or larger than 100 million pixels.
     virtual std::shared_ptr<const Picture> load(const std::string& path) = 0;
+    // The same from a Windows bitmap's bytes, the size held to 1 million pixels.
+    virtual std::shared_ptr<const Picture> fromBitmap(std::string_view bytes) = 0;
+    // The picture as an uncompressed 24-bit Windows bitmap. Throws a Failure for a picture that has
+    // not come from here.
+    virtual std::string bitmapText(const Picture& picture) = 0;
+    // An empty picture to draw on; at least 1 by 1, at most 1 million pixels.
+    virtual std::unique_ptr<PictureBox> makePicture(int width, int height) = 0;
 };
 
 class Fonts {

@@ -71,6 +71,21 @@ class Page : public Surface {
                               Single height) = 0;
 };
 
+// A picture that is drawn in the program: an icon, a preview. It has units of its own, which the
+// surface's coordinates are in, and is the maker's alone.
+class PictureBox : public Page {
+  public:
+    // The units: what stands at the upper left corner, and how many fill the width and the height.
+    // As made: 0, 0 and the pixels.
+    virtual void SetScale(Single left, Single top, Single width, Single height) = 0;
+    // Everything becomes BackColor.
+    virtual void Cls() = 0;
+    // A copy of what has been drawn so far.
+    virtual std::shared_ptr<const Picture> Image() = 0;
+
+    Long BackColor = White, ForeColor = Black;
+};
+
 // The canvas picLX: a view on the page with two layers. While AutoRedraw is on, drawing is
 // persistent; while it is off, drawing goes to the temporary layer above, and Cls wipes only that.
 class Canvas : public Page {

@@ -1,9 +1,11 @@
 #include "qt/QtImages.h"
 
+#include <QBuffer>
 #include <QFileInfo>
 #include <QImageReader>
 
 #include "qt/MetafilePicture.h"
+#include "qt/QtPictureBox.h"
 #include "qt/QtText.h"
 
 namespace ladrix {
@@ -46,6 +48,36 @@ std::shared_ptr<const Picture> QtImages::load(const std::string& path) {
         throw Failure{failure::InvalidProperty, path + ": " + fromQString(reader.errorString())};
     requireAtMostLargestImage(image.size(), path);
     return std::make_shared<QtPicture>(std::move(image));
+}
+
+std::shared_ptr<const Picture> QtImages::fromBitmap(std::string_view bytes) {
+    const QByteArray data =
+        QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size()));
+    QBuffer buffer;
+    buffer.setData(data);
+    QImageReader reader(&buffer, "bmp");
+    if (const QSize size = reader.size(); qint64{size.width()} * size.height() > LargestBitmap)
+        throw Failure{failure::InvalidProperty, "larger than 1 million pixels"};
+    QImage image = reader.read();
+    if (image.isNull()) throw Failure{failure::InvalidProperty, fromQString(reader.errorString())};
+    return std::make_shared<QtPicture>(std::move(image));
+}
+
+std::string QtImages::bitmapText(const Picture& picture) {
+    const auto* own = dynamic_cast<const QtPicture*>(&picture);
+    if (own == nullptr) throw Failure{failure::InvalidProperty, "The picture has no image."};
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    if (!own->image().convertToFormat(QImage::Format_RGB888).save(&buffer, "BMP"))
+        throw Failure{failure::InvalidProperty, "The picture cannot be written as a bitmap."};
+    return bytes.toStdString();
+}
+
+std::unique_ptr<PictureBox> QtImages::makePicture(int width, int height) {
+    if (width < 1 || height < 1 || qint64{width} * height > LargestBitmap)
+        throw Failure{failure::InvalidProperty, "A picture of this size cannot be made."};
+    return std::make_unique<QtPictureBox>(QSize(width, height));
 }
 
 }  // namespace ladrix

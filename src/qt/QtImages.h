@@ -27,10 +27,14 @@ class QtPicture final : public Picture {
 };
 
 constexpr qint64 LargestImage = 100'000'000;  // pixels
+constexpr qint64 LargestBitmap = 1'000'000;   // of icons and previews
 
 class QtImages final : public Images {
   public:
     std::shared_ptr<const Picture> load(const std::string& path) override;
+    std::shared_ptr<const Picture> fromBitmap(std::string_view bytes) override;
+    std::string bitmapText(const Picture& picture) override;
+    std::unique_ptr<PictureBox> makePicture(int width, int height) override;
 };
 
 }  // namespace ladrix

@@ -19,6 +19,19 @@ std::shared_ptr<const Picture> FakeImages::load(const std::string& path) {
     return std::make_shared<FakePicture>(pixels.width, pixels.height);
 }
 
+std::shared_ptr<const Picture> FakeImages::fromBitmap(std::string_view bytes) {
+    if (!bytes.starts_with("BM")) throw Failure{failure::InvalidProperty, "not a bitmap"};
+    return std::make_shared<FakePicture>(25, 25, std::string(bytes));
+}
+
+std::string FakeImages::bitmapText(const Picture& picture) {
+    return dynamic_cast<const FakePicture&>(picture).bitmap;
+}
+
+std::unique_ptr<PictureBox> FakeImages::makePicture(int width, int height) {
+    return std::make_unique<RecordingPicture>(width, height);
+}
+
 Single FakeFonts::textWidth(const FontSpec& font, std::string_view text) {
     return 0.6f * font.size / 72 * static_cast<Single>(text.size());
 }

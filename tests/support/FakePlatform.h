@@ -25,16 +25,6 @@ class FakeClipboard final : public Clipboard {
     void SetText(std::string_view value) override { text = value; }
 };
 
-class FakePicture final : public Picture {
-  public:
-    FakePicture(int width, int height) : width_(width), height_(height) {}
-    int pixelWidth() const override { return width_; }
-    int pixelHeight() const override { return height_; }
-
-  private:
-    int width_, height_;
-};
-
 // Any file that exists loads as a picture of 96 by 96 pixels, whatever it holds, unless told
 // otherwise by its name without a folder.
 class FakeImages final : public Images {
@@ -49,6 +39,11 @@ class FakeImages final : public Images {
     std::vector<std::string> loaded;  // paths, failed ones too
 
     std::shared_ptr<const Picture> load(const std::string& path) override;
+    // Any bytes that begin with "BM"; they stay with the picture, and bitmapText gives them back.
+    std::shared_ptr<const Picture> fromBitmap(std::string_view bytes) override;
+    // Of a picture that was drawn: what was drawn on it, a primitive a line behind "BM".
+    std::string bitmapText(const Picture& picture) override;
+    std::unique_ptr<PictureBox> makePicture(int width, int height) override;
 
   private:
     Files& files_;

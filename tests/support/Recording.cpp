@@ -57,6 +57,21 @@ std::string describe(const Primitive& primitive) {
     return out.str();
 }
 
+void RecordingPicture::SetScale(Single left, Single top, Single wide, Single high) {
+    scaleLeft = left;
+    scaleTop = top;
+    scaleWidth = wide;
+    scaleHeight = high;
+}
+
+std::shared_ptr<const Picture> RecordingPicture::Image() {
+    std::ostringstream bitmap;
+    bitmap << "BM " << width << " by " << height << " on " << BackColor << '\n';
+    for (const Primitive& primitive : primitives)
+        bitmap << primitive << '\n';
+    return std::make_shared<FakePicture>(width, height, bitmap.str());
+}
+
 void RecordingCanvas::Cls() {
     ++(AutoRedraw ? persistentCls : temporaryCls);
     temporary.clear();

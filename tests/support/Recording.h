@@ -2,7 +2,9 @@
 #pragma once
 
 #include <iosfwd>
+#include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/Surface.h"
@@ -117,6 +119,40 @@ class RecordingPage final : public Recording<Page> {
     RecordingPage() { name = "Page"; }
 
     std::vector<Primitive> primitives;
+
+  private:
+    void keep(const Primitive& primitive) override { primitives.push_back(primitive); }
+};
+
+// A picture that is its size and, where it came from a bitmap, the bytes.
+class FakePicture final : public Picture {
+  public:
+    FakePicture(int width, int height, std::string bytes = {})
+        : bitmap(std::move(bytes)), width_(width), height_(height) {}
+    int pixelWidth() const override { return width_; }
+    int pixelHeight() const override { return height_; }
+
+    const std::string bitmap;
+
+  private:
+    int width_, height_;
+};
+
+// Cls forgets what was drawn. Image's bitmap names the size, the background and each primitive.
+class RecordingPicture final : public Recording<PictureBox> {
+  public:
+    RecordingPicture(int pixelWidth, int pixelHeight) : width(pixelWidth), height(pixelHeight) {
+        name = "Picture";
+    }
+
+    const int width, height;  // pixels
+    std::vector<Primitive> primitives;
+    // As last set.
+    Single scaleLeft = 0, scaleTop = 0, scaleWidth = 0, scaleHeight = 0;
+
+    void SetScale(Single left, Single top, Single wide, Single high) override;
+    void Cls() override { primitives.clear(); }
+    std::shared_ptr<const Picture> Image() override;
 
   private:
     void keep(const Primitive& primitive) override { primitives.push_back(primitive); }

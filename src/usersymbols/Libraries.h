@@ -1,0 +1,67 @@
+// The current library and what is done to it. The routines up to SaveUserSymbol throw a Failure;
+// the commands below them catch it at their one error path and report it once.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "canvas/Editor.h"
+#include "usersymbols/SymbolFiles.h"
+#include "usersymbols/UserSymbols.h"
+
+namespace ladrix {
+
+// --- Reading and writing the current library
+
+// Makes LibraryFile of this folder the current library; nothing is read yet.
+void selectLibrary(UserSymbols& symbols, const Editor& editor, const std::string& folder,
+                   std::string_view libraryFile);
+LibraryPlace currentLibrary(const UserSymbols& symbols);
+
+// Finds the libraries of the data folder (the editor's BasePath), brings back or rebuilds a list
+// that is missing, and fills LibraryList.
+void ListUserLibraries(UserSymbols& symbols, Editor& editor);
+
+// The first start: takes over the list of the program's folder. Without one nothing happens.
+void UpdateOldUserSymbols(UserSymbols& symbols, Editor& editor);
+
+// The current list into LibraryLines. Without its file or folder: LibraryMissing, no lines.
+void ReadLibraryStructure(UserSymbols& symbols, Editor& editor);
+
+// Pictures and scripts of the listed symbols; those with a file missing or damaged are skipped,
+// with a line to NoteRepair. Hides the user buttons and renews the window's title.
+void LoadUserSymbols(UserSymbols& symbols, Editor& editor);
+
+// UserSymbolName into the list and its safety copy. With no symbol left it leaves both alone.
+void WriteLibraryStructure(UserSymbols& symbols, Editor& editor);
+
+// What every change ends with: the list is written, read, loaded and laid out.
+void RunLibraryChain(UserSymbols& symbols, Editor& editor);
+// The same without writing: what follows when another library has become the current one.
+void ReloadLibrary(UserSymbols& symbols, Editor& editor);
+
+// The compiled symbol under this name, which has been checked: three files, the list, "Symbol
+// Saved", the export file, then the library anew. Takes the place of a symbol of that name.
+void SaveUserSymbol(UserSymbols& symbols, Editor& editor, const std::string& name);
+
+// True if the name can be a file's; else tells why under "Illegal Filename".
+bool acceptedAsFileName(const Platform& platform, std::string_view name);
+
+// --- Commands
+
+void OpenUserLibrary(UserSymbols& symbols, Editor& editor, const std::string& folder,
+                     std::string_view libraryFile);
+void MergeUserLibrary(UserSymbols& symbols, Editor& editor, const std::string& folder,
+                      std::string_view libraryFile);
+void NewUserLibrary(UserSymbols& symbols, Editor& editor);
+// 1 the next, -1 the one before, round in a circle.
+void StepUserLibrary(UserSymbols& symbols, Editor& editor, int step);
+
+// Of the button in ContextButton; nothing happens if that is no user button.
+void DeleteUserSymbol(UserSymbols& symbols, Editor& editor);
+void RenameUserSymbol(UserSymbols& symbols, Editor& editor);
+enum class Transfer { Move, Copy };
+void TransferUserSymbol(UserSymbols& symbols, Editor& editor, Transfer kind,
+                        const std::string& folder, std::string_view libraryFile);
+
+}  // namespace ladrix

@@ -1,0 +1,63 @@
+#include "usersymbols/UserPalette.h"
+
+#include <algorithm>
+
+namespace ladrix {
+
+namespace {
+
+constexpr Single Gap = 30;  // twips between the palette's edge and its first button
+
+void beginColumns(UserSymbols& symbols, const Platform& platform) {
+    symbols.UserButtonSize = platform.screen.TwipsPerPixelX == 12 ? 432.0f : 435.0f;
+    if (symbols.LaidOutLibrary == symbols.SymbolFolder) return;
+    symbols.LaidOutLibrary = symbols.SymbolFolder;
+    symbols.UserButtonLeft = symbols.UserButtonTop = Gap;
+}
+
+void findPlaces(UserSymbols& symbols, std::size_t count) {
+    symbols.UserButtonPlace.assign(count, {symbols.UserButtonLeft, symbols.UserButtonTop});
+    const auto rows = static_cast<std::size_t>(std::max<Short>(symbols.PaletteRows, 1));
+    for (std::size_t i = 1; i < count; ++i) {
+        ButtonPlace& place = symbols.UserButtonPlace[i];
+        const ButtonPlace& previous = symbols.UserButtonPlace[i - 1];
+        if (i % rows == 0)
+            place.Left = previous.Left + symbols.UserButtonSize;
+        else
+            place = {previous.Left, previous.Top + symbols.UserButtonSize};
+    }
+}
+
+}  // namespace
+
+void LayOutUserButtons(UserSymbols& symbols, Editor& editor) {
+    std::vector<PaletteButton>& buttons = editor.form.cmdSym;
+    beginColumns(symbols, editor.platform);
+    symbols.FirstUserButton = static_cast<Short>(editor.LastBuiltInButton + 1);
+    const auto first = static_cast<std::size_t>(symbols.FirstUserButton);
+    const std::size_t room = buttons.size() - std::min(buttons.size(), first);
+    const std::size_t count = std::min(static_cast<std::size_t>(symbols.UserSymbolCount), room);
+    symbols.LastUserButton = static_cast<Short>(first + count);
+    findPlaces(symbols, count);
+    for (std::size_t i = 0; i < room; ++i) {
+        PaletteButton& button = buttons[first + i];
+        button = {};
+        if (i >= count) continue;
+        button.Tag = symbols.UserSymbolName[i];
+        button.Visible = true;
+        button.Pressed = editor.CurrentTool == static_cast<Short>(first + i);
+        button.UpPicture = symbols.UserSymbolPicture[i];
+        button.CyanPicture = symbols.UserSymbolCyanPicture[i];
+        button.Left = symbols.UserButtonPlace[i].Left;
+        button.Top = symbols.UserButtonPlace[i].Top;
+    }
+    ++editor.form.PaletteVersion;
+}
+
+Short symbolOfButton(const UserSymbols& symbols, Short button) {
+    const int row = button - symbols.FirstUserButton;
+    const bool known = symbols.FirstUserButton > 0 && row >= 0 && button < symbols.LastUserButton;
+    return known ? static_cast<Short>(row) : Short{-1};
+}
+
+}  // namespace ladrix
