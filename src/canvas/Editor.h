@@ -173,12 +173,9 @@ struct Editor {
     // Empties the undo history, with the present state as its first. Set once by the layer above.
     std::function<void()> ClearHistory;
 
-    // The insertion point of a user symbol was given by a press on this label, at this point of the
-    // page, inches. Set once by the layer above.
-    std::function<void(Short label, Single x, Single y)> SymbolPointOnLabel;
-
     // The drawing has been read from its file or written to it. Set once by the layer above.
     std::function<void()> FileTouched;
+
     // A user symbol's insertion point has been clicked, inches; `label` is the label that took the
     // click, -1 for the canvas. Set once by the layer above.
     std::function<void(Single x, Single y, Short label)> SymbolPointTaken;

@@ -101,8 +101,7 @@ void lbl_MouseDown(Editor& editor, Short index, Short button, Single x, Single y
     if (editor.CurrentTool != -1) ResetEditor(editor);
     if (editor.SavingUserSymbol) {
         editor.LastSelectedLabel = index;
-        if (editor.SymbolPointPending && editor.SymbolPointOnLabel)
-            editor.SymbolPointOnLabel(index, x, y);
+        if (editor.SymbolPointPending) takeSymbolPoint(editor, x, y, index);
         return;
     }
     if (button == RightButton) return lbl_DblClick(editor, index);

@@ -197,15 +197,15 @@ void pressRightButton(Editor& editor) {
         editor.platform.dialogs->popUp("mnuEditDrawing");
 }
 
+}  // namespace
+
 // The release after this press may be another window's.
-void takeSymbolPoint(Editor& editor) {
+void takeSymbolPoint(Editor& editor, Single x, Single y, Short label) {
     editor.MouseIsDown = false;
     editor.SymbolPointFound = true;
     editor.SymbolPointPending = false;
-    if (editor.SymbolPointTaken) editor.SymbolPointTaken(editor.SnapX, editor.SnapY, -1);
+    if (editor.SymbolPointTaken) editor.SymbolPointTaken(x, y, label);
 }
-
-}  // namespace
 
 Single snapTolerance(Single snapStep) {
     return snapStep >= 0.05f ? 0.2f * snapStep : 0.5f * snapStep;
@@ -264,7 +264,8 @@ void picLX_MouseDown(Editor& editor, Short button, Short, Single x, Single y) {
     editor.MouseIsDown = true;
     if (editor.SimulationMode) return;
     if (button == RightButton) return pressRightButton(editor);
-    if (editor.SavingUserSymbol && editor.SymbolPointPending) return takeSymbolPoint(editor);
+    if (editor.SavingUserSymbol && editor.SymbolPointPending)
+        return takeSymbolPoint(editor, editor.SnapX, editor.SnapY, -1);
     if (editor.CopyArmed && editor.CopyStage == 2) return takeCopyEnd(editor);
     if (editor.CopyArmed && editor.CopyStage == 1) {
         takeCopyStart(editor);

@@ -19,6 +19,10 @@ void picLX_MouseUp(Editor& editor, Short button, Short shift, Single x, Single y
 // Ends a polyline and arms the next one in the same style. Comes in place of the second press.
 void picLX_DblClick(Editor& editor);
 
+// The click that a user symbol's insertion point waits for, on the canvas (label -1) or on a label;
+// it goes on to the editor's hook.
+void takeSymbolPoint(Editor& editor, Single x, Single y, Short label);
+
 // Half-width of the band around a snap line in which the pointer counts as on it, inches.
 Single snapTolerance(Single snapStep);
 

@@ -49,6 +49,7 @@ void runForm(Program& program, QWidget* window, Form form) {
             return;
         case Form::frmTextProps:
             TextPropsDialog(program, window).run();
+            return;
         case Form::frmFavorites:
             FavoritesDialog(program, window).run();
             return;

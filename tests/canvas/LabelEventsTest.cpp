@@ -199,7 +199,7 @@ TEST(LabelPress, DropsTheToolAndGivesAUserSymbolItsPoint) {
     EXPECT_THAT(bench.marks(), ElementsAre(0, 1, 0));
 
     std::vector<Single> point;
-    bench.editor.SymbolPointOnLabel = [&](Short label, Single x, Single y) {
+    bench.editor.SymbolPointTaken = [&](Single x, Single y, Short label) {
         point = {static_cast<Single>(label), x, y};
     };
     bench.editor.SavingUserSymbol = true;
