@@ -34,6 +34,7 @@ class TinyFiles final : public Files {
     void remove(const std::string&) override { refuse(); }
     void rename(const std::string&, const std::string&) override { refuse(); }
     void makeFolder(const std::string&) override { refuse(); }
+    void removeFolder(const std::string&) override { refuse(); }
     bool writable(const std::string&) override { return false; }
 
   private:

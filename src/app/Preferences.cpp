@@ -39,6 +39,22 @@ std::string valueOf(const std::vector<std::string>& lines, Setting setting) {
     return lines[index].substr(TagLength);
 }
 
+// A number that the program could not have written leaves the default.
+void readDashSpacing(Program& program) {
+    const std::string value = valueOf(program.UserPrefs, Setting::DashSpacing);
+    if (value.empty()) return;
+    const Single spacing = toSingle(value);
+    if (!(spacing >= LeastDashSpacing))
+        throw Failure{failure::InvalidCall, "A dash spacing of " + value + " is not possible."};
+    program.editor.DashSpacing = spacing;
+}
+
+void readPaletteRows(Program& program) {
+    const auto rows = typedNumber(valueOf(program.UserPrefs, Setting::PaletteRows));
+    if (rows && *rows >= FewestPaletteRows && *rows <= MostPaletteRows)
+        program.usersymbols.PaletteRows = static_cast<Short>(*rows);
+}
+
 }  // namespace
 
 void ReadUserPreferences(Program& program) {
@@ -50,12 +66,8 @@ void ReadUserPreferences(Program& program) {
         program.PrefsFolder = folder;
         if (!own && !FileExists(files, folder, PreferencesName)) return;
         program.UserPrefs = linesOf(files.read(folder + std::string(PreferencesName)));
-        const std::string value = valueOf(program.UserPrefs, Setting::DashSpacing);
-        if (value.empty()) return;
-        const Single spacing = toSingle(value);
-        if (!(spacing >= LeastDashSpacing))
-            throw Failure{failure::InvalidCall, "A dash spacing of " + value + " is not possible."};
-        program.editor.DashSpacing = spacing;
+        readDashSpacing(program);
+        readPaletteRows(program);
     } catch (const Failure& failure) {
         ReportError(program, "Read User Preferences", failure);
     }

@@ -3,6 +3,8 @@
 #include "app/FailureLog.h"
 #include "canvas/Labels.h"
 #include "canvas/Undo.h"
+#include "usersymbols/Compiler.h"
+#include "usersymbols/Script.h"
 
 namespace ladrix {
 
@@ -16,6 +18,13 @@ Program::Program(Platform& machine) : platform(machine), editor(machine) {
     editor.drawing.TakeUndoSnapshot = [this] { TakeUndoSnapshot(editor); };
     editor.ClearHistory = [this] { ClearHistory(editor); };
     editor.FileTouched = [this] { KeepRecentFile(*this); };
+    editor.symbols.DrawUserSymbol = [this](const DeviceBlock& block) {
+        drawToolsUserSymbol(usersymbols, editor, block);
+    };
+    editor.SymbolPointTaken = [this](Single x, Single y, Short label) {
+        takeInsertionPoint(usersymbols, editor, x, y, label);
+    };
+    usersymbols.NoteRepair = [this](std::string_view line) { appendErrorMessage(*this, line); };
     ClearHistory(editor);
 }
 

@@ -11,6 +11,8 @@
 #include "canvas/Snap.h"
 #include "canvas/View.h"
 #include "platform/Encoding.h"
+#include "usersymbols/Libraries.h"
+#include "usersymbols/UserPalette.h"
 
 namespace ladrix {
 
@@ -143,6 +145,18 @@ void appendDiagnostics(Program& program) {
                                     "Virtual My Documents: " + paths.VirtualMyDocuments);
 }
 
+constexpr Short RowsOnTallScreen = 23, RowsOnLowScreen = 22;
+
+void listUserLibraries(Program& program) {
+    UserSymbols& symbols = program.usersymbols;
+    const bool tall = program.platform.screen.Height >= TallScreenHeight;
+    symbols.MaxSymbolsPerLibrary =
+        static_cast<Short>(symbols.PaletteRows * (tall ? RowsOnTallScreen : RowsOnLowScreen));
+    selectLibrary(symbols, program.editor, program.paths.BasePath,
+                  program.paths.UserLibraryFile);
+    ListUserLibraries(symbols, program.editor);
+}
+
 void setDefaults(Program& program) {
     Editor& editor = program.editor;
     editor.SnapStep = 0.25f;
@@ -165,6 +179,7 @@ void showPalette(Program& program) {
     editor.TallScreen = program.platform.screen.Height >= TallScreenHeight ? 1 : 0;
     LoadDeviceButtons(editor);
     LoadLibraryButtons(editor, Library::NEMA);
+    LayOutUserButtons(program.usersymbols, editor);
 }
 
 // Runs one stage of the load; a failure is reported with the stage's name and the rest goes on.
@@ -216,6 +231,13 @@ bool Form_Load(Program& program) {
     runStage(program, "Entering FillScaleList", [&] { FillScaleList(editor); });
     if (!screenIsLargeEnough(program)) return false;
     appendDiagnostics(program);
+    UserSymbols& symbols = program.usersymbols;
+    runStage(program, "Entering ListUserLibraries", [&] { listUserLibraries(program); });
+    runStage(program, "Entering UpdateOldUserSymbols",
+             [&] { UpdateOldUserSymbols(symbols, editor); });
+    runStage(program, "Entering ReadLibraryStructure",
+             [&] { ReadLibraryStructure(symbols, editor); });
+    runStage(program, "Entering LoadUserSymbols", [&] { LoadUserSymbols(symbols, editor); });
     runStage(program, "Entering Defaults", [&] { setDefaults(program); });
     runStage(program, "Entering LoadMyColors", [&] { LoadMyColors(editor); });
     runStage(program, "Entering LoadDeviceButtons", [&] { showPalette(program); });

@@ -47,6 +47,12 @@ PaletteButton& button(Editor& editor, Short index) {
     return editor.form.cmdSym.at(static_cast<std::size_t>(index));
 }
 
+// What the tool tables know a button by. A user symbol may bear the name of a built-in one.
+std::string toolTag(const Editor& editor, Short index) {
+    const std::string& tag = editor.form.cmdSym.at(static_cast<std::size_t>(index)).Tag;
+    return index > editor.LastBuiltInButton ? "US " + tag : tag;
+}
+
 Short directionOf(std::string_view tag) {
     if (tag == "Arc Left") return 1;
     if (tag == "Arc Right") return 2;
@@ -95,8 +101,8 @@ void openToolPanel(Editor& editor, std::string_view tag, ToolClass kind) {
     showPanel(editor, Panel::Radius);
 }
 
-void storeDevice(Editor& editor, PaletteButton& pressed) {
-    const std::string_view device = deviceOfPaletteText(pressed.Tag);
+void storeDevice(Editor& editor, PaletteButton& pressed, std::string_view tag) {
+    const std::string_view device = deviceOfPaletteText(tag);
     if (device != "InsertUserSymbol") pressed.DeviceName = device;
     editor.symbols.block.CurDevice = device;
 }
@@ -134,11 +140,12 @@ void cmdSym_Click(Editor& editor, Short index) {
     editor.ToolActive = true;
 
     PaletteButton& pressed = button(editor, index);
-    const ToolClass kind = classOf(pressed.Tag);
+    const std::string tag = toolTag(editor, index);
+    const ToolClass kind = classOf(tag);
     editor.form.lblMessage.Caption = pressed.Tag + " Selected" + std::string(promptTail(kind));
     pressButton(editor, index);
-    openToolPanel(editor, pressed.Tag, kind);
-    storeDevice(editor, pressed);
+    openToolPanel(editor, tag, kind);
+    storeDevice(editor, pressed, tag);
     refreshToolName(editor);
     editor.ToolBlocksBand = true;
     editor.PreviousTool = index;
@@ -172,15 +179,15 @@ void refreshToolName(Editor& editor) {
         return;
     }
     if (editor.CurrentTool == -1) return;
-    if (editor.CurrentTool > editor.LastBuiltInButton) editor.ToolName = "US ";
-    editor.ToolName += button(editor, editor.CurrentTool).Tag;
+    editor.ToolName = toolTag(editor, editor.CurrentTool);
 }
 
 void fillToolBlock(Editor& editor, Single x, Single y, Long color) {
     const PaletteButton& pressed = button(editor, editor.CurrentTool);
     DeviceBlock& block = editor.symbols.block;
     block.obj = editor.platform.picLX;
-    block.CurDevice = deviceOfPaletteText(pressed.Tag);
+    const std::string tag = toolTag(editor, editor.CurrentTool);
+    block.CurDevice = deviceOfPaletteText(tag);
     block.CurX = x;
     block.CurY = y;
     block.CurColor = color;
@@ -192,7 +199,7 @@ void fillToolBlock(Editor& editor, Single x, Single y, Long color) {
     block.CurRadius = editor.ArcRadius;
     block.CurRadius2 = editor.CircleRadius;
     block.CurAspect = 1;
-    block.CurDirection = directionOf(pressed.Tag);
+    block.CurDirection = directionOf(tag);
     block.CurOrientation = pressed.ButtonOrientation;
     block.CurFlip = editor.SymbolFlip;
 }

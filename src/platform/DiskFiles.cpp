@@ -412,6 +412,11 @@ void DiskFiles::makeFolder(const std::string& path) {
     if (mkdir(nativePath(path).c_str(), Permissions) != 0) refuse(path, errno);
 }
 
+void DiskFiles::removeFolder(const std::string& path) {
+    hook_("rmdir");
+    if (rmdir(nativePath(path).c_str()) != 0) refuse(path, errno);
+}
+
 bool DiskFiles::writable(const std::string& folder) {
     const std::string native = nativePath(folder);
     return isFolder(native) && faccessat(AT_FDCWD, native.c_str(), W_OK | X_OK, AT_EACCESS) == 0;

@@ -9,7 +9,7 @@
 namespace ladrix {
 
 // Called before each system call of a change on disk, with the call's name ("open", "write",
-// "fsync", "fchown", "fchmod", "chmod", "close", "rename", "unlink", "mkdir"). A test kills the
+// "fsync", "fchown", "fchmod", "chmod", "close", "rename", "unlink", "mkdir", "rmdir"). A test kills the
 // process there, or throws a Failure in the call's place. Cleaning up after a failure is not told.
 using SystemCallHook = std::function<void(std::string_view call)>;
 
@@ -27,6 +27,7 @@ class DiskFiles final : public Files {
     void remove(const std::string& path) override;
     void rename(const std::string& from, const std::string& to) override;
     void makeFolder(const std::string& path) override;
+    void removeFolder(const std::string& path) override;
     bool writable(const std::string& folder) override;
 
   private:

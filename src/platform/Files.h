@@ -58,7 +58,8 @@ class Files {
     virtual void remove(const std::string& path) = 0;
     // Refuses if there is something of the new name.
     virtual void rename(const std::string& from, const std::string& to) = 0;
-    virtual void makeFolder(const std::string& path) = 0;  // one level; existing is an error
+    virtual void makeFolder(const std::string& path) = 0;    // one level; existing is an error
+    virtual void removeFolder(const std::string& path) = 0;  // an empty one
     virtual bool writable(const std::string& folder) = 0;
 };
 

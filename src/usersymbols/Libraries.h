@@ -13,8 +13,8 @@ namespace ladrix {
 
 // --- Reading and writing the current library
 
-// Makes LibraryFile of this folder the current library; nothing is read yet.
-void selectLibrary(UserSymbols& symbols, const Editor& editor, const std::string& folder,
+// Makes the list in this folder the current library, by name; nothing is read yet.
+void selectLibrary(UserSymbols& symbols, Editor& editor, const std::string& folder,
                    std::string_view libraryFile);
 LibraryPlace currentLibrary(const UserSymbols& symbols);
 

@@ -40,8 +40,10 @@ struct ScriptLine {
 // the oldest alone.
 enum class ScriptGenerations { All, OldestAlone };
 
-// nullopt if a line has no separator: nothing of such a script is drawn. Throws Failure 6 for a
-// script beyond the two limits.
+// Throws Failure 6 for a script beyond the two limits.
+void requireScriptWithinLimits(std::string_view script);
+
+// nullopt if a line has no separator: nothing of such a script is drawn. Throws as above.
 std::optional<std::vector<ScriptLine>> parseScript(std::string_view script,
                                                    ScriptGenerations generations);
 

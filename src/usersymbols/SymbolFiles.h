@@ -42,37 +42,50 @@ class FolderIndex {
 
     // The name as it stands on disk; nullopt if there is no such file.
     std::optional<std::string> find(std::string_view name) const;
+    std::uintmax_t sizeOf(std::string_view name) const;  // bytes; 0 if there is no such file
     bool has(std::string_view name) const { return find(name).has_value(); }
     bool hasAll(std::string_view symbol) const;  // the symbol's three files
     bool hasAny(std::string_view symbol) const;
+    bool hasStaged() const;  // a write was interrupted
 
   private:
-    std::unordered_map<std::string, std::string> names_;  // by the name in lower case
+    std::unordered_map<std::string, FileEntry> entries_;  // by the name in lower case
 };
 
 // The list: its lines, "" for a missing file. Writing replaces the list, then its safety copy,
 // making the folder if it is missing; empty names are left out.
 std::vector<std::string> readList(Files& files, const LibraryPlace& library);
 void writeList(Files& files, const LibraryPlace& library, const std::vector<std::string>& names);
-// Adds a name at the end of the list as it stands.
-void appendToList(Files& files, const LibraryPlace& library, std::string_view name);
+// Adds names at the end of the list as it stands.
+void appendToList(Files& files, const LibraryPlace& library, const std::vector<std::string>& names);
 // The number of line ends in the list; 0 if it is missing.
 std::size_t CountLibraryLines(Files& files, const std::string& folder, std::string_view file);
 
-// A symbol's files in a symbol folder. Writing over a symbol replaces the three together.
-SymbolFiles readSymbol(Files& files, const std::string& symbolFolder, std::string_view name);
+// A symbol's files in a symbol folder, the index of which is at hand. A script beyond 1 MiB is
+// refused.
+SymbolFiles readSymbol(Files& files, const std::string& symbolFolder, const FolderIndex& index,
+                       std::string_view name);
+// Makes the folder if it is missing. Writing over a symbol replaces the three files together.
 void writeSymbol(Files& files, const std::string& symbolFolder, std::string_view name,
                  const SymbolFiles& content);
 // Removes those of the three that are there; call it when the list no longer names the symbol.
 void removeSymbol(Files& files, const std::string& symbolFolder, std::string_view name);
+// A symbol that has none of its files there yet.
+void writeNewSymbol(Files& files, const std::string& symbolFolder, std::string_view name,
+                    const SymbolFiles& content);
+// The same symbol under a name that differs in the case of letters alone.
+void changeSymbolCase(Files& files, const std::string& symbolFolder, std::string_view name);
 // Finishes what a kill has interrupted in the folder. Called before a library is read.
 void finishWrites(Files& files, const std::string& symbolFolder);
 
 // A whole library under another name; the safety copy keeps its old one.
 void renameLibrary(Files& files, const std::string& folder, std::string_view oldName,
                    std::string_view newName);
-// The list, every file in the folder, and the folder.
+// The list, every file in the folder, and the folder: out of sight in one step, then file by file.
+// Refused if the folder holds another one.
 void removeLibrary(Files& files, const LibraryPlace& library);
+// What a kill has left of removed libraries in their parent folder.
+void finishRemovals(Files& files, const std::string& folder);
 // An empty library: the folder, then the list.
 void createLibrary(Files& files, const LibraryPlace& library);
 

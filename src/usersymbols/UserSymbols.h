@@ -77,7 +77,9 @@ struct UserSymbols {
     // the library was opened elsewhere. LibraryFile is LibraryName with ".lib".
     std::string LibraryFile, LibraryName, LibraryFolder, SymbolFolder;
     std::vector<std::string> LibraryLines;  // the list as read
-    bool LibraryMissing = false;            // its list or its folder
+    // Listed names whose files are there but could not be read: they stay in the list.
+    std::vector<std::string> UnreadSymbols;
+    bool LibraryMissing = false;  // its list or its folder
 
     std::vector<std::string> LibraryList;  // all ".lib" names of the data folder, alphabetical
     Short LibraryIndex = 0;                // the current one's place there

@@ -82,6 +82,11 @@ void FaultyFiles::makeFolder(const std::string& path) {
     disk_.makeFolder(path);
 }
 
+void FaultyFiles::removeFolder(const std::string& path) {
+    enter(Operation::RemoveFolder, path);
+    disk_.removeFolder(path);
+}
+
 bool FaultyFiles::writable(const std::string& folder) {
     try {
         enter(Operation::Writable, folder);

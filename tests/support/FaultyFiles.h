@@ -19,6 +19,7 @@ enum class Operation {
     Remove,
     Rename,
     MakeFolder,
+    RemoveFolder,
     Writable,
 };
 
@@ -52,6 +53,7 @@ class FaultyFiles final : public Files {
     void remove(const std::string& path) override;
     void rename(const std::string& from, const std::string& to) override;
     void makeFolder(const std::string& path) override;
+    void removeFolder(const std::string& path) override;
     bool writable(const std::string& folder) override;
 
   private:

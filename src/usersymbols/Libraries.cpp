@@ -1,0 +1,253 @@
+#include "usersymbols/Libraries.h"
+
+#include <algorithm>
+
+#include "canvas/DrawingCommands.h"
+#include "platform/Encoding.h"
+#include "usersymbols/Script.h"
+#include "usersymbols/UserPalette.h"
+
+namespace ladrix {
+
+namespace {
+
+constexpr std::string_view OldListName = "User Symbol Structure.txt";
+constexpr std::string_view ShippedListName = "Default User Symbols.lib";
+constexpr int IconSide = 25;  // pixels, of the picture that stands in for a damaged one
+
+void note(const UserSymbols& symbols, std::string_view line) {
+    if (symbols.NoteRepair) symbols.NoteRepair(line);
+}
+
+bool endsInSuffix(std::string_view name) {
+    return name.size() >= LibrarySuffix.size() &&
+           equalIgnoringCase(name.substr(name.size() - LibrarySuffix.size()), LibrarySuffix);
+}
+
+std::vector<std::string> libraryFolders(Files& files, const std::string& data) {
+    std::vector<std::string> folders;
+    for (const FileEntry& entry : files.list(data))
+        if (entry.isFolder && !entry.isHidden && endsInSuffix(entry.name))
+            folders.push_back(entry.name);
+    return folders;
+}
+
+void sortAlphabetically(std::vector<std::string>& names) {
+    std::sort(names.begin(), names.end(), [](const std::string& a, const std::string& b) {
+        const std::string lowerA = lowerCase(a), lowerB = lowerCase(b);
+        return lowerA != lowerB ? lowerA < lowerB : a < b;
+    });
+}
+
+std::vector<std::string> scriptsIn(Files& files, const std::string& symbolFolder) {
+    std::vector<std::string> names;
+    for (const FileEntry& entry : files.list(symbolFolder))
+        if (!entry.isFolder && extensionOf(entry.name) == ".uds")
+            names.emplace_back(nameWithoutExtension(entry.name));
+    sortAlphabetically(names);
+    return names;
+}
+
+// A list that is missing comes back from its safety copy, else from the scripts of its folder.
+void bringBackList(const UserSymbols& symbols, Files& files, const LibraryPlace& library) {
+    const std::string folder = library.symbolFolder(files);
+    if (const auto copy = FolderIndex(files, folder).find(library.file())) {
+        files.copy(folder + *copy, library.path());
+        return note(symbols, library.path() + ": missing, brought back from its safety copy.");
+    }
+    std::string text;
+    for (const std::string& name : scriptsIn(files, folder))
+        text += name + "\r\n";
+    files.replace(library.path(), text);
+    note(symbols, library.path() + ": missing, made anew from the symbols in its folder.");
+}
+
+// One library that cannot be repaired keeps nobody from the others.
+void repairLibrary(const UserSymbols& symbols, Files& files, const LibraryPlace& library,
+                   bool listed) {
+    try {
+        finishWrites(files, library.symbolFolder(files));
+        if (!listed) bringBackList(symbols, files, library);
+    } catch (const Failure& failure) {
+        note(symbols, library.path() + ": not repaired. " + failure.text);
+    }
+}
+
+void hideUserButtons(Editor& editor) {
+    std::vector<PaletteButton>& buttons = editor.form.cmdSym;
+    for (auto i = static_cast<std::size_t>(editor.LastBuiltInButton) + 1; i < buttons.size(); ++i)
+        buttons[i].Visible = false;
+    ++editor.form.PaletteVersion;
+}
+
+void emptyTables(UserSymbols& symbols) {
+    symbols.UserSymbolCount = 0;
+    symbols.UserSymbolName.clear();
+    symbols.UserSymbolFile.clear();
+    symbols.UserSymbolScript.clear();
+    symbols.UserSymbolPicture.clear();
+    symbols.UserSymbolCyanPicture.clear();
+    symbols.UnreadSymbols.clear();
+}
+
+void appendSymbol(UserSymbols& symbols, const std::string& name, std::string script,
+                  std::shared_ptr<const Picture> picture,
+                  std::shared_ptr<const Picture> cyanPicture) {
+    symbols.UserSymbolName.push_back(name);
+    symbols.UserSymbolFile.push_back(name + ".uds");
+    symbols.UserSymbolScript.push_back(std::move(script));
+    symbols.UserSymbolPicture.push_back(std::move(picture));
+    symbols.UserSymbolCyanPicture.push_back(std::move(cyanPicture));
+    ++symbols.UserSymbolCount;
+}
+
+// A damaged picture takes no symbol away: a blank one stands in.
+std::shared_ptr<const Picture> pictureOf(const UserSymbols& symbols, Images& images,
+                                         std::string_view bytes, std::string_view what,
+                                         Long blank) {
+    try {
+        return images.fromBitmap(bytes);
+    } catch (const Failure& failure) {
+        note(symbols, std::string(what) + ": damaged, shown blank. " + failure.text);
+        const auto empty = images.makePicture(IconSide, IconSide);
+        empty->BackColor = blank;
+        empty->Cls();
+        return empty->Image();
+    }
+}
+
+void loadSymbol(UserSymbols& symbols, const Platform& platform, const FolderIndex& index,
+                const std::string& name) {
+    try {
+        SymbolFiles content = readSymbol(*platform.files, symbols.SymbolFolder, index, name);
+        requireScriptWithinLimits(content.script);
+        Images& images = *platform.images;
+        const std::string path = symbols.SymbolFolder + name;
+        auto picture = pictureOf(symbols, images, content.picture, path + ".bmp", White);
+        auto cyan = pictureOf(symbols, images, content.cyanPicture, path + "_Cyan.bmp", Cyan);
+        appendSymbol(symbols, name, std::move(content.script), std::move(picture), std::move(cyan));
+    } catch (const Failure& failure) {
+        symbols.UnreadSymbols.push_back(name);
+        note(symbols, symbols.SymbolFolder + name + ": left out. " + failure.text);
+        if (failure.number == failure::Overflow)
+            platform.ReportError("Load User Symbols", {failure.number, name + ": " + failure.text});
+    }
+}
+
+bool contains(const std::vector<std::string>& names, std::string_view name) {
+    return std::find(names.begin(), names.end(), name) != names.end();
+}
+
+// The names to write: the symbols in their order, then what only the list on disk knows and what is
+// there but could not be read.
+std::vector<std::string> namesToWrite(const UserSymbols& symbols, Files& files) {
+    std::vector<std::string> names = symbols.UserSymbolName;
+    for (const std::string& line : readList(files, currentLibrary(symbols)))
+        if (!contains(symbols.LibraryLines, line) && !contains(names, line)) names.push_back(line);
+    for (const std::string& name : symbols.UnreadSymbols)
+        if (!contains(names, name)) names.push_back(name);
+    std::erase(names, "");
+    return names;
+}
+
+void findLibraryIndex(UserSymbols& symbols) {
+    const auto& list = symbols.LibraryList;
+    const auto found = std::find_if(list.begin(), list.end(), [&](const std::string& file) {
+        return equalIgnoringCase(file, symbols.LibraryFile);
+    });
+    if (found != list.end()) symbols.LibraryIndex = static_cast<Short>(found - list.begin());
+}
+
+}  // namespace
+
+LibraryPlace currentLibrary(const UserSymbols& symbols) {
+    return {symbols.LibraryFolder, symbols.LibraryName};
+}
+
+void selectLibrary(UserSymbols& symbols, Editor& editor, const std::string& folder,
+                   std::string_view libraryFile) {
+    const LibraryPlace library = libraryPlace(folder, libraryFile);
+    symbols.LibraryFile = library.file();
+    symbols.LibraryName = library.Name;
+    symbols.LibraryFolder = folder;
+    symbols.SymbolFolder = library.symbolFolder(*editor.platform.files);
+    symbols.ContextButton = -1;
+    editor.UserLibraryName = library.Name;
+    if (folder == editor.BasePath) findLibraryIndex(symbols);
+}
+
+void ListUserLibraries(UserSymbols& symbols, Editor& editor) {
+    Files& files = *editor.platform.files;
+    symbols.LibraryList.clear();
+    finishRemovals(files, editor.BasePath);
+    const std::vector<std::string> folders = libraryFolders(files, editor.BasePath);
+    const FolderIndex lists(files, editor.BasePath);
+    for (const std::string& folder : folders) {
+        const LibraryPlace library{editor.BasePath, folder};
+        repairLibrary(symbols, files, library, lists.has(library.file()));
+        symbols.LibraryList.push_back(library.file());
+    }
+    sortAlphabetically(symbols.LibraryList);
+    findLibraryIndex(symbols);
+}
+
+void UpdateOldUserSymbols(UserSymbols&, Editor& editor) {
+    Files& files = *editor.platform.files;
+    if (FileExists(files, editor.BasePath, DefaultLibraryFile)) return;
+    const auto shipped = FolderIndex(files, editor.AppFilePath).find(ShippedListName);
+    if (shipped)
+        files.copy(editor.AppFilePath + *shipped,
+                   editor.BasePath + std::string(DefaultLibraryFile));
+}
+
+void ReadLibraryStructure(UserSymbols& symbols, Editor& editor) {
+    Files& files = *editor.platform.files;
+    symbols.LibraryLines.clear();
+    const auto old = FolderIndex(files, editor.BasePath).find(OldListName);
+    if (old && !FileExists(files, editor.BasePath, DefaultLibraryFile))
+        files.rename(editor.BasePath + *old, editor.BasePath + std::string(DefaultLibraryFile));
+    symbols.LibraryMissing = !FileExists(files, symbols.LibraryFolder, symbols.LibraryFile) ||
+                             !FolderExists(files, symbols.LibraryFolder, symbols.LibraryName);
+    if (!symbols.LibraryMissing) symbols.LibraryLines = readList(files, currentLibrary(symbols));
+}
+
+void LoadUserSymbols(UserSymbols& symbols, Editor& editor) {
+    Files& files = *editor.platform.files;
+    emptyTables(symbols);
+    hideUserButtons(editor);
+    UpdateTitle(editor);
+    FolderIndex index(files, symbols.SymbolFolder);
+    if (index.hasStaged()) {
+        finishWrites(files, symbols.SymbolFolder);
+        index = FolderIndex(files, symbols.SymbolFolder);
+    }
+    for (const std::string& name : symbols.LibraryLines) {
+        if (symbols.UserSymbolCount == LargestCount) return;
+        if (index.hasAll(name))
+            loadSymbol(symbols, editor.platform, index, name);
+        else if (!name.empty())
+            note(symbols, symbols.SymbolFolder + name + ": left out, a file is missing.");
+    }
+}
+
+void WriteLibraryStructure(UserSymbols& symbols, Editor& editor) {
+    Files& files = *editor.platform.files;
+    const bool someLeft = std::any_of(symbols.UserSymbolName.begin(), symbols.UserSymbolName.end(),
+                                      [](const std::string& name) { return !name.empty(); });
+    if (someLeft) writeList(files, currentLibrary(symbols), namesToWrite(symbols, files));
+}
+
+// What belonged to another library must not stay when this one cannot be read.
+void ReloadLibrary(UserSymbols& symbols, Editor& editor) {
+    emptyTables(symbols);
+    ReadLibraryStructure(symbols, editor);
+    LoadUserSymbols(symbols, editor);
+    LayOutUserButtons(symbols, editor);
+}
+
+void RunLibraryChain(UserSymbols& symbols, Editor& editor) {
+    WriteLibraryStructure(symbols, editor);
+    ReloadLibrary(symbols, editor);
+}
+
+}  // namespace ladrix
