@@ -5,6 +5,7 @@
 #include "canvas/Redraw.h"
 #include "canvas/View.h"
 #include "document/Records.h"
+#include "help/HelpCommands.h"
 
 namespace ladrix {
 
@@ -25,8 +26,13 @@ void askAndOpen(Program& program, std::string_view question, std::string_view ti
 
 }  // namespace
 
+bool mayEnd(Program& program) {
+    if (!Form_QueryUnload(program.editor)) return false;
+    return !program.frmHelp.Visible || Form_QueryUnload(program.frmHelp);
+}
+
 void exitProgram(Program& program) {
-    if (Form_QueryUnload(program.editor)) program.platform.shell->endProgram();
+    if (mayEnd(program)) program.platform.shell->endProgram();
 }
 
 void choosePage(Program& program, int choice) {

@@ -6,6 +6,8 @@
 
 namespace ladrix {
 
+// Asks about what is unsaved, in the drawing and in the help window. False: the run goes on.
+bool mayEnd(Program& program);
 void exitProgram(Program& program);
 
 // 0 and 1: letter, portrait and landscape; 2 and 3: 11 by 17 likewise.

@@ -8,6 +8,7 @@
 #include "app/RecentFiles.h"
 #include "app/LineOptions.h"
 #include "app/FileCommands.h"
+#include "app/HelpContexts.h"
 #include "canvas/Colors.h"
 #include "canvas/CopyMove.h"
 #include "canvas/DrawingCommands.h"
@@ -141,7 +142,7 @@ constexpr Command Commands[] = {
     {Menu::mnuAdminCreateSymbolExportFile, Menu::mnuAdmin, "mnuAdminCreateSymbolExportFile", "Create Symbol Export File", "", nullptr, false, false},
     {Menu::mnuAdminViewErrorLog, Menu::mnuAdmin, "mnuAdminViewErrorLog", "View Error Log File", "", mnuAdminViewErrorLog_Click, false, false},
     {Menu::mnuHelp, Menu::mnuHelp, "mnuHelp", "&Help", "", nullptr, false, false},
-    {Menu::mnuHelpContents, Menu::mnuHelp, "mnuHelpContents", "Contents", "", nullptr, false, false},
+    {Menu::mnuHelpContents, Menu::mnuHelp, "mnuHelpContents", "Contents", "F1", mnuHelpContents_Click, false, false},
     {Menu::mnuHelpOnlineTutorial, Menu::mnuHelp, "mnuHelpOnlineTutorial", "View Online Tutorials (Internet Connection Required)", "", viewTutorials, false, false},
     {Menu::mnuHelpVersion, Menu::mnuHelp, "mnuHelpVersion", "Display Software Version", "", showVersion, true, false},
     {Menu::mnuHelpDemo1, Menu::mnuHelp, "mnuHelpDemo1", "Open Demonstrational Drawing 1", "", openDemo<1>, true, false},

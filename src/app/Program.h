@@ -10,6 +10,7 @@
 #include "browser/FileBrowser.h"
 #include "canvas/Editor.h"
 #include "canvas/TextProperties.h"
+#include "help/HelpForm.h"
 #include "platform/Platform.h"
 #include "usersymbols/UserSymbols.h"
 
@@ -50,6 +51,7 @@ struct Program {
     LogViewer frmLog;
     TextProperties frmTextProps;
     RecentFiles recentFiles;
+    HelpForm frmHelp{platform};
     std::vector<std::string> UserPrefs;  // the lines of the preferences file
     std::string PrefsFolder;             // where they were read
     std::string LastErrorText;           // description of the last report

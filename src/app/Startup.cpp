@@ -110,7 +110,7 @@ void settleProgramFolder(Program& program) {
 void shareWithEditor(Program& program) {
     Editor& editor = program.editor;
     const Paths& paths = program.paths;
-    editor.AppFilePath = paths.AppFilePath;
+    editor.AppFilePath = program.frmHelp.AppFilePath = paths.AppFilePath;
     editor.BasePath = paths.BasePath;
     editor.UserSymbolsPath = paths.BasePath + paths.UserSymbolsFolder;
     editor.UserButtonsPath = paths.BasePath + paths.UserButtonsFolder;

@@ -9,6 +9,7 @@
 #include "qt/DescriptionDialog.h"
 #include "qt/FavoritesDialog.h"
 #include "qt/FileDialog.h"
+#include "qt/HelpKey.h"
 #include "qt/LogDialog.h"
 #include "qt/MainWindow.h"
 #include "qt/QtPlatform.h"
@@ -79,6 +80,10 @@ void connectPlatform(QtPlatform& machine, Program& program, MainWindow& window) 
     machine.dialogs.window = &window;
     machine.dialogs.beforeModal = refresh;
     machine.dialogs.runForm = [&](Form form) { runForm(program, &window, form); };
+    auto* const help = new HelpKey(program, &window);
+    machine.dialogs.openForm = [help](Form form) {
+        if (form == Form::frmHelp) help->openWindow();
+    };
     machine.dialogs.popUpMenu = [&](std::string_view menu) { window.popUp(menu); };
     machine.timers.afterExpiry = refresh;
     machine.shell.ended = [&program] { program.Ending = true; };

@@ -9,8 +9,8 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "app/CommandHandlers.h"
 #include "app/FileMenu.h"
-#include "canvas/DrawingCommands.h"
 #include "canvas/Keys.h"
 #include "qt/KeyCodes.h"
 #include "qt/QtText.h"
@@ -293,7 +293,7 @@ void MainWindow::keyPressEvent(QKeyEvent* event) {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-    if (!program_.Ending && !Form_QueryUnload(program_.editor)) {
+    if (!program_.Ending && !mayEnd(program_)) {
         event->ignore();
         return refresh();
     }

@@ -1,5 +1,6 @@
 #include "qt/QtDialogs.h"
 
+#include <QApplication>
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QLabel>
@@ -62,10 +63,16 @@ bool QtDialogs::turnedAway(std::string_view text) {
     return true;
 }
 
+// A box belongs to the window in which it was brought about.
+QWidget* QtDialogs::owner() const {
+    QWidget* const active = QApplication::activeWindow();
+    return window && active ? active : window;
+}
+
 Answer QtDialogs::message(std::string_view text, std::string_view title, Buttons buttons) {
     if (turnedAway(text)) return buttons == Buttons::Ok ? Answer::Ok : Answer::Cancel;
     if (beforeModal) beforeModal();
-    QMessageBox box(window);
+    QMessageBox box(owner());
     box.setObjectName("messageBox");
     box.setIcon(iconOf(buttons));
     box.setTextFormat(Qt::PlainText);
@@ -79,7 +86,7 @@ std::optional<std::string> QtDialogs::input(std::string_view prompt, std::string
                                             std::string_view value) {
     if (turnedAway(prompt)) return std::nullopt;
     if (beforeModal) beforeModal();
-    QDialog box(window);
+    QDialog box(owner());
     box.setObjectName("inputBox");
     box.setWindowTitle(toQString(title));
     box.setMinimumWidth(InputWidth);

@@ -31,6 +31,7 @@ class QtDialogs final : public Dialogs {
 
   private:
     bool turnedAway(std::string_view text);
+    QWidget* owner() const;
 };
 
 }  // namespace ladrix

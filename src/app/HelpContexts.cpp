@@ -1,0 +1,111 @@
+#include "app/HelpContexts.h"
+
+#include "help/HelpCommands.h"
+
+namespace ladrix {
+
+namespace {
+
+constexpr std::string_view MainWindowName = "frmLX";
+constexpr std::string_view AnySymbol = "symbol", UserSymbol = "user symbol";
+constexpr std::string_view Simulating = "simulation", SavingSymbol = "saving a symbol",
+                           Arranging = "arranging buttons", Zooming = "zoom",
+                           Aligning = "aligning labels", Copying = "copy or move",
+                           LabelsSelected = "labels selected", Selected = "selection",
+                           Idle = "nothing under way";
+
+// clang-format off
+constexpr HelpContext Contexts[] = {
+    {"Text", "2.7 Text"},
+    {"Line", "2.3 Lines and Dashed Lines"},
+    {"Dashed Line", "2.3 Lines and Dashed Lines"},
+    {"Square", "2.4 Squares and Dashed Squares"},
+    {"Dashed Square", "2.4 Squares and Dashed Squares"},
+    {"Small Circle", "2.5 Circles and Connection Points"},
+    {"Large Circle", "2.5 Circles and Connection Points"},
+    {"Connection Point", "2.5 Circles and Connection Points"},
+    {"Arc Left", "2.6 Arcs"},
+    {"Arc Right", "2.6 Arcs"},
+    {"Arc Up", "2.6 Arcs"},
+    {"Arc Down", "2.6 Arcs"},
+    {AnySymbol, "2.1 Placing Symbols"},
+    {UserSymbol, "7.3 The User Palette"},
+    {Simulating, "8.1 Circuit Simulation"},
+    {SavingSymbol, "7.2 Making a User Symbol"},
+    {Arranging, "7.3 The User Palette"},
+    {Zooming, "3.2 Zoom, Scrolling and Stretching"},
+    {Aligning, "4.6 Text Properties and Alignment"},
+    {Copying, "4.2 Copy and Move"},
+    {LabelsSelected, "4.6 Text Properties and Alignment"},
+    {Selected, "4.1 Selecting"},
+    {Idle, "1.1 Welcome to Ladrix"},
+    {"frmFile", "5.2 The File Browser"},
+    {"frmDesc", "5.1 Opening and Saving"},
+    {"frmLog", "9.4 Error Messages and the Error Log"},
+    {"frmTextProps", "4.6 Text Properties and Alignment"},
+    {"frmFavorites", "5.3 Favourite Folders"},
+    {"frmButtonColor", "7.2 Making a User Symbol"},
+    {"frmUS", "7.2 Making a User Symbol"},
+    {"frmUBRows", "7.3 The User Palette"},
+    {"frmLibManager", "7.5 The Library Manager"},
+    {"frmFind", "7.6 Finding a Symbol"},
+    {"frmLayout", "3.4 Page Sizes"},
+    {"frmPrinter", "6.1 Printing"},
+    {"frmPrinters", "6.1 Printing"},
+    {"frmPreview", "6.2 Print Preview"},
+    {"frmHelp", "1.5 Using This Help"},
+    {"messageBox", "9.4 Error Messages and the Error Log"},
+    {"inputBox", "9.2 Dialogs"},
+};
+// clang-format on
+
+std::string_view topicOf(std::string_view where) {
+    for (const HelpContext& context : Contexts)
+        if (context.where == where) return context.topic;
+    return {};
+}
+
+std::string_view toolContext(const Editor& editor) {
+    if (editor.CurrentTool > editor.LastBuiltInButton) return UserSymbol;
+    const auto& buttons = editor.form.cmdSym;
+    const auto index = static_cast<std::size_t>(editor.CurrentTool);
+    if (index >= buttons.size() || topicOf(buttons[index].Tag).empty()) return AnySymbol;
+    return buttons[index].Tag;
+}
+
+// What is under way in the main window.
+std::string_view editorContext(const Editor& editor) {
+    if (editor.SimulationMode) return Simulating;
+    if (editor.SavingUserSymbol) return SavingSymbol;
+    if (editor.Arranging) return Arranging;
+    if (editor.ZoomInPending || editor.ZoomOutPending) return Zooming;
+    if (editor.TextAlignPending) return Aligning;
+    if (editor.CopyArmed) return Copying;
+    if (editor.CurrentTool != -1) return toolContext(editor);
+    if (editor.SelectedCount == 0) return Idle;
+    return editor.SelectedLabelCount == editor.SelectedCount ? LabelsSelected : Selected;
+}
+
+}  // namespace
+
+std::span<const HelpContext> helpContexts() {
+    return Contexts;
+}
+
+std::string_view helpTopicOf(const Program& program, std::string_view window) {
+    const std::string_view topic = topicOf(window);
+    return topic.empty() ? topicOf(editorContext(program.editor)) : topic;
+}
+
+void openHelp(Program& program, std::string_view window) {
+    HelpForm& help = program.frmHelp;
+    if (!help.Visible) Form_Load(help);
+    goToTopic(help, helpTopicOf(program, window));
+    program.platform.dialogs->open(Form::frmHelp);
+}
+
+void mnuHelpContents_Click(Program& program) {
+    openHelp(program, MainWindowName);
+}
+
+}  // namespace ladrix

@@ -1,0 +1,132 @@
+#include "qt/HelpText.h"
+
+#include <QRegularExpression>
+#include <QScrollBar>
+#include <QSyntaxHighlighter>
+#include <QTextBlock>
+#include <algorithm>
+
+#include "qt/QtText.h"
+#include "qt/Theme.h"
+
+namespace ladrix {
+
+namespace {
+
+constexpr int MeasureInCharacters = 84;  // a line's length that is easy to read
+constexpr int TabInCharacters = 26;
+constexpr int ListInCharacters = 3;
+
+bool isHeading(const QString& line) {
+    static const QRegularExpression letters(QStringLiteral("[A-Z]{2}"));
+    return !line.contains(u'\t') && line == line.toUpper() && line.contains(letters);
+}
+
+bool isListItem(const QString& line) {
+    static const QRegularExpression item(QStringLiteral("^(- |[0-9]{1,2}\\. )"));
+    return item.match(line).hasMatch();
+}
+
+// Headings as they are typed, without a trace in the text or its undo steps.
+class Headings final : public QSyntaxHighlighter {
+  public:
+    using QSyntaxHighlighter::QSyntaxHighlighter;
+
+  protected:
+    void highlightBlock(const QString& line) override {
+        QTextCharFormat format;
+        if (isHeading(line)) {
+            format.setFontWeight(QFont::DemiBold);
+            format.setForeground(theme::Accent.darker(125));
+            setFormat(0, static_cast<int>(line.size()), format);
+        } else if (const qsizetype tab = line.indexOf(u'\t'); tab > 0) {
+            format.setFontWeight(QFont::DemiBold);
+            setFormat(0, static_cast<int>(tab), format);
+        }
+    }
+};
+
+// The box divides lines by a line feed alone.
+QString shownText(std::string_view text) {
+    return toQString(text).replace(QLatin1String("\r\n"), QLatin1String("\n"));
+}
+
+int positionOf(const HelpTextBox& state, std::size_t byte) {
+    return static_cast<int>(shownText(std::string_view(state.Text).substr(0, byte)).size());
+}
+
+}  // namespace
+
+HelpText::HelpText(QWidget* parent) : QTextEdit(parent) {
+    setAcceptRichText(false);
+    setTabChangesFocus(true);
+    setFrameShape(QFrame::NoFrame);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    document()->setDocumentMargin(0);
+    new Headings(document());
+    connect(this, &QTextEdit::textChanged, this, [this] {
+        if (!showing_) emit edited(toPlainText().toStdString());
+    });
+}
+
+void HelpText::showState(const HelpTextBox& state) {
+    showing_ = true;
+    QFont font(toQString(state.Font.name));
+    font.setPointSizeF(static_cast<double>(state.Font.size));
+    document()->setDefaultFont(font);
+    setTabStopDistance(TabInCharacters * QFontMetricsF(font).averageCharWidth());
+    setReadOnly(!state.Enabled);
+    setPlainText(shownText(state.Text));
+    formatBlocks();
+    QTextCursor cursor = textCursor();
+    cursor.setPosition(positionOf(state, state.SelStart));
+    cursor.setPosition(positionOf(state, state.SelStart + state.SelLength),
+                       QTextCursor::KeepAnchor);
+    setTextCursor(cursor);
+    if (state.SelLength == 0) verticalScrollBar()->setValue(0);
+    showing_ = false;
+}
+
+void HelpText::correct(const HelpTextBox& state) {
+    const QString held = shownText(state.Text), typed = toPlainText();
+    if (held == typed) return;
+    showing_ = true;
+    const qsizetype fromEnd = typed.size() - textCursor().position();
+    QTextCursor cursor = textCursor();
+    cursor.joinPreviousEditBlock();
+    cursor.select(QTextCursor::Document);
+    cursor.insertText(held);
+    cursor.endEditBlock();
+    cursor.setPosition(static_cast<int>(std::max<qsizetype>(0, held.size() - fromEnd)));
+    setTextCursor(cursor);
+    showing_ = false;
+}
+
+// Entries and items hang in front of what they say. Not a step that can be undone.
+void HelpText::formatBlocks() {
+    document()->setUndoRedoEnabled(false);
+    const double character = QFontMetricsF(document()->defaultFont()).averageCharWidth();
+    for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
+        const bool entry = block.text().contains(u'\t');
+        const double hang = character * (entry                      ? TabInCharacters
+                                         : isListItem(block.text()) ? ListInCharacters
+                                                                    : 0);
+        QTextBlockFormat format;
+        format.setLineHeight(125, QTextBlockFormat::ProportionalHeight);
+        format.setLeftMargin(hang);
+        format.setTextIndent(-hang);
+        QTextCursor(block).setBlockFormat(format);
+    }
+    document()->setUndoRedoEnabled(true);
+}
+
+void HelpText::resizeEvent(QResizeEvent* event) {
+    const double character = QFontMetricsF(document()->defaultFont()).averageCharWidth();
+    const int measure = static_cast<int>(MeasureInCharacters * character);
+    setLineWrapMode(QTextEdit::FixedPixelWidth);
+    setLineWrapColumnOrWidth(std::min(measure, viewport()->width()));
+    QTextEdit::resizeEvent(event);
+}
+
+}  // namespace ladrix
