@@ -44,6 +44,7 @@ struct HelpForm {
     bool HelpEdited = false;    // the current topic's text differs from the file's
     bool HelpDeleting = false;
     bool HelpOriginal = false;  // the next read takes the shipped topics
+    bool Unread = false;        // the file is there and could not be read
 
     ListBox lstHelp, lstSortedHelp;  // the second is never seen: marked titles, sorted
     unsigned ListVersion = 0;        // raised by every change of lstHelp

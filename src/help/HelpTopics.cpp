@@ -59,6 +59,7 @@ std::optional<std::string> misplacedTopic(const std::vector<HelpTopic>& topics) 
 }
 
 void replaceFile(HelpForm& help, const std::vector<HelpTopic>& topics) {
+    if (help.Unread) throw Failure{failure::PathFileAccess, "The present file could not be read."};
     Files& files = *help.platform.files;
     const std::string live = pathOf(help, TopicsName);
     if (files.status(live)) files.copy(live, pathOf(help, SpareName));
@@ -95,11 +96,13 @@ void ReadHelpFile(HelpForm& help) {
     const std::string path = pathOf(help, help.HelpOriginal ? OriginalName : TopicsName);
     help.HelpOriginal = false;
     HelpRecords records;
+    help.Unread = true;
     try {
         if (help.platform.files->status(path))
             records = readHelpRecords(help.platform.files->read(path));
         else
             help.platform.tell("Help file not found. AppFilePath = " + help.AppFilePath);
+        help.Unread = false;
     } catch (const Failure& failure) {
         help.platform.ReportError("ReadHelpFile", failure);
     }

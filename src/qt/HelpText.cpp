@@ -15,16 +15,16 @@ namespace {
 
 constexpr int MeasureInCharacters = 84;  // a line's length that is easy to read
 constexpr int TabInCharacters = 26;
-constexpr int ListInCharacters = 3;
 
 bool isHeading(const QString& line) {
     static const QRegularExpression letters(QStringLiteral("[A-Z]{2}"));
     return !line.contains(u'\t') && line == line.toUpper() && line.contains(letters);
 }
 
-bool isListItem(const QString& line) {
-    static const QRegularExpression item(QStringLiteral("^(- |[0-9]{1,2}\\. )"));
-    return item.match(line).hasMatch();
+// What stands in front of a list's item; "" if the line is none.
+QString bulletOf(const QString& line) {
+    static const QRegularExpression bullet(QStringLiteral("^(- |[0-9]{1,2}\\. )"));
+    return bullet.match(line).captured();
 }
 
 // Headings as they are typed, without a trace in the text or its undo steps.
@@ -76,6 +76,7 @@ void HelpText::showState(const HelpTextBox& state) {
     font.setPointSizeF(static_cast<double>(state.Font.size));
     document()->setDefaultFont(font);
     setTabStopDistance(TabInCharacters * QFontMetricsF(font).averageCharWidth());
+    fitLines();
     setReadOnly(!state.Enabled);
     setPlainText(shownText(state.Text));
     formatBlocks();
@@ -106,12 +107,11 @@ void HelpText::correct(const HelpTextBox& state) {
 // Entries and items hang in front of what they say. Not a step that can be undone.
 void HelpText::formatBlocks() {
     document()->setUndoRedoEnabled(false);
-    const double character = QFontMetricsF(document()->defaultFont()).averageCharWidth();
+    const QFontMetricsF metrics(document()->defaultFont());
     for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
-        const bool entry = block.text().contains(u'\t');
-        const double hang = character * (entry                      ? TabInCharacters
-                                         : isListItem(block.text()) ? ListInCharacters
-                                                                    : 0);
+        const bool isEntry = block.text().contains(u'\t');
+        const double hang =
+            isEntry ? tabStopDistance() : metrics.horizontalAdvance(bulletOf(block.text()));
         QTextBlockFormat format;
         format.setLineHeight(125, QTextBlockFormat::ProportionalHeight);
         format.setLeftMargin(hang);
@@ -121,11 +121,16 @@ void HelpText::formatBlocks() {
     document()->setUndoRedoEnabled(true);
 }
 
-void HelpText::resizeEvent(QResizeEvent* event) {
+// Lines grow no longer than is easy to read.
+void HelpText::fitLines() {
     const double character = QFontMetricsF(document()->defaultFont()).averageCharWidth();
     const int measure = static_cast<int>(MeasureInCharacters * character);
     setLineWrapMode(QTextEdit::FixedPixelWidth);
     setLineWrapColumnOrWidth(std::min(measure, viewport()->width()));
+}
+
+void HelpText::resizeEvent(QResizeEvent* event) {
+    fitLines();
     QTextEdit::resizeEvent(event);
 }
 

@@ -30,6 +30,7 @@ class HelpText final : public QTextEdit {
 
   private:
     void formatBlocks();
+    void fitLines();
 
     bool showing_ = false;
 };

@@ -208,8 +208,11 @@ void HelpWindow::showTopics() {
     if (shownList_ != help_.ListVersion) {
         shownList_ = help_.ListVersion;
         lstHelp_->clear();
-        for (const std::string& title : help_.lstHelp.List)
+        const QSize row(0, fontMetrics().height() + 2 * theme::Unit);
+        for (const std::string& title : help_.lstHelp.List) {
             lstHelp_->addItem(toQString(title));
+            lstHelp_->item(lstHelp_->count() - 1)->setSizeHint(row);
+        }
     }
     lstHelp_->setCurrentRow(help_.lstHelp.ListIndex);
     lblTitle_->setText(toQString(currentTitle(help_)));
