@@ -1,33 +1,10 @@
 #include "output/PageReplay.h"
 
-#include <utility>
+#include "output/KeepToolState.h"
 
 namespace ladrix {
 
 namespace {
-
-// The tool in hand does not notice that its parameter block has served a page meanwhile.
-class KeepToolState {
-  public:
-    explicit KeepToolState(Symbols& symbols)
-        : symbols_(symbols),
-          block_(symbols.block),
-          radius_(symbols.LastRadius),
-          direction_(symbols.LastDirection) {}
-    ~KeepToolState() {
-        symbols_.block = std::move(block_);
-        symbols_.LastRadius = radius_;
-        symbols_.LastDirection = direction_;
-    }
-    KeepToolState(const KeepToolState&) = delete;
-    KeepToolState& operator=(const KeepToolState&) = delete;
-
-  private:
-    Symbols& symbols_;
-    DeviceBlock block_;
-    Single radius_;
-    Short direction_;
-};
 
 void replayDevices(Page& page, Symbols& symbols, Drawing& drawing, const Platform& platform) {
     for (Short i = 0; i < drawing.devices.DeviceCount; ++i)
@@ -70,6 +47,25 @@ std::string replayPage(Page& page, Symbols& symbols, Drawing& drawing, const Pla
     std::string leftOut = replayPictures(page, drawing, platform);
     replayLabels(page, symbols, drawing.labels);
     return leftOut;
+}
+
+PageContent drawingPage(Symbols& symbols, Drawing& drawing, const Platform& platform, PageSize size,
+                        std::string& leftOut) {
+    PageContent content;
+    content.width = static_cast<double>(size.PageWidth);
+    content.height = static_cast<double>(size.PageHeight);
+    content.title = drawing.CurrentFileName;
+    content.paint = [&](Page& page) { leftOut = replayPage(page, symbols, drawing, platform); };
+    return content;
+}
+
+std::optional<PageFormat> pageFormatOf(std::string_view fileName) {
+    const std::string ending = extensionOf(fileName);
+    if (ending == ".pdf") return PageFormat::Pdf;
+    if (ending == ".svg") return PageFormat::Svg;
+    if (ending == ".png") return PageFormat::Png;
+    if (ending == ".bmp") return PageFormat::Bmp;
+    return std::nullopt;
 }
 
 }  // namespace ladrix

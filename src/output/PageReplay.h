@@ -2,10 +2,13 @@
 // scale, devices first, then pictures, then labels.
 #pragma once
 
+#include <optional>
 #include <string>
+#include <string_view>
 
 #include "document/Drawing.h"
-#include "platform/Surface.h"
+#include "document/PageLayout.h"
+#include "platform/PageFiles.h"
 #include "symbols/DrawDevice.h"
 
 namespace ladrix {
@@ -14,5 +17,13 @@ namespace ladrix {
 // is left out and told in the result's text, one line each ("" when all is drawn). A page that
 // fails at a text or a picture throws.
 std::string replayPage(Page& page, Symbols& symbols, Drawing& drawing, const Platform& platform);
+
+// The drawing as a page to make a file of. `leftOut` takes what replayPage tells when it is
+// painted; all arguments must live until then.
+PageContent drawingPage(Symbols& symbols, Drawing& drawing, const Platform& platform, PageSize size,
+                        std::string& leftOut);
+
+// By the name's ending, in any case: .pdf, .svg, .png, .bmp.
+std::optional<PageFormat> pageFormatOf(std::string_view fileName);
 
 }  // namespace ladrix

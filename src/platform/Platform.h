@@ -10,6 +10,8 @@
 #include <vector>
 
 #include "platform/Files.h"
+#include "platform/PageFiles.h"
+#include "platform/Printer.h"
 #include "platform/Surface.h"
 #include "platform/Types.h"
 
@@ -130,11 +132,19 @@ struct Platform {
     Fonts* fonts = nullptr;
     Shell* shell = nullptr;
     Timers* timers = nullptr;
+    Printers* printers = nullptr;
+    PageFiles* pageFiles = nullptr;
     Screen screen;
     Locale locale;
 
     // The shared failure report; set by the program at start. Never throws.
     std::function<void(std::string_view description, const Failure& failure)> ReportError;
+
+    // Set by the machine: shows the present state and lets waiting events run. Cheap to call often.
+    std::function<void()> LetEventsRun;
+    void letEventsRun() const {
+        if (LetEventsRun) LetEventsRun();
+    }
 
     bool DecimalComma() const { return locale.decimalMark == ','; }
 

@@ -6,6 +6,7 @@
 // moment of each call. A surface that cannot draw throws a Failure.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -94,6 +95,11 @@ class Canvas : public Page {
 
     // The view, in inches of the page: its upper left corner and its size.
     virtual void SetScale(Single left, Single top, Single zoom) = 0;
+
+    // The whole page at the present zoom, `width` by `height` inches, as the bytes of a Windows
+    // bitmap. `paint` draws it on this canvas, whose view is the page meanwhile. Throws a Failure
+    // if it would have over 100 million pixels.
+    virtual std::string Image(Single width, Single height, const std::function<void()>& paint) = 0;
 
     bool AutoRedraw = true;
     Long BackColor = White;

@@ -105,14 +105,8 @@ Request requestOf(std::span<const std::string> arguments) {
     return request;
 }
 
-enum class OutputFormat { Pdf, Svg, Png, Bmp };
-
-OutputFormat formatOf(const std::string& output) {
-    const std::string ending = extensionOf(output);
-    if (ending == ".pdf") return OutputFormat::Pdf;
-    if (ending == ".svg") return OutputFormat::Svg;
-    if (ending == ".png") return OutputFormat::Png;
-    if (ending == ".bmp") return OutputFormat::Bmp;
+PageFormat formatOf(const std::string& output) {
+    if (const std::optional<PageFormat> format = pageFormatOf(output)) return *format;
     throw Refusal{output + " does not end in .pdf, .svg, .png or .bmp"};
 }
 
@@ -145,6 +139,7 @@ class AbsentCanvas final : public Canvas {
     void PaintPicture(const Picture&, Single, Single, Single, Single) override {}
     void Cls() override {}
     void SetScale(Single, Single, Single) override {}
+    std::string Image(Single, Single, const std::function<void()>&) override { return {}; }
 };
 
 // The platform of a program without windows.
@@ -154,6 +149,7 @@ struct ExportMachine {
     DiskFiles files;
     QtImages images;
     QtFonts fonts;
+    QtPageFiles pageFiles;
     Platform platform;
 
     ExportMachine() {
@@ -162,6 +158,7 @@ struct ExportMachine {
         platform.files = &files;
         platform.images = &images;
         platform.fonts = &fonts;
+        platform.pageFiles = &pageFiles;
         platform.ReportError = [this](std::string_view, const Failure& failure) {
             dialogs.told.push_back(failure.text);
         };
@@ -210,23 +207,10 @@ Drawing readDrawing(ExportMachine& machine, const std::string& path) {
     return drawing;
 }
 
-std::string fileOf(const PageContent& content, OutputFormat format, double pixelsPerInch) {
-    switch (format) {
-        case OutputFormat::Pdf:
-            return pdfFile(content);
-        case OutputFormat::Svg:
-            return svgFile(content);
-        case OutputFormat::Png:
-            return bitmapFile(content, BitmapFormat::Png, pixelsPerInch);
-        case OutputFormat::Bmp:
-            return bitmapFile(content, BitmapFormat::Bmp, pixelsPerInch);
-    }
-    return {};
-}
-
-void writeOutput(ExportMachine& machine, const PageContent& content, OutputFormat format,
+void writeOutput(ExportMachine& machine, const PageContent& content, PageFormat format,
                  const Request& request) {
-    const std::string file = fileOf(content, format, request.pixelsPerInch);
+    const std::string file =
+        machine.platform.pageFiles->make(content, format, request.pixelsPerInch);
     try {
         machine.files.replace(request.output, file, false);
     } catch (const Failure& failure) {
@@ -234,7 +218,7 @@ void writeOutput(ExportMachine& machine, const PageContent& content, OutputForma
     }
 }
 
-void exportGallery(ExportMachine& machine, const Request& request, OutputFormat format) {
+void exportGallery(ExportMachine& machine, const Request& request, PageFormat format) {
     Symbols symbols;
     const GallerySheet sheet = gallerySheet(*request.gallery);
     PageContent content;
@@ -245,7 +229,7 @@ void exportGallery(ExportMachine& machine, const Request& request, OutputFormat 
     writeOutput(machine, content, format, request);
 }
 
-void exportDrawing(ExportMachine& machine, const Request& request, OutputFormat format) {
+void exportDrawing(ExportMachine& machine, const Request& request, PageFormat format) {
     Drawing drawing = readDrawing(machine, request.drawing);
     Symbols symbols;
     std::size_t unknown = 0;
@@ -254,14 +238,8 @@ void exportDrawing(ExportMachine& machine, const Request& request, OutputFormat 
         if (unknown++ == 0) unknownName = block.CurDevice;
     };
     std::string leftOut;
-    const PageSize size = *pageSize(drawing.PageLayoutKey);
-    PageContent content;
-    content.width = static_cast<double>(size.PageWidth);
-    content.height = static_cast<double>(size.PageHeight);
-    content.title = drawing.CurrentFileName;
-    content.paint = [&](Page& page) {
-        leftOut = replayPage(page, symbols, drawing, machine.platform);
-    };
+    const PageContent content =
+        drawingPage(symbols, drawing, machine.platform, *pageSize(drawing.PageLayoutKey), leftOut);
     writeOutput(machine, content, format, request);
     if (!leftOut.empty()) machine.dialogs.told.push_back(leftOut);
     if (unknown > 0)
@@ -279,7 +257,7 @@ void printLine(std::ostream& err, std::string text) {
 }
 
 void run(const Request& request, std::ostream& err) {
-    const OutputFormat format = formatOf(request.output);
+    const PageFormat format = formatOf(request.output);
     ExportMachine machine;
     if (request.gallery) {
         exportGallery(machine, request, format);

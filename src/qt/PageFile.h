@@ -1,29 +1,31 @@
-// A page as the bytes of a file. What is on it is painted by a function, so that drawings,
-// galleries and whatever comes later share the formats.
+// Pages as PDF, SVG and pictures: what the seam's PageFiles promises.
 #pragma once
 
-#include <functional>
-#include <string>
+#include <QByteArray>
+#include <QImage>
 
-#include "platform/Surface.h"
+#include "platform/PageFiles.h"
 
 namespace ladrix {
 
-struct PageContent {
-    double width = 0, height = 0;  // inches
-    std::string title;
-    std::function<void(Page&)> paint;
+class QtPageFiles final : public PageFiles {
+  public:
+    // PDF and SVG are exactly of the page's size and keep text as text; a PDF has its fonts
+    // embedded, an SVG names others that may stand in. Pictures are white behind the drawing and
+    // have at most LargestImage pixels.
+    std::string make(const PageContent& content, PageFormat format, double pixelsPerInch) override;
 };
 
-constexpr double DefaultPixelsPerInch = 96;
+// The PDF engine rounds pages to whole points; this gives every page of the file the exact size.
+// Throws a Failure if the bytes are no PDF of such pages.
+void setExactPageSize(QByteArray& pdf, QSizeF inches);
 
-// Each throws a Failure when the page is too large or the format cannot be written.
-// Exactly of the page's size, one page, fonts embedded, no margins.
-std::string pdfFile(const PageContent& content);
-// Text stays text.
-std::string svgFile(const PageContent& content);
-enum class BitmapFormat { Png, Bmp };
-// White behind the drawing; at most LargestImage pixels.
-std::string bitmapFile(const PageContent& content, BitmapFormat format, double pixelsPerInch);
+// White, of so many pixels, rounded, at this resolution. Throws a Failure if that is too large.
+QImage whiteImage(double width, double height, double pixelsPerInch);
+
+std::string encodedImage(const QImage& image, PageFormat format);  // Png or Bmp
+
+constexpr double PenUnitsPerInch = 96;  // a DrawWidth of 1 on an exported page
+constexpr int PdfUnitsPerInch = 1200;
 
 }  // namespace ladrix

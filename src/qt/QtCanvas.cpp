@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
+#include "qt/PageFile.h"
 #include "qt/QtImages.h"
 #include "qt/Theme.h"
 
@@ -82,8 +84,8 @@ void QtCanvas::SetScale(Single left, Single top, Single zoom) {
 void QtCanvas::arrange() {
     view_.scale = PixelsPerInch * zoom_;
     const auto onPixel = [this](double at) { return std::round(at * pixelRatio_) / pixelRatio_; };
-    view_.left = onPixel(Margin - scaleLeft_ * view_.scale);
-    view_.top = onPixel(Margin - scaleTop_ * view_.scale);
+    view_.left = wholePage_ ? 0 : onPixel(Margin - scaleLeft_ * view_.scale);
+    view_.top = wholePage_ ? 0 : onPixel(Margin - scaleTop_ * view_.scale);
     view_.penUnit = 1;
     view_.target = QRectF(QPointF(0, 0), QSizeF(viewport_));
     visible_ = {inchesX(-PenRoom), inchesY(-PenRoom), inchesX(viewport_.width() + PenRoom),
@@ -247,7 +249,37 @@ void QtCanvas::Cls() {
     paintDesk(painter);
 }
 
+std::string QtCanvas::Image(Single width, Single height, const std::function<void()>& paint) {
+    const double scale = PixelsPerInch * zoom_;
+    QImage page = whiteImage(width * scale, height * scale, scale);
+    wipeTemporaryLayer();
+    endPainting();
+    const QSize formerViewport = std::exchange(viewport_, page.size());
+    const double formerRatio = std::exchange(pixelRatio_, 1);
+    image_.swap(page);
+    const auto restore = [&] {
+        endPainting();
+        image_.swap(page);
+        viewport_ = formerViewport;
+        pixelRatio_ = formerRatio;
+        wholePage_ = false;
+        allDamaged_ = true;
+        arrange();
+    };
+    wholePage_ = true;
+    arrange();
+    try {
+        paint();
+    } catch (...) {
+        restore();
+        throw;
+    }
+    restore();
+    return encodedImage(page, PageFormat::Bmp);
+}
+
 void QtCanvas::paintDesk(QPainter& painter) const {
+    if (wholePage_) return painter.fillRect(view_.target, theme::color(BackColor));
     const Single width = editor_ ? editor_->PageWidth : 8.5f;
     const Single height = editor_ ? editor_->PageHeight : 11.0f;
     const QRectF page(toPixels(0, 0), toPixels(width, height));

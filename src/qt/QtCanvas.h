@@ -59,6 +59,7 @@ class QtCanvas final : public Canvas {
                       Single height) override;
     void Cls() override;
     void SetScale(Single left, Single top, Single zoom) override;
+    std::string Image(Single width, Single height, const std::function<void()>& paint) override;
 
     // A rectangle that surely holds the text, in logical pixels; found without laying it out.
     QRectF textBounds(Single x, Single y, double points, std::size_t length) const;
@@ -74,6 +75,7 @@ class QtCanvas final : public Canvas {
     void paintDesk(QPainter& painter) const;
 
     const Editor* editor_ = nullptr;
+    bool wholePage_ = false;  // the persistent layer is a page without a desk around it
     QSize viewport_;
     double pixelRatio_ = 1;
     Single scaleLeft_ = 0, scaleTop_ = 0, zoom_ = 1;

@@ -128,6 +128,7 @@ QtPlatform::QtPlatform() {
     platform.fonts = &fonts;
     platform.shell = &shell;
     platform.timers = &timers;
+    platform.pageFiles = &pageFiles;
     const QSize screen = QGuiApplication::primaryScreen()->size();
     platform.screen.Width = static_cast<Single>(screen.width()) * TwipsPerPixel;
     platform.screen.Height = static_cast<Single>(screen.height()) * TwipsPerPixel;

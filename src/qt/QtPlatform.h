@@ -8,6 +8,7 @@
 
 #include "platform/DiskFiles.h"
 #include "platform/Platform.h"
+#include "qt/PageFile.h"
 #include "qt/QtCanvas.h"
 #include "qt/QtDialogs.h"
 #include "qt/QtFonts.h"
@@ -69,6 +70,7 @@ struct QtPlatform {
     QtFonts fonts;
     QtShell shell;
     QtTimers timers;
+    QtPageFiles pageFiles;
 
     Platform platform;
 };

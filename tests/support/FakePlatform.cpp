@@ -1,6 +1,7 @@
 #include "support/FakePlatform.h"
 
 #include <algorithm>
+#include <sstream>
 #include <utility>
 
 namespace ladrix::test {
@@ -71,6 +72,18 @@ void FakeTimers::advance(int milliseconds) {
         timer.left -= milliseconds;
 }
 
+std::string FakePageFiles::make(const PageContent& content, PageFormat format, double) {
+    static constexpr const char* Names[] = {"pdf", "svg", "png", "bmp"};
+    RecordingPage page;
+    content.paint(page);
+    std::ostringstream text;
+    text << Names[static_cast<int>(format)] << ' ' << content.width << 'x' << content.height << ' '
+         << content.title << '\n';
+    for (const Primitive& primitive : page.primitives)
+        text << primitive << '\n';
+    return text.str();
+}
+
 FakePlatform::FakePlatform() {
     folder.makeFolder("program");
     folder.makeFolder("documents");
@@ -85,6 +98,12 @@ FakePlatform::FakePlatform() {
     platform.fonts = &fonts;
     platform.shell = &shell;
     platform.timers = &timers;
+    platform.printers = &printers;
+    platform.pageFiles = &pageFiles;
+    platform.LetEventsRun = [this] {
+        ++eventRuns;
+        if (duringEvents) duringEvents();
+    };
     platform.screen.Width = 1920 * platform.screen.TwipsPerPixelX;
     platform.screen.Height = 1080 * platform.screen.TwipsPerPixelY;
     platform.locale.generalDate = [] { return std::string("3/14/2026 9:26:53 AM"); };

@@ -13,6 +13,7 @@
 #include "support/FakeDialogs.h"
 #include "support/FaultyFiles.h"
 #include "support/Recording.h"
+#include "support/RecordingPrinter.h"
 #include "support/TemporaryFolder.h"
 
 namespace ladrix::test {
@@ -101,6 +102,12 @@ class FakeTimers final : public Timers {
     std::map<int, Timer> timers_;
 };
 
+// Pages as "pdf 8.5x11 Title" and the description of each primitive, a line each.
+class FakePageFiles final : public PageFiles {
+  public:
+    std::string make(const PageContent& content, PageFormat format, double pixelsPerInch) override;
+};
+
 // The whole: `platform` is ready for use. It points into this object, which therefore stays put.
 struct FakePlatform {
     struct Report {
@@ -123,6 +130,10 @@ struct FakePlatform {
     FakeFonts fonts;
     FakeShell shell;
     FakeTimers timers;
+    RecordingPrinters printers;
+    FakePageFiles pageFiles;
+    int eventRuns = 0;  // times that events were let run
+    std::function<void()> duringEvents;
     // Through the platform's first ReportError; a program that sets its own is not heard here.
     std::vector<Report> reports;
 

@@ -2,6 +2,7 @@
 
 #include <ostream>
 #include <sstream>
+#include <utility>
 
 namespace ladrix::test {
 
@@ -83,6 +84,18 @@ void RecordingCanvas::SetScale(Single left, Single top, Single zoom) {
     scaleTop = top;
     scaleZoom = zoom;
     ++scaleChanges;
+}
+
+std::string RecordingCanvas::Image(Single width, Single height,
+                                   const std::function<void()>& paint) {
+    const std::vector<Primitive> formerly = std::exchange(persistent, {});
+    paint();
+    std::ostringstream text;
+    text << width << 'x' << height << '\n';
+    for (const Primitive& primitive : persistent)
+        text << primitive << '\n';
+    persistent = formerly;
+    return text.str();
 }
 
 void RecordingCanvas::keep(const Primitive& primitive) {

@@ -171,6 +171,8 @@ class RecordingCanvas final : public Recording<Canvas> {
 
     void Cls() override;
     void SetScale(Single left, Single top, Single zoom) override;
+    // "8.5x11" and the description of each primitive that `paint` drew, a line each.
+    std::string Image(Single width, Single height, const std::function<void()>& paint) override;
 
   private:
     void keep(const Primitive& primitive) override;
