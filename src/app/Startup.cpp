@@ -111,6 +111,7 @@ void shareWithEditor(Program& program) {
     Editor& editor = program.editor;
     const Paths& paths = program.paths;
     editor.AppFilePath = program.frmHelp.AppFilePath = paths.AppFilePath;
+    program.frmHelp.PrintFolder = paths.DrawingsPath;
     editor.BasePath = paths.BasePath;
     editor.UserSymbolsPath = paths.BasePath + paths.UserSymbolsFolder;
     editor.UserButtonsPath = paths.BasePath + paths.UserButtonsFolder;

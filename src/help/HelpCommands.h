@@ -20,6 +20,8 @@ void goToTopic(HelpForm& help, std::string_view title);
 
 void mnuFileNewTopic_Click(HelpForm& help);
 void mnuFileSave_Click(HelpForm& help);
+// Prints the topic on the current printer, or tells why not.
+void mnuFilePrint_Click(HelpForm& help);
 void mnuFileCopy_Click(HelpForm& help);
 void mnuEditRename_Click(HelpForm& help);
 void mnuEditDeleteTopic_Click(HelpForm& help);

@@ -27,7 +27,8 @@ struct HelpForm {
     explicit HelpForm(const Platform& machine) : platform(machine) {}
 
     const Platform& platform;
-    std::string AppFilePath;  // set once by the layer above
+    // Set once by the layer above: where the topics are, and where a topic printed to a file goes.
+    std::string AppFilePath, PrintFolder;
 
     bool Visible = false;
     std::string Caption = "Help Contents";

@@ -59,6 +59,7 @@ void mnuEditFindAgain_Click(HelpForm& help) {
 constexpr HelpCommand Commands[] = {
     {HelpMenu::File, "mnuFileNewTopic", "Create a &New Help Topic", "Ctrl+N", mnuFileNewTopic_Click},
     {HelpMenu::File, "mnuFileSave", "&Save Current Help File", "Ctrl+S", mnuFileSave_Click},
+    {HelpMenu::File, "mnuFilePrint", "&Print Displayed Topic", "Ctrl+P", mnuFilePrint_Click, true},
     {HelpMenu::File, "mnuFileCopy", "Copy Selected Topic and Description", "Ctrl+Shift+C", mnuFileCopy_Click},
     {HelpMenu::Edit, "mnuEditRename", "&Rename Current Topic", "F2", mnuEditRename_Click},
     {HelpMenu::Edit, "mnuEditDeleteTopic", "Delete Current Help Topic", "", mnuEditDeleteTopic_Click},

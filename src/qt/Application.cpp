@@ -9,7 +9,7 @@
 #include "qt/DescriptionDialog.h"
 #include "qt/FavoritesDialog.h"
 #include "qt/FileDialog.h"
-#include "qt/HelpKey.h"
+#include "qt/LocalHelp.h"
 #include "qt/LogDialog.h"
 #include "qt/MainWindow.h"
 #include "qt/QtPlatform.h"
@@ -80,7 +80,7 @@ void connectPlatform(QtPlatform& machine, Program& program, MainWindow& window) 
     machine.dialogs.window = &window;
     machine.dialogs.beforeModal = refresh;
     machine.dialogs.runForm = [&](Form form) { runForm(program, &window, form); };
-    auto* const help = new HelpKey(program, &window);
+    auto* const help = new LocalHelp(program, &window);
     machine.dialogs.openForm = [help](Form form) {
         if (form == Form::frmHelp) help->openWindow();
     };

@@ -302,5 +302,53 @@ TEST_F(HelpCommandsTest, ACopiedTopicIsItsTitleAndItsText) {
     EXPECT_EQ(fake.clipboard.text, "Apples:\r\n\r\nred apple pie");
 }
 
+TEST_F(HelpCommandsTest, ATopicPrintsLineByLineFromTheTopOfEachPage) {
+    std::string body = "First\r\n\r\nKey\tMeaning";
+    for (int i = 0; i < 60; ++i)
+        body += "\r\nLine";
+    load({{"Keys: all/none", body}});
+    mnuFilePrint_Click(help);
+    const auto& printer = fake.printers.printer;
+    const auto lines = printer.logged("Print ");
+    ASSERT_EQ(lines.size(), 66u);
+    EXPECT_TRUE(lines[0].starts_with("Print 540,720 \"Keys: all/none\"")) << lines[0];
+    // The font is 11 points, a line 1.2 times that: 264 twips. A blank line takes no room.
+    EXPECT_TRUE(lines[3].starts_with("Print 540,1512 \"First\"")) << lines[3];
+    EXPECT_TRUE(lines[4].starts_with("Print 540,1776 \"Key\"")) << lines[4];
+    EXPECT_TRUE(lines[5].starts_with("Print 3420,1776 \"Meaning\"")) << lines[5];
+    const auto turn = std::find(printer.log.begin(), printer.log.end(), "NewPage");
+    ASSERT_NE(turn, printer.log.end());
+    EXPECT_TRUE(std::prev(turn)->starts_with("Print 540,14976 ")) << *std::prev(turn);
+    EXPECT_TRUE(std::next(turn)->starts_with("Print 540,720 ")) << *std::next(turn);
+    EXPECT_EQ(printer.log.back(), "EndDoc");
+    EXPECT_EQ(printer.documents.at(0).path, help.PrintFolder + "Keys- all-none");
+}
+
+TEST_F(HelpCommandsTest, LongLinesAreWrappedAndHangBesideTheirItem) {
+    std::string words;
+    for (int i = 0; i < 60; ++i)
+        words += "word ";
+    load({{"Long", "1. " + words}});
+    mnuFilePrint_Click(help);
+    const auto lines = fake.printers.printer.logged("Print ");
+    ASSERT_GT(lines.size(), 4u);
+    EXPECT_TRUE(lines[3].starts_with("Print 540,")) << lines[3];
+    EXPECT_TRUE(lines[4].starts_with("Print 828,")) << lines[4];
+    for (const std::string& line : lines)  // a character is 0.6 of 11 points wide
+        EXPECT_LT(line.size(), 95u) << line;
+}
+
+TEST_F(HelpCommandsTest, APrinterThatFailsIsToldAndTheDocumentGivenUp) {
+    auto& printer = fake.printers.printer;
+    printer.fail("Print ", {failure::DeviceIO, "Out of paper"});
+    mnuFilePrint_Click(help);
+    EXPECT_EQ(lastBox(), "Out of paper");
+    EXPECT_EQ(fake.dialogs.boxes.back().title, "Printer Error");
+    EXPECT_TRUE(printer.abandoned);
+    printer.takesDocuments = false;
+    mnuFilePrint_Click(help);
+    EXPECT_EQ(fake.dialogs.boxes.size(), 1u);
+}
+
 }  // namespace
 }  // namespace ladrix

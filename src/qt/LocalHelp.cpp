@@ -1,4 +1,4 @@
-#include "qt/HelpKey.h"
+#include "qt/LocalHelp.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -6,18 +6,19 @@
 
 #include "app/HelpContexts.h"
 #include "qt/QtText.h"
+#include "qt/Tips.h"
 
 namespace ladrix {
 
-HelpKey::HelpKey(Program& program, QObject* parent) : QObject(parent), program_(program) {
+LocalHelp::LocalHelp(Program& program, QObject* parent) : QObject(parent), program_(program) {
     qApp->installEventFilter(this);
 }
 
-HelpKey::~HelpKey() {
+LocalHelp::~LocalHelp() {
     delete window_;
 }
 
-void HelpKey::openWindow() {
+void LocalHelp::openWindow() {
     QWidget* const owner = QApplication::activeModalWidget();
     if (!window_) window_ = new HelpWindow(program_, owner);
     belongTo(owner);
@@ -27,7 +28,7 @@ void HelpKey::openWindow() {
     window_->activateWindow();
 }
 
-void HelpKey::belongTo(QWidget* owner) {
+void LocalHelp::belongTo(QWidget* owner) {
     if (window_->parentWidget() != owner) {
         const QRect place = window_->geometry();
         window_->setParent(owner, Qt::Window);
@@ -43,7 +44,12 @@ void HelpKey::belongTo(QWidget* owner) {
     });
 }
 
-bool HelpKey::eventFilter(QObject* watched, QEvent* event) {
+bool LocalHelp::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Show && watched->isWidgetType()) {
+        auto& widget = *static_cast<QWidget*>(watched);
+        if (widget.isWindow()) giveTips(widget);
+        return false;
+    }
     if (event->type() != QEvent::KeyPress || !watched->isWidgetType()) return false;
     const auto& press = *static_cast<QKeyEvent*>(event);
     if (press.key() != Qt::Key_F1 || press.modifiers() != Qt::NoModifier) return false;

@@ -1,5 +1,5 @@
-// Opens the help window, and lets F1 do so wherever the user is: the main window's own entry serves
-// there, this filter serves every other window.
+// Help where the user is: the help window, F1 in every window (the main window's own entry serves
+// there), and the tips of each window's controls.
 #pragma once
 
 #include <QObject>
@@ -9,13 +9,13 @@
 
 namespace ladrix {
 
-class HelpKey final : public QObject {
+class LocalHelp final : public QObject {
     Q_OBJECT
 
   public:
     // Watches the whole application as long as it lives; a child of the main window.
-    HelpKey(Program& program, QObject* parent);
-    ~HelpKey() override;
+    LocalHelp(Program& program, QObject* parent);
+    ~LocalHelp() override;
 
     // Shows frmHelp from its state, in front. While a dialog is up, the help belongs to it, or the
     // dialog would keep it from being used.

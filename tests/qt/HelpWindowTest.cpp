@@ -1,0 +1,157 @@
+// The help window as a person uses it: keys, the list, the text, and beside a dialog.
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QDialog>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QTimer>
+
+#include "app/HelpContexts.h"
+#include "app/Startup.h"
+#include "help/HelpCommands.h"
+#include "help/HelpFile.h"
+#include "qt/HelpText.h"
+#include "qt/LocalHelp.h"
+#include "qt/QtCanvas.h"
+#include "qt/QtFonts.h"
+#include "qt/Theme.h"
+#include "support/FakePlatform.h"
+
+namespace ladrix {
+namespace {
+
+void settle() {
+    for (int i = 0; i < 5; ++i)
+        QCoreApplication::processEvents();
+}
+
+void press(QWidget& widget, int key, const QString& text = {},
+           Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    QKeyEvent event(QEvent::KeyPress, key, modifiers, text);
+    QCoreApplication::sendEvent(&widget, &event);
+    settle();
+}
+
+class HelpWindowTest : public testing::Test {
+  protected:
+    void SetUp() override {
+        theme::apply(*qApp);
+        machine.platform.picLX = &canvas;
+        machine.platform.fonts = &fonts;
+        program = std::make_unique<Program>(machine.platform);
+        canvas.showPageOf(program->editor);
+        ASSERT_TRUE(startProgram(*program));
+        const std::vector<HelpTopic> topics = {
+            {"1.1 Welcome to Ladrix", "HEADING\r\nSome text.\r\n\r\nCtrl+N\tNew"},
+            {"2.7 Text", "A text that says text."},
+            {"5.2 The File Browser", "Files."}};
+        machine.folder.write("program/Help_Topics.htx", helpFileText(topics));
+        local = std::make_unique<LocalHelp>(*program, nullptr);
+        openHelp(*program, "frmLX");
+        local->openWindow();
+        settle();
+    }
+
+    HelpWindow& window() {
+        for (QWidget* widget : QApplication::topLevelWidgets())
+            if (auto* found = qobject_cast<HelpWindow*>(widget)) return *found;
+        for (QWidget* widget : QApplication::allWidgets())
+            if (auto* found = qobject_cast<HelpWindow*>(widget)) return *found;
+        throw std::logic_error("no help window");
+    }
+    template <class Widget>
+    Widget& find(const char* name) {
+        auto* widget = window().findChild<Widget*>(name);
+        if (!widget) throw std::logic_error(std::string("no widget ") + name);
+        return *widget;
+    }
+    HelpText& text() { return find<HelpText>("txtHelp"); }
+    void run(const char* entry) {
+        find<QAction>(entry).trigger();
+        settle();
+    }
+    HelpForm& help() { return program->frmHelp; }
+
+    test::FakePlatform machine;
+    QtFonts fonts;
+    QtCanvas canvas;
+    std::unique_ptr<Program> program;
+    std::unique_ptr<LocalHelp> local;
+};
+
+TEST_F(HelpWindowTest, ShowsTheTopicsTitleAndPlainText) {
+    EXPECT_TRUE(window().isVisible());
+    EXPECT_EQ(find<QListWidget>("lstHelp").count(), 3);
+    EXPECT_EQ(find<QLabel>("lblTitle").text(), "1.1 Welcome to Ladrix");
+    EXPECT_EQ(text().toPlainText(), "HEADING\nSome text.\n\nCtrl+N\tNew");
+    EXPECT_FALSE(help().HelpEdited) << "showing a text is no edit";
+    press(find<QListWidget>("lstHelp"), Qt::Key_Down);
+    EXPECT_EQ(find<QLabel>("lblTitle").text(), "2.7 Text");
+    EXPECT_EQ(text().toPlainText(), "A text that says text.");
+}
+
+TEST_F(HelpWindowTest, TheSearchMarksThePhraseAndF3GoesOn) {
+    auto& field = find<QLineEdit>("txtSearch");
+    for (const QChar letter : QStringLiteral("TEXT"))
+        press(field, 0, letter);
+    press(field, Qt::Key_Return);
+    EXPECT_EQ(text().textCursor().selectedText(), "text");
+    EXPECT_EQ(text().textCursor().selectionStart(), 13) << "behind a heading's line end";
+    EXPECT_TRUE(find<QPushButton>("cmdSearch1").isEnabled());
+    run("mnuEditFindAgain");
+    EXPECT_EQ(find<QLabel>("lblTitle").text(), "2.7 Text");
+    EXPECT_EQ(text().textCursor().selectionStart(), 2);
+    run("mnuEditFindAgain");
+    EXPECT_EQ(text().textCursor().selectionStart(), 17);
+    run("mnuEditFindAgain");
+    EXPECT_EQ(machine.dialogs.boxes.back().text, "End of Search");
+    EXPECT_FALSE(find<QAction>("mnuEditFindAgain").isEnabled());
+}
+
+TEST_F(HelpWindowTest, TypingEditsAndARefusedCharacterNeverEnters) {
+    QTextCursor cursor = text().textCursor();
+    cursor.setPosition(7);
+    text().setTextCursor(cursor);
+    press(text(), Qt::Key_X, "x");
+    press(text(), 0, QString(QChar(0xFE)));
+    press(text(), Qt::Key_Y, "y");
+    EXPECT_EQ(help().txtHelp.Text, "HEADINGxy\r\nSome text.\r\n\r\nCtrl+N\tNew");
+    EXPECT_EQ(text().toPlainText(), "HEADINGxy\nSome text.\n\nCtrl+N\tNew");
+    EXPECT_EQ(machine.dialogs.boxes.size(), 1u);
+    // Cancel keeps the list's row and the text.
+    find<QListWidget>("lstHelp").setCurrentRow(2);
+    settle();
+    EXPECT_EQ(find<QListWidget>("lstHelp").currentRow(), 0);
+    press(window(), Qt::Key_Escape);
+    EXPECT_TRUE(window().isVisible());
+    machine.dialogs.answers = {Answer::No};
+    press(window(), Qt::Key_Escape);
+    EXPECT_FALSE(window().isVisible());
+    EXPECT_FALSE(help().Visible);
+}
+
+TEST_F(HelpWindowTest, F1InADialogOpensItsTopicInAWindowThatCanBeUsed) {
+    QDialog dialog;
+    dialog.setObjectName("frmFile");
+    auto* field = new QLineEdit(&dialog);
+    QTimer::singleShot(0, &dialog, [&] {
+        press(*field, Qt::Key_F1);
+        EXPECT_EQ(currentTitle(help()), "5.2 The File Browser");
+        local->openWindow();
+        settle();
+        EXPECT_EQ(window().parentWidget(), &dialog) << "the dialog would block it otherwise";
+        dialog.reject();
+    });
+    dialog.exec();
+    settle();
+    EXPECT_EQ(window().parentWidget(), nullptr);
+    EXPECT_TRUE(window().isVisible()) << "it stays when the dialog has gone";
+}
+
+}  // namespace
+}  // namespace ladrix
