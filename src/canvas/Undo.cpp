@@ -161,6 +161,7 @@ void RestoreSnapshot(Editor& editor) {
     if (!sections) return;
     editor.SnapshotPending = false;
     ClearSelection(editor);
+    if (editor.CurrentTool == -1) showPanel(editor, Panel::None);
     parseSections(editor, *sections);
     editor.form.lblMessage.Caption = "Action has been undone.";
     editor.drawing.DrawingChanged = true;

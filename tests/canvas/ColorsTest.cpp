@@ -47,6 +47,7 @@ struct RestyleBench : Bench {
         EXPECT_EQ(canvas.persistentCls, 1) << "one redraw";
         mnuEditUndo_Click(editor);
         EXPECT_EQ(text(), before);
+        EXPECT_FALSE(editor.form.picRadius.Visible) << "its figures were of the selection";
         mnuEditRedo_Click(editor);
         EXPECT_EQ(text(), after);
     }
@@ -130,6 +131,7 @@ TEST(ApplyRadius, GoesToSelectedCirclesAndArcsTheAnglesToArcs) {
                           {".,", 0.0375f, 0.125f, "0.125"}}) {
         RestyleBench bench;
         FormLX& form = bench.editor.form;
+        form.picRadius.Visible = true;
         form.txtRadius.Text = c.typed;
         form.txtCircleStart.Text = "90";
         form.txtCircleEnd.Text = "no number";

@@ -158,15 +158,6 @@ TEST(SquareTool, TheDashedOneIsDrawnInItsStyleAndPutsTheSolidBack) {
     EXPECT_EQ(bench.canvas.DrawStyle, 0);
 }
 
-TEST(SquareTool, ESCDropsTheFirstCorner) {
-    Bench bench;
-    bench.play("tool Square; click 1 1; key 27 0; tool Square; click 2 2");
-    EXPECT_THAT(bench.devices(), IsEmpty());
-    EXPECT_TRUE(bench.editor.SquareStarted);
-    bench.play("click 3 3");
-    EXPECT_THAT(bench.devices(), ElementsAre("InsertSavedSquare|2|2|3|3|0|0"));
-}
-
 TEST(Rubber, FollowsTheSnapPointInMagentaOnTheTemporaryLayer) {
     struct Case {
         const char* script;

@@ -364,13 +364,5 @@ TEST(Pictures, AreOutlinedUnderThePointerAtFullSizeOnly) {
     EXPECT_EQ(outlines("move 2 1.7"), 0u);
 }
 
-TEST(CopyUnderWay, TheReleaseAsksForTheStartPoint) {
-    Bench bench;
-    bench.editor.CopyArmed = true;
-    bench.editor.CopyStage = 1;
-    bench.play("release");
-    EXPECT_EQ(bench.message(), "Select copy start point.");
-}
-
 }  // namespace
 }  // namespace ladrix::test

@@ -85,14 +85,6 @@ TEST(ToolPress, WhileThePaletteIsArrangedDoesNothing) {
     EXPECT_EQ(bench.message(), "");
 }
 
-TEST(ToolPress, GivesTheCanvasTheFocusButForText) {
-    Bench bench;
-    bench.play("tool Lamp");
-    EXPECT_EQ(bench.editor.form.FocusRequest, Focus::Canvas);
-    bench.play("tool Text");
-    EXPECT_EQ(bench.editor.form.FocusRequest, Focus::TextEdit);
-}
-
 TEST(ToolPress, RepeatPressesTheLastToolEvenAfterAReset) {
     Bench bench;
     mnuEditRepeat_Click(bench.editor);

@@ -131,17 +131,6 @@ TEST(Undo, BringsPicturesBackWithTheirImagesWhereverTheyLay) {
     EXPECT_THAT(bench.machine.dialogs.boxes, IsEmpty());
 }
 
-TEST(Undo, OfOnePasteOfSeveralTakesOnlyTheLastAway) {
-    UndoBench bench;
-    bench.play("tool Ground; click 1 1; key 27 0");
-    mnuEditSelectAll_Click(bench.editor);
-    mnuEditCopy_Click(bench.editor);
-    bench.play("click 1 1; click 2 1; click 3 1");
-    bench.undo();
-    EXPECT_THAT(bench.devices(),
-                ElementsAre("InsertGround|1|1|0||1|1|0|False", "InsertGround|2|1|0||1|1|0|False"));
-}
-
 TEST(Undo, OfArrowKeysIsNotFollowedByTheStepThatAResetWouldTake) {
     UndoBench bench;
     bench.play("tool Ground; click 1 1; key 27 0; move 1.01 1");
