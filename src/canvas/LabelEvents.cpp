@@ -30,12 +30,13 @@ bool exists(const Editor& editor, Short index) {
 // As it is painted: in its fitted font, which the zoom enlarges by itself.
 bool covers(const LabelControl& label, const Editor& editor, Single x, Single y) {
     const Single dx = x - label.Left, dy = y - label.Top;
-    FontSpec onPaper = label.Font;
-    onPaper.size /= editor.ZoomFactor;
-    const Single size = onPaper.size / 72;
-    if (!label.Visible || dx < 0 || dy < 0 || dy > HighestLine * size ||
-        dx > WidestCharacter * size * static_cast<Single>(label.Caption.size()))
+    const Single size = label.Font.size / editor.ZoomFactor;
+    const Single inches = size / 72;
+    if (!label.Visible || dx < 0 || dy < 0 || dy > HighestLine * inches ||
+        dx > WidestCharacter * inches * static_cast<Single>(label.Caption.size()))
         return false;
+    FontSpec onPaper = label.Font;
+    onPaper.size = size;
     Fonts& fonts = *editor.platform.fonts;
     return dy <= fonts.textHeight(onPaper) && dx <= fonts.textWidth(onPaper, label.Caption);
 }

@@ -143,6 +143,7 @@ QComboBox* TextPropsDialog::makeFonts() {
     cmbFonts_->setObjectName(QStringLiteral("cmbFonts"));
     cmbFonts_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     cmbFonts_->setMinimumContentsLength(20);
+    cmbFonts_->setMinimumWidth(FieldWidth);
     cmbFonts_->setMaxVisibleItems(14);
     auto* const list = new QListView(cmbFonts_);
     list->setUniformItemSizes(true);
