@@ -87,6 +87,8 @@ void LoadFavoriteFolders(const Favorites& favorites, FileBrowser& browser) {
     browser.cmdGoFavorite = captioned("&Go");
     browser.cmdGoFavorite.Enabled = !folders.empty();
     browser.cmdAddToFavorites = captioned("&Add to Favorites");
+    // Where a favorite is being chosen the list is not managed.
+    browser.cmdAddToFavorites.Visible = browser.FileBrowserMode != BrowserMode::Folder;
 }
 
 void LoadFavoriteFolders(const Favorites& favorites, FavoritesForm& form) {

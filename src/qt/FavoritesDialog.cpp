@@ -32,6 +32,7 @@ FavoritesDialog::FavoritesDialog(Program& program, QWidget* parent)
     setSizeGripEnabled(true);
     lstFavorites_->setObjectName(QStringLiteral("lstFavorites"));
     lstFavorites_->setTextElideMode(Qt::ElideMiddle);
+    lstFavorites_->setSpacing(theme::Unit / 2);
     lblFavorites_->setBuddy(lstFavorites_);
     connect(lstFavorites_, &QListWidget::currentRowChanged, this, [this](int row) {
         lstFavorites_Click(program_.frmFavorites, row);

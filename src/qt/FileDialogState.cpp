@@ -80,6 +80,7 @@ void FileDialog::showFavorites() {
     cmbFavorites_->setEnabled(box.Enabled);
     showButton(cmdGoFavorite_, browser_.cmdGoFavorite);
     showButton(cmdAddToFavorites_, browser_.cmdAddToFavorites);
+    options_->setVisible(browser_.cmdAddToFavorites.Visible);
 }
 
 void FileDialog::showList() {

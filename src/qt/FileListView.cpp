@@ -4,6 +4,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLocale>
+#include <QPainter>
 #include <QStyledItemDelegate>
 
 #include "qt/FileIcons.h"
@@ -171,6 +172,18 @@ void FileListView::showState() {
 int FileListView::markedRow() const {
     const QModelIndexList rows = selectionModel()->selectedRows();
     return rows.isEmpty() ? -1 : rows.front().row();
+}
+
+void paintEmptyFolder(QAbstractScrollArea& list) {
+    QPainter painter(list.viewport());
+    painter.setPen(list.palette().color(QPalette::PlaceholderText));
+    painter.drawText(list.viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap,
+                     QObject::tr("Nothing to choose in this folder."));
+}
+
+void FileListView::paintEvent(QPaintEvent* event) {
+    QTreeView::paintEvent(event);
+    if (model_->rowCount() == 0) paintEmptyFolder(*this);
 }
 
 void FileListView::keyPressEvent(QKeyEvent* event) {

@@ -27,6 +27,9 @@ class FileListModel final : public QAbstractTableModel {
     const FileBrowser& browser_;
 };
 
+// What stands in the place of a list or a sheet without entries.
+void paintEmptyFolder(QAbstractScrollArea& list);
+
 class FileListView final : public QTreeView {
     Q_OBJECT
 
@@ -44,6 +47,7 @@ class FileListView final : public QTreeView {
     void columnClicked(ladrix::BrowserOrder order);
 
   protected:
+    void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void changeEvent(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;

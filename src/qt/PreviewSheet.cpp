@@ -209,6 +209,11 @@ PreviewSheet::Tile PreviewSheet::made(const FileEntry& entry) {
     return {Tile::State::Ready, page};
 }
 
+void PreviewSheet::paintEvent(QPaintEvent* event) {
+    QListView::paintEvent(event);
+    if (model_->rowCount() == 0) paintEmptyFolder(*this);
+}
+
 void PreviewSheet::keyPressEvent(QKeyEvent* event) {
     const bool plain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;

@@ -38,6 +38,7 @@ class PreviewSheet final : public QListView {
     void parentWanted();
 
   protected:
+    void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
   private:

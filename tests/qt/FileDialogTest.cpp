@@ -4,65 +4,33 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <QApplication>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QThread>
-#include <QTimer>
 #include <QTreeView>
 #include <functional>
 
 #include "canvas/DrawingCommands.h"
 #include "platform/Encoding.h"
 #include "qt/DescriptionDialog.h"
+#include "qt/Driving.h"
 #include "qt/LogDialog.h"
+#include "qt/PreviewSheet.h"
 #include "support/FakePlatform.h"
 
 namespace ladrix {
 namespace {
 
+using test::ensureApplication;
+using test::named;
+using test::press;
+using test::settle;
+using test::type;
 using testing::ElementsAre;
 using testing::IsEmpty;
-
-void ensureApplication() {
-    if (QCoreApplication::instance()) return;
-    static int count = 1;
-    static char name[] = "qt_tests";
-    static char* arguments[] = {name, nullptr};
-    static QApplication application(count, arguments);
-}
-
-void settle() {
-    for (int i = 0; i < 5; ++i)
-        QCoreApplication::processEvents();
-}
-
-void press(int key, const QString& text = {}, Qt::KeyboardModifiers modifiers = {}) {
-    QWidget* const target = QApplication::focusWidget();
-    ASSERT_TRUE(target) << "nothing has the focus";
-    QKeyEvent down(QEvent::KeyPress, key, modifiers, text);
-    QKeyEvent up(QEvent::KeyRelease, key, modifiers, text);
-    QCoreApplication::sendEvent(target, &down);
-    QCoreApplication::sendEvent(target, &up);
-    settle();
-}
-
-void type(const QString& text) {
-    for (const QChar c : text)
-        press(0, QString(c));
-}
-
-template <class Widget>
-Widget& named(QWidget& window, const char* name) {
-    auto* const found = window.findChild<Widget*>(QString::fromLatin1(name));
-    if (!found) throw std::logic_error(std::string("no widget ") + name);
-    return *found;
-}
 
 QStringList shownNames(QWidget& dialog) {
     const QAbstractItemModel& model = *named<QTreeView>(dialog, "FileList1").model();
@@ -95,25 +63,9 @@ class FileDialogTest : public testing::Test {
                               "///Picture Files///\r\n");
     }
 
-    // Shows the dialog and acts on it while it is up; closes what the steps left open.
     template <class Dialog>
     void drive(const std::function<void(Dialog&)>& steps) {
-        Dialog dialog(program, nullptr);
-        QTimer::singleShot(0, &dialog, [&] {
-            dialog.activateWindow();
-            for (int i = 0; i < 1000 && !QApplication::focusWidget(); ++i) {
-                QThread::msleep(5);
-                QCoreApplication::processEvents();
-            }
-            try {
-                steps(dialog);
-            } catch (const std::exception& fault) {
-                ADD_FAILURE() << fault.what();
-            }
-            if (dialog.isVisible()) dialog.reject();
-        });
-        dialog.run();
-        EXPECT_FALSE(dialog.isVisible());
+        test::drive<Dialog>(program, steps);
     }
     void open(const std::function<void(FileDialog&)>& steps) {
         program.editor.drawing.SaveInProgress = false;
@@ -348,6 +300,77 @@ TEST_F(FileDialogTest, NothingIsCutOffInLargeType) {
     open(check);
     save(check);
     QApplication::setFont(former);
+}
+
+TEST_F(FileDialogTest, TheSheetMakesThePreviewsInSightAndAClickChooses) {
+    for (int i = 1; i <= 1000; ++i)
+        write("d" + std::to_string(i) + ".els", std::to_string(i));
+    fake.folder.write("drawings/a damaged.els", std::string(2000, '\x90'));
+    open([&](FileDialog& dialog) {
+        named<QPushButton>(dialog, "cmdPreviewAll").click();
+        PreviewSheet& sheet = named<PreviewSheet>(dialog, "previewSheet");
+        EXPECT_EQ(QApplication::focusWidget(), &sheet);
+        const auto state = [&](int row) { return sheet.tile(row).state; };
+        using State = PreviewSheet::Tile::State;
+        for (int i = 0; i < 400 && state(1) == State::Awaited; ++i)
+            settle();
+        EXPECT_EQ(state(0), State::Damaged);
+        EXPECT_EQ(state(1), State::Ready);
+        EXPECT_LT(fake.files.count(test::Operation::Read), 60) << "only what is in sight";
+        EXPECT_EQ(program.frmFile.Selected, -1);
+
+        sheet.scrollToBottom();
+        for (int i = 0; i < 400 && state(1000) == State::Awaited; ++i)
+            settle();
+        EXPECT_EQ(state(1000), State::Ready);
+        EXPECT_FALSE(sheet.tile(1000).page.isNull());
+        EXPECT_LT(fake.files.count(test::Operation::Read), 120);
+        type("d77");
+        EXPECT_EQ(dialog.windowTitle(), "Open... d77.els");
+        EXPECT_EQ(program.editor.drawing.devices.DeviceCount, 1);
+        press(Qt::Key_Return);
+        EXPECT_FALSE(dialog.isVisible());
+    });
+    EXPECT_EQ(program.editor.drawing.CurrentFileName, "d77.els");
+}
+
+TEST_F(FileDialogTest, EachModeShowsItsOwnControlsAndPutsTheModeBack) {
+    const struct {
+        BrowserMode mode;
+        QString caption;
+        bool name, preview, description;
+        int types;
+    } cases[] = {
+        {BrowserMode::Library, "Opening User Library From...", false, true, false, 0},
+        {BrowserMode::Program, "Opening File From...", false, false, false, 0},
+        {BrowserMode::Picture, "Inserting Picture From...", false, true, false, 0},
+        {BrowserMode::SavePreferences, "Saving User Preferences", true, false, false, 0},
+        {BrowserMode::SaveExport, "Exporting Drawing as...", true, false, false, 3},
+        {BrowserMode::Folder, "Adding a Favorite Folder", true, false, false, 0},
+        {BrowserMode::Drawing, "Opening File From...", false, true, true, 0},
+    };
+    for (const auto& [mode, caption, name, preview, description, types] : cases) {
+        program.frmFile.FileBrowserMode = mode;
+        open([&](FileDialog& dialog) {
+            EXPECT_EQ(dialog.windowTitle(), caption);
+            EXPECT_EQ(named<QLineEdit>(dialog, "txtSaveAs").isVisible(), name)
+                << qPrintable(caption);
+            EXPECT_EQ(named<QWidget>(dialog, "framPreview").isVisible(), preview);
+            EXPECT_EQ(named<QWidget>(dialog, "txtDescription").isVisible(), description);
+            int shown = 0;
+            for (const auto* const option : dialog.findChildren<QRadioButton*>())
+                shown += option->isVisible();
+            EXPECT_EQ(shown, types) << qPrintable(caption);
+            // Every access key once.
+            QStringList keys;
+            for (const auto* const button : dialog.findChildren<QAbstractButton*>())
+                if (button->isVisible() && !button->shortcut().isEmpty())
+                    keys << button->shortcut().toString();
+            EXPECT_EQ(keys.removeDuplicates(), 0) << qPrintable(caption);
+        });
+        EXPECT_EQ(program.frmFile.FileBrowserMode, BrowserMode::Drawing);
+        EXPECT_FALSE(program.frmFile.Chosen);
+    }
 }
 
 TEST_F(FileDialogTest, StrangeNamesStayOnOneLineAndLeadToTheirFiles) {
