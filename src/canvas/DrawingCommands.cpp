@@ -185,6 +185,11 @@ void report(Editor& editor, std::string_view description, const Failure& failure
     if (editor.platform.ReportError) editor.platform.ReportError(description, failure);
 }
 
+// A failure that repeats brings up no second report: the foot tells it each time.
+void tellOutcome(Editor& editor, std::string text) {
+    editor.form.lblMessage.Caption = std::move(text);
+}
+
 }  // namespace
 
 void mnuFileNew_Click(Editor& editor) {
@@ -255,10 +260,11 @@ void SaveDrawing(Editor& editor) {
     if (refusedTarget(editor)) return;
     if (mainText(drawing).size() == 2) return;
     try {
-        if (!writeNamedFile(editor)) return;
+        if (!writeNamedFile(editor)) return tellOutcome(editor, "The drawing was not saved.");
     } catch (const Failure& failure) {
         drawing.DrawingChanged = true;
         drawing.SaveInProgress = false;
+        tellOutcome(editor, "The drawing was not saved. " + failure.text);
         return report(editor, "Save Drawing", failure);
     }
     keepTemplate(drawing);
@@ -276,6 +282,7 @@ void OpenDrawing(Editor& editor) {
     try {
         openNamed(editor);
     } catch (const Failure& failure) {
+        tellOutcome(editor, "The drawing could not be opened. " + failure.text);
         report(editor, "Open Drawing", failure);
     }
     drawing.Reading = false;

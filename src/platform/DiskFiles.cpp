@@ -2,6 +2,7 @@
 
 #include <dirent.h>
 #include <fcntl.h>
+#include <signal.h>
 #include <stdio.h>
 #include <stdlib.h>
 #include <sys/stat.h>
@@ -10,6 +11,7 @@
 #include <algorithm>
 #include <atomic>
 #include <cerrno>
+#include <ctime>
 #include <memory>
 #include <system_error>
 #include <utility>
@@ -172,6 +174,32 @@ std::string linkTarget(std::string native, const std::string& path) {
     }
 }
 
+constexpr std::string_view TemporaryStart = ".ladrix-", TemporaryEnd = ".tmp";
+
+// Of a process of this machine that has ended, and not from just now: another machine that writes
+// to the same folder has numbers of its own.
+bool isLeftOver(const std::string& name, const struct stat& info) {
+    constexpr std::time_t longestWrite = 60;  // seconds
+    if (!name.starts_with(TemporaryStart) || !name.ends_with(TemporaryEnd)) return false;
+    const auto process = static_cast<pid_t>(std::atol(name.c_str() + TemporaryStart.size()));
+    if (process <= 0 || !S_ISREG(info.st_mode)) return false;
+    return std::time(nullptr) - info.st_mtim.tv_sec > longestWrite && kill(process, 0) != 0 &&
+           errno == ESRCH;
+}
+
+// What a killed run could not finish. Where it cannot be removed it harms nobody.
+void removeLeftOvers(const std::string& folder) {
+    const std::unique_ptr<DIR, int (*)(DIR*)> open(opendir(folder.c_str()), closedir);
+    if (!open) return;
+    while (const dirent* const next = readdir(open.get())) {
+        struct stat info {};
+        if (next->d_name[0] != '.' ||
+            fstatat(dirfd(open.get()), next->d_name, &info, AT_SYMLINK_NOFOLLOW) != 0)
+            continue;
+        if (isLeftOver(next->d_name, info)) unlinkat(dirfd(open.get()), next->d_name, 0);
+    }
+}
+
 // A new file beside the target that becomes the target, or is gone again at the end of the scope.
 class Temporary {
   public:
@@ -181,8 +209,8 @@ class Temporary {
         static std::atomic<unsigned> counter = 0;
         constexpr int attempts = 100;
         for (int attempt = 0; attempt < attempts && !file; ++attempt) {
-            native_ = folderOf(target) + ".ladrix-" + std::to_string(getpid()) + '-' +
-                      std::to_string(counter++) + ".tmp";
+            native_ = folderOf(target) + std::string(TemporaryStart) + std::to_string(getpid()) +
+                      '-' + std::to_string(counter++) + std::string(TemporaryEnd);
             hook("open");
             file.take(uninterrupted([&] {
                 return open(native_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode);
@@ -350,6 +378,7 @@ void DiskFiles::replace(const std::string& path, std::string_view content, bool 
     closeChecked(hook_, temporary.file, path);
     temporary.becomes(hook_, target, path);
     flushFolder(hook_, target, path);
+    removeLeftOvers(folderOf(target));
 }
 
 void DiskFiles::append(const std::string& path, std::string_view content) {

@@ -291,7 +291,7 @@ TEST(Save, AFailureLeavesTheOldFileTheNameAndTheMark) {
         EXPECT_THAT(bench.devices(), ElementsAre(Ground)) << "nothing is given up";
         EXPECT_EQ(bench.openBrowsers, 0);
         EXPECT_FALSE(bench.machine.shell.ended);
-        EXPECT_NE(bench.message(), "File saved.");
+        EXPECT_EQ(bench.message(), "The drawing was not saved. " + c.failure.text);
         bench.machine.files.heal();
         bench.drawing.NewAfterSave = bench.drawing.OpenAfterSave = bench.drawing.ExitAfterSave =
             false;

@@ -123,6 +123,30 @@ TEST_F(DiskFilesTest, ASymbolicLinkStaysAndWhatItPointsToIsReplaced) {
     EXPECT_EQ(folder.read("shared/Demo.els"), "new") << "only the link is removed";
 }
 
+TEST_F(DiskFilesTest, ReplacingRemovesWhatAKilledRunLeftBesideTheFile) {
+    const pid_t ended = fork();
+    if (ended == 0) _exit(0);
+    waitpid(ended, nullptr, 0);
+    const auto temporary = [](pid_t process) {
+        return ".ladrix-" + std::to_string(process) + "-0.tmp";
+    };
+    const auto write = [&](const std::string& name, int minutesAgo) {
+        folder.write(name, "half of it");
+        const timespec then{time(nullptr) - 60 * minutesAgo - 5, 0};
+        const timespec times[2] = {then, then};
+        ASSERT_EQ(utimensat(AT_FDCWD, folder.native(name).c_str(), times, 0), 0);
+    };
+    write(temporary(ended), 1);
+    write(temporary(getppid()), 1);
+    write(".ladrix-notes.tmp", 60);
+    files.replace(folder / "a.els", "whole", false);
+    EXPECT_EQ(folder.entries(), (Names{".ladrix-" + std::to_string(getppid()) + "-0.tmp",
+                                       ".ladrix-notes.tmp", "a.els"}));
+    write(temporary(ended), 0);
+    files.replace(folder / "a.els", "whole", false);
+    EXPECT_TRUE(folder.has(temporary(ended))) << "perhaps another machine's";
+}
+
 TEST_F(DiskFilesTest, WhatIsNotARegularFileIsNeitherReadNorWritten) {
     folder.makeFolder("Folder");
     ASSERT_EQ(mkfifo(folder.native("Pipe").c_str(), 0600), 0);
