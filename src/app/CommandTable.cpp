@@ -4,10 +4,10 @@
 
 #include "app/CommandHandlers.h"
 #include "app/FailureLog.h"
-#include "app/FileMenu.h"
-#include "app/RecentFiles.h"
-#include "app/LineOptions.h"
 #include "app/FileCommands.h"
+#include "app/FileMenu.h"
+#include "app/LineOptions.h"
+#include "app/RecentFiles.h"
 #include "app/HelpContexts.h"
 #include "canvas/Colors.h"
 #include "canvas/CopyMove.h"

@@ -44,19 +44,19 @@ void mnuFileBackups_Click(Program& program) {
     Editor& editor = program.editor;
     FileBrowser& browser = program.frmFile;
     if (!MayGiveUpDrawing(editor)) return;
-    const std::string folder = BackupsOfDrawing(editor);
-    if (folder.empty()) return;
-    editor.backups.offered = folder;
-    editor.backups.CurrentFolder = editor.drawing.CurrentFolder;
-    editor.backups.CurrentFileName = editor.drawing.CurrentFileName;
-    const std::string formerFolder = std::exchange(browser.BrowserFolder, folder);
+    browser.StartFolder = BackupsOfDrawing(editor);
+    if (browser.StartFolder.empty()) return;
+    browser.FileBrowserMode = BrowserMode::Backup;
     const Sorting formerSorting =
         std::exchange(browser.sorting, {BrowserOrder::Modified, /*descending=*/true});
-    browser.FileBrowserMode = BrowserMode::Drawing;
-    editor.drawing.SaveInProgress = false;
     editor.platform.dialogs->show(Form::frmFile);
-    browser.BrowserFolder = formerFolder;
     browser.sorting = formerSorting;
+    if (!browser.Chosen) return;
+    Drawing& drawing = editor.drawing;
+    editor.backups.CurrentFolder = std::exchange(drawing.CurrentFolder, browser.BrowserFolder);
+    editor.backups.CurrentFileName = std::exchange(drawing.CurrentFileName, browser.BrowserFile);
+    editor.backups.offered = browser.BrowserFolder;
+    OpenDrawing(editor);
     editor.backups.offered.clear();
 }
 

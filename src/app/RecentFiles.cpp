@@ -22,11 +22,10 @@ constexpr std::chrono::milliseconds Patience{1000};
 
 // A path that leads to one place wherever the program is started from.
 bool isPath(const Files& files, std::string_view line) {
-    const bool isWhole = line.starts_with(files.separator()) || line.substr(1).starts_with(":\\");
-    const bool hasName = !line.empty() && line.back() != files.separator();
-    return isWhole && hasName && std::none_of(line.begin(), line.end(), [](char c) {
-               return static_cast<unsigned char>(c) < 32;
-           });
+    if (line.size() < 2 || line.back() == files.separator()) return false;
+    const bool isWhole = line.front() == files.separator() || line.substr(1).starts_with(":\\");
+    return isWhole && std::none_of(line.begin(), line.end(),
+                                   [](char c) { return static_cast<unsigned char>(c) < 32; });
 }
 
 std::size_t nameStart(const Files& files, std::string_view path) {

@@ -7,6 +7,7 @@
 #include <filesystem>
 
 #include "app/CommandTable.h"
+#include "app/FileCommands.h"
 #include "app/Startup.h"
 #include "canvas/DrawingCommands.h"
 #include "support/FakePlatform.h"
@@ -87,7 +88,7 @@ TEST_F(FileMenuTest, ASavedDrawingIsARecentOne) {
 
 TEST_F(FileMenuTest, ADamagedListIsReadAsFarAsItGoesAndAHugeOneNotAtAll) {
     const std::string path = fake.folder / "documents/Ladrix/A.els";
-    const std::string noise("\0\xFF\x81\n\r\r\n..\nA.els\n/\n", 18);
+    const std::string noise("\0\xFF\x81\n\n\r\r\n..\nA.els\n/\n", 19);
     fake.folder.write(list, noise + path + "\r\n/tmp/\r\n" + path);
     start();
     EXPECT_THAT(program->recentFiles.paths, ElementsAre(path));
@@ -165,9 +166,8 @@ TEST_F(FileMenuTest, BackupsAreOfferedInTheBrowserWhereThereAreSome) {
     ASSERT_TRUE(enabled());
 
     FileBrowser& browser = program->frmFile;
-    browser.BrowserFolder = fake.folder / "documents/";
     fake.dialogs.duringForm = [&](Form) {
-        frmFile_Load(browser, program->editor, program->paths.DrawingsPath);
+        loadBrowser(*program);
         ASSERT_EQ(browser.entries.size(), 1u);
         FileList1_Click(browser, program->editor, 0);
         EXPECT_TRUE(browser.PreviewShown);
@@ -179,7 +179,7 @@ TEST_F(FileMenuTest, BackupsAreOfferedInTheBrowserWhereThereAreSome) {
     EXPECT_EQ(drawing().CurrentFolder, program->paths.DrawingsPath);
     EXPECT_EQ(drawing().FileDescription, "");
     EXPECT_TRUE(drawing().DrawingChanged);
-    EXPECT_EQ(browser.BrowserFolder, fake.folder / "documents/");
+    EXPECT_EQ(browser.sorting, Sorting{});
     EXPECT_TRUE(program->editor.backups.offered.empty());
     EXPECT_THAT(recent(), ElementsAre("&1 A.els")) << "a copy is no drawing of its own";
 }
