@@ -39,7 +39,6 @@ std::string valueOf(const std::vector<std::string>& lines, Setting setting) {
     return lines[index].substr(TagLength);
 }
 
-// A number that the program could not have written leaves the default.
 void readDashSpacing(Program& program) {
     const std::string value = valueOf(program.UserPrefs, Setting::DashSpacing);
     if (value.empty()) return;
@@ -49,6 +48,7 @@ void readDashSpacing(Program& program) {
     program.editor.DashSpacing = spacing;
 }
 
+// A number that the program could not have written leaves the default.
 void readPaletteRows(Program& program) {
     const auto rows = typedNumber(valueOf(program.UserPrefs, Setting::PaletteRows));
     if (rows && *rows >= FewestPaletteRows && *rows <= MostPaletteRows)
