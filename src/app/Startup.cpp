@@ -153,8 +153,7 @@ void listUserLibraries(Program& program) {
     const bool tall = program.platform.screen.Height >= TallScreenHeight;
     symbols.MaxSymbolsPerLibrary =
         static_cast<Short>(symbols.PaletteRows * (tall ? RowsOnTallScreen : RowsOnLowScreen));
-    selectLibrary(symbols, program.editor, program.paths.BasePath,
-                  program.paths.UserLibraryFile);
+    selectLibrary(symbols, program.editor, program.paths.BasePath, program.paths.UserLibraryFile);
     ListUserLibraries(symbols, program.editor);
 }
 
