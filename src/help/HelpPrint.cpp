@@ -9,7 +9,7 @@ namespace {
 
 constexpr Single LeftEdge = 540, TopEdge = 720, BottomEdge = 720;
 constexpr Single Measure = 6.5f * TwipsPerInch;
-constexpr Single EntryWidth = 2 * TwipsPerInch;  // of what stands before a tab
+constexpr Single EntryGap = 0.2f * TwipsPerInch, WidestEntry = 3.5f * TwipsPerInch;
 constexpr Single ListIndent = 0.2f * TwipsPerInch;
 
 struct PrintedLine {
@@ -52,13 +52,24 @@ std::vector<std::string> wrapped(Printer& printer, std::string_view text, Single
     return lines;
 }
 
+// Of what stands before tabs.
+Single entryWidth(Printer& printer, const std::vector<std::string>& lines) {
+    Single widest = 0;
+    for (const std::string& line : lines)
+        if (const std::size_t tab = line.find('\t'); tab != std::string::npos)
+            widest = std::max(widest, printer.TextWidth(line.substr(0, tab)));
+    return std::min(widest + EntryGap, WidestEntry);
+}
+
 // As the window shows them: what follows an entry or an item hangs beside it.
 std::vector<PrintedLine> printedLines(Printer& printer, std::string_view body, Single width) {
     std::vector<PrintedLine> printed;
-    for (const std::string& line : linesOf(body)) {
+    const std::vector<std::string> lines = linesOf(body);
+    const Single entries = entryWidth(printer, lines);
+    for (const std::string& line : lines) {
         const std::size_t tab = line.find('\t');
         const bool hasEntry = tab != std::string::npos;
-        const Single indent = hasEntry ? EntryWidth : isListItem(line) ? ListIndent : 0;
+        const Single indent = hasEntry ? entries : isListItem(line) ? ListIndent : 0;
         const std::string_view text = hasEntry ? std::string_view(line).substr(tab + 1) : line;
         const std::size_t first = printed.size();
         for (std::string& part : wrapped(printer, text, width - indent))

@@ -14,7 +14,7 @@ namespace ladrix {
 namespace {
 
 constexpr int MeasureInCharacters = 84;  // a line's length that is easy to read
-constexpr int TabInCharacters = 26;
+constexpr int GapInCharacters = 3;       // between an entry and what it means
 
 bool isHeading(const QString& line) {
     static const QRegularExpression letters(QStringLiteral("[A-Z]{2}"));
@@ -75,7 +75,6 @@ void HelpText::showState(const HelpTextBox& state) {
     QFont font(toQString(state.Font.name));
     font.setPointSizeF(static_cast<double>(state.Font.size));
     document()->setDefaultFont(font);
-    setTabStopDistance(TabInCharacters * QFontMetricsF(font).averageCharWidth());
     fitLines();
     setReadOnly(!state.Enabled);
     setPlainText(shownText(state.Text));
@@ -104,10 +103,24 @@ void HelpText::correct(const HelpTextBox& state) {
     showing_ = false;
 }
 
+// Wide enough for the longest entry; half a line at most.
+double HelpText::entryWidth() const {
+    QFont bold = document()->defaultFont();
+    bold.setWeight(QFont::DemiBold);
+    const QFontMetricsF metrics(bold);
+    double widest = 0;
+    for (QTextBlock block = document()->begin(); block.isValid(); block = block.next())
+        if (const qsizetype tab = block.text().indexOf(u'\t'); tab > 0)
+            widest = std::max(widest, metrics.horizontalAdvance(block.text().left(tab)));
+    const double character = metrics.averageCharWidth();
+    return std::min(widest + GapInCharacters * character, MeasureInCharacters * character / 2);
+}
+
 // Entries and items hang in front of what they say. Not a step that can be undone.
 void HelpText::formatBlocks() {
     document()->setUndoRedoEnabled(false);
     const QFontMetricsF metrics(document()->defaultFont());
+    setTabStopDistance(entryWidth());
     for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
         const bool isEntry = block.text().contains(u'\t');
         const double hang =

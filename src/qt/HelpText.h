@@ -29,6 +29,7 @@ class HelpText final : public QTextEdit {
     void resizeEvent(QResizeEvent* event) override;
 
   private:
+    double entryWidth() const;
     void formatBlocks();
     void fitLines();
 

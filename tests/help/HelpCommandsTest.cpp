@@ -315,7 +315,7 @@ TEST_F(HelpCommandsTest, ATopicPrintsLineByLineFromTheTopOfEachPage) {
     // The font is 11 points, a line 1.2 times that: 264 twips. A blank line takes no room.
     EXPECT_TRUE(lines[3].starts_with("Print 540,1512 \"First\"")) << lines[3];
     EXPECT_TRUE(lines[4].starts_with("Print 540,1776 \"Key\"")) << lines[4];
-    EXPECT_TRUE(lines[5].starts_with("Print 3420,1776 \"Meaning\"")) << lines[5];
+    EXPECT_TRUE(lines[5].starts_with("Print 1224,1776 \"Meaning\"")) << lines[5];
     const auto turn = std::find(printer.log.begin(), printer.log.end(), "NewPage");
     ASSERT_NE(turn, printer.log.end());
     EXPECT_TRUE(std::prev(turn)->starts_with("Print 540,14976 ")) << *std::prev(turn);

@@ -1,0 +1,94 @@
+// Every button and field tells what it does, by a tip or at least by its caption.
+#include "qt/Tips.h"
+
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QAbstractScrollArea>
+#include <QApplication>
+#include <QComboBox>
+#include <QLineEdit>
+
+#include "app/Startup.h"
+#include "canvas/Tools.h"
+#include "qt/DescriptionDialog.h"
+#include "qt/FileDialog.h"
+#include "qt/LogDialog.h"
+#include "qt/MainWindow.h"
+#include "qt/QtFonts.h"
+#include "support/FakePlatform.h"
+
+namespace ladrix {
+namespace {
+
+// A control's tip may be that of the one that it is a part of.
+QString tipOf(const QWidget& control) {
+    for (const QWidget* widget = &control; widget && !widget->isWindow();
+         widget = widget->parentWidget())
+        if (!widget->toolTip().isEmpty()) return widget->toolTip();
+    return {};
+}
+
+bool tells(const QWidget& control) {
+    const auto* button = qobject_cast<const QAbstractButton*>(&control);
+    return !tipOf(control).isEmpty() || (button && !button->text().isEmpty());
+}
+
+// The names of what is shown and tells nothing, and of tips in another style.
+QStringList faultsOf(const QWidget& window) {
+    QStringList faults;
+    for (const QWidget* control : window.findChildren<QWidget*>()) {
+        const bool asks = qobject_cast<const QAbstractButton*>(control) ||
+                          qobject_cast<const QLineEdit*>(control) ||
+                          qobject_cast<const QComboBox*>(control);
+        if (asks && control->isVisibleTo(&window) && !tells(*control))
+            faults << control->objectName() + ": no tip";
+        const QString tip = control->toolTip();
+        const bool plain = !tip.endsWith(u'.') && (tip.isEmpty() || tip.at(0).isUpper());
+        if (asks && !plain) faults << control->objectName() + ": \"" + tip + '"';
+    }
+    return faults;
+}
+
+struct TipsTest : testing::Test {
+    test::FakePlatform machine;
+    QtFonts fonts;
+    QtCanvas canvas;
+    std::unique_ptr<Program> program;
+
+    void SetUp() override {
+        machine.platform.picLX = &canvas;
+        machine.platform.fonts = &fonts;
+        program = std::make_unique<Program>(machine.platform);
+        canvas.showPageOf(program->editor);
+        ASSERT_TRUE(startProgram(*program));
+    }
+};
+
+TEST_F(TipsTest, EveryControlOfTheMainWindowTellsWhatItDoes) {
+    MainWindow window(*program, canvas);
+    window.show();
+    giveTips(window);
+    for (const Short tool : {Short{-1}, Short{0}, Short{4}}) {  // none, text, arc
+        if (tool >= 0) cmdSym_Click(program->editor, tool);
+        window.refresh();
+        QCoreApplication::processEvents();
+        EXPECT_EQ(faultsOf(window).join("; ").toStdString(), "") << tool;
+    }
+}
+
+template <class Dialog>
+std::string faultsOfDialog(Program& program) {
+    Dialog dialog(program, nullptr);
+    giveTips(dialog);
+    return faultsOf(dialog).join("; ").toStdString();
+}
+
+TEST_F(TipsTest, EveryControlOfADialogTellsWhatItDoes) {
+    EXPECT_EQ(faultsOfDialog<FileDialog>(*program), "");
+    EXPECT_EQ(faultsOfDialog<DescriptionDialog>(*program), "");
+    EXPECT_EQ(faultsOfDialog<LogDialog>(*program), "");
+}
+
+}  // namespace
+}  // namespace ladrix
