@@ -6,13 +6,16 @@ namespace ladrix {
 
 namespace {
 
-constexpr std::string_view MainWindowName = "frmLX";
+constexpr std::string_view MainWindowName = "frmLX", BrowserName = "frmFile";
 constexpr std::string_view AnySymbol = "symbol", UserSymbol = "user symbol";
 constexpr std::string_view Simulating = "simulation", SavingSymbol = "saving a symbol",
                            Arranging = "arranging buttons", Zooming = "zoom",
                            Aligning = "aligning labels", Copying = "copy or move",
-                           LabelsSelected = "labels selected", Selected = "selection",
-                           Idle = "nothing under way";
+                           Saving = "saving a file", Backups = "backups",
+                           Library = "choosing a library", Pictures = "choosing a picture",
+                           Favourites = "choosing a folder", Settings = "choosing preferences",
+                           Exporting = "exporting", LabelsSelected = "labels selected",
+                           Selected = "selection", Idle = "nothing under way";
 
 // clang-format off
 constexpr HelpContext Contexts[] = {
@@ -39,7 +42,14 @@ constexpr HelpContext Contexts[] = {
     {LabelsSelected, "4.6 Text Properties and Alignment"},
     {Selected, "4.1 Selecting"},
     {Idle, "1.1 Welcome to Ladrix"},
-    {"frmFile", "5.2 The File Browser"},
+    {BrowserName, "5.2 The File Browser"},
+    {Saving, "5.1 Opening and Saving"},
+    {Backups, "5.5 Recent Drawings and Backup Copies"},
+    {Library, "7.4 User Libraries"},
+    {Pictures, "4.8 Pictures"},
+    {Favourites, "5.3 Favourite Folders"},
+    {Settings, "9.3 Preferences"},
+    {Exporting, "6.3 Exporting Drawings and Bitmaps"},
     {"frmDesc", "5.1 Opening and Saving"},
     {"frmLog", "9.4 Error Messages and the Error Log"},
     {"frmTextProps", "4.6 Text Properties and Alignment"},
@@ -73,6 +83,31 @@ std::string_view toolContext(const Editor& editor) {
     return buttons[index].Tag;
 }
 
+// What the browser chooses.
+std::string_view browserContext(const Program& program) {
+    switch (program.frmFile.FileBrowserMode) {
+        case BrowserMode::Library:
+        case BrowserMode::MergeLibrary:
+        case BrowserMode::TransferLibrary:
+            return Library;
+        case BrowserMode::Picture:
+            return Pictures;
+        case BrowserMode::SavePreferences:
+        case BrowserMode::RestorePreferences:
+            return Settings;
+        case BrowserMode::SaveExport:
+            return Exporting;
+        case BrowserMode::Folder:
+            return Favourites;
+        case BrowserMode::Backup:
+            return Backups;
+        default:
+            break;
+    }
+    if (!program.editor.backups.offered.empty()) return Backups;
+    return program.editor.drawing.SaveInProgress ? Saving : BrowserName;
+}
+
 // What is under way in the main window.
 std::string_view editorContext(const Editor& editor) {
     if (editor.SimulationMode) return Simulating;
@@ -93,7 +128,8 @@ std::span<const HelpContext> helpContexts() {
 }
 
 std::string_view helpTopicOf(const Program& program, std::string_view window) {
-    const std::string_view topic = topicOf(window);
+    const std::string_view topic =
+        topicOf(window == BrowserName ? browserContext(program) : window);
     return topic.empty() ? topicOf(editorContext(program.editor)) : topic;
 }
 

@@ -38,6 +38,7 @@ constexpr Tip Tips[] = {
     {"frmFile", "cmbFavorites", "Favourite folders"},
     {"frmFile", "cmdGoFavorite", "Go to the favourite folder"},
     {"frmFile", "cmdAddToFavorites", "Add this folder to the favourites"},
+    {"frmFile", "mnuOptions", "Add this folder to the favourites, or manage them"},
 
     {"frmDesc", "txtDescription", "Note that is kept with the drawing"},
     {"frmDesc", "cmdSave", "Keep the description"},
@@ -55,6 +56,7 @@ constexpr Tip Tips[] = {
     {"frmTextProps", "txtCaption", "Text of the label"},
     {"frmTextProps", "cmdOKTextProps", "Change the selected labels (Enter)"},
     {"frmTextProps", "cmdSet", "Use these settings for new labels"},
+    {"frmTextProps", "cmdCancel", "Leave the labels as they are (Esc)"},
 
     {"frmFavorites", "lstFavorites", "Favourite folders in their order"},
     {"frmFavorites", "cmdBrowse", "Add a folder to the list"},

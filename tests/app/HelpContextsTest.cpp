@@ -93,6 +93,9 @@ TEST_F(HelpContextsTest, TheTopicIsThatOfWhatIsUnderWay) {
     EXPECT_EQ(topic(), "3.2 Zoom, Scrolling and Stretching");
     editor.SimulationMode = true;
     EXPECT_EQ(topic(), "8.1 Circuit Simulation");
+    EXPECT_EQ(helpTopicOf(program, "frmFile"), "5.2 The File Browser");
+    program.frmFile.FileBrowserMode = BrowserMode::Picture;
+    EXPECT_EQ(helpTopicOf(program, "frmFile"), "4.8 Pictures");
     EXPECT_EQ(helpTopicOf(program, "frmLayout"), "3.4 Page Sizes");
     EXPECT_EQ(helpTopicOf(program, "frmUnknown"), "8.1 Circuit Simulation");
 }

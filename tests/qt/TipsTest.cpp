@@ -12,10 +12,12 @@
 #include "app/Startup.h"
 #include "canvas/Tools.h"
 #include "qt/DescriptionDialog.h"
+#include "qt/FavoritesDialog.h"
 #include "qt/FileDialog.h"
 #include "qt/LogDialog.h"
 #include "qt/MainWindow.h"
 #include "qt/QtFonts.h"
+#include "qt/TextPropsDialog.h"
 #include "support/FakePlatform.h"
 
 namespace ladrix {
@@ -88,6 +90,8 @@ TEST_F(TipsTest, EveryControlOfADialogTellsWhatItDoes) {
     EXPECT_EQ(faultsOfDialog<FileDialog>(*program), "");
     EXPECT_EQ(faultsOfDialog<DescriptionDialog>(*program), "");
     EXPECT_EQ(faultsOfDialog<LogDialog>(*program), "");
+    EXPECT_EQ(faultsOfDialog<TextPropsDialog>(*program), "");
+    EXPECT_EQ(faultsOfDialog<FavoritesDialog>(*program), "");
 }
 
 }  // namespace
