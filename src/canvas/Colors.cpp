@@ -134,15 +134,23 @@ void cmdScaleOK_Click(Editor& editor) {
 void mnuOptionThickDevices_Click(Editor& editor) {
     editor.symbols.ThickDevices = !editor.symbols.ThickDevices;
     editor.form.menu[Menu::mnuOptionThickDevices].Checked = editor.symbols.ThickDevices;
-    editor.platform.picLX->DrawWidth = editor.symbols.ThickDevices ? 2 : 1;
+    applyThickDevices(editor);
     RedrawDrawing(editor);
 }
 
 void mnuOptBlackBackground_Click(Editor& editor) {
     editor.BlackBackground = !editor.BlackBackground;
     editor.form.menu[Menu::mnuOptBlackBackground].Checked = editor.BlackBackground;
-    editor.platform.picLX->BackColor = editor.BlackBackground ? Black : White;
+    applyBlackBackground(editor);
     RedrawDrawing(editor);
+}
+
+void applyThickDevices(Editor& editor) {
+    editor.platform.picLX->DrawWidth = editor.symbols.ThickDevices ? 2 : 1;
+}
+
+void applyBlackBackground(Editor& editor) {
+    editor.platform.picLX->BackColor = editor.BlackBackground ? Black : White;
 }
 
 }  // namespace ladrix

@@ -34,4 +34,8 @@ void cmdScaleOK_Click(Editor& editor);
 void mnuOptionThickDevices_Click(Editor& editor);
 void mnuOptBlackBackground_Click(Editor& editor);
 
+// The canvas takes the option as it stands. Neither paints.
+void applyThickDevices(Editor& editor);
+void applyBlackBackground(Editor& editor);
+
 }  // namespace ladrix

@@ -6,6 +6,7 @@
 #include "canvas/Redraw.h"
 #include "canvas/SaveGuard.h"
 #include "canvas/View.h"
+#include "canvas/Zoom.h"
 #include "document/DrawingFile.h"
 #include "document/Records.h"
 
@@ -100,6 +101,14 @@ void removeTempDrawing(Editor& editor) {
         editor.platform.files->remove(tempDrawing(editor));
 }
 
+// Drawings of the program's own folder that are opened with their whole width in view.
+bool opensAtPageWidth(const Editor& editor) {
+    const Drawing& drawing = editor.drawing;
+    return drawing.CurrentFolder == editor.AppFilePath &&
+           (drawing.CurrentFileName == "Motor Forward Power And Logic.els" ||
+            drawing.CurrentFileName == "Motor Reverse Power And Logic.els");
+}
+
 void takeNameAway(Editor& editor) {
     editor.drawing.CurrentFileName.clear();
     editor.drawing.TitleState = 0;
@@ -115,15 +124,29 @@ void tellIncomplete(Editor& editor) {
                                      "does not replace the file.";
 }
 
+void emptyDrawing(Editor& editor) {
+    ClearTables(editor.drawing);
+    editor.drawing.FileDescription.clear();
+    editor.img.clear();
+    editor.LastSelectedLabel = -1;
+    editor.LabelEdited = false;
+    editor.backups.shown.clear();
+}
+
 // A file that could not be read, or only in part, gives the drawing no name: a save must not
 // replace it.
-void readNamedFile(Editor& editor) {
+void readNamedFile(Editor& editor, PageView view) {
     const Drawing& drawing = editor.drawing;
     try {
         const FileText file = readDrawingFile(*editor.platform.files,
                                               drawing.CurrentFolder + drawing.CurrentFileName);
-        openText(editor, file);
-        if (!drawing.ReadIncomplete) return fileTouched(editor, file.content);
+        // The picture before stays where there is no file.
+        if (view == PageView::Kept) {
+            emptyDrawing(editor);
+            ResetEditor(editor);
+        }
+        openText(editor, file, view);
+        if (!drawing.ReadIncomplete) return RememberFile(editor, file.content);
     } catch (const Failure&) {
         takeNameAway(editor);
         throw;
@@ -138,7 +161,7 @@ void readBackup(Editor& editor, const std::string& copy) {
     const FileText file = readDrawingFile(*editor.platform.files, editor.backups.offered + copy);
     const bool withTemplate = std::exchange(drawing.TemplateActive, false);
     if (NewDrawing(editor)) {
-        openText(editor, file);
+        openText(editor, file, PageView::Fresh);
         drawing.DrawingChanged = true;
         editor.backups.shown = nameWithoutExtension(copy);
         UpdateTitle(editor);
@@ -155,11 +178,13 @@ void openNamed(Editor& editor) {
         drawing.CurrentFolder = backups.CurrentFolder;
         readBackup(editor, copy);
     } else if (drawing.TemplateActive || NewDrawing(editor)) {
-        readNamedFile(editor);
+        readNamedFile(editor, PageView::Fresh);
+        if (!drawing.CurrentFileName.empty() && editor.FileTouched) editor.FileTouched();
     } else {
         return;
     }
     removeTempDrawing(editor);
+    if (opensAtPageWidth(editor)) zoomToPageWidth(editor);
 }
 
 // False: the file is to stay as it is.
@@ -240,12 +265,7 @@ bool NewDrawing(Editor& editor) {
         return false;
     }
     Drawing& drawing = editor.drawing;
-    ClearTables(drawing);
-    drawing.FileDescription.clear();
-    editor.img.clear();
-    editor.LastSelectedLabel = -1;
-    editor.LabelEdited = false;
-    editor.backups.shown.clear();
+    emptyDrawing(editor);
     drawing.TitleState = drawing.CurrentFileName.empty() ? 0 : 1;
     layOutNewPage(editor);
     ResetEditor(editor);
@@ -285,6 +305,20 @@ void OpenDrawing(Editor& editor) {
         tellOutcome(editor, "The drawing could not be opened. " + failure.text);
         report(editor, "Open Drawing", failure);
     }
+    drawing.Reading = false;
+}
+
+void OpenDrawingQuietly(Editor& editor) {
+    Drawing& drawing = editor.drawing;
+    drawing.Reading = true;
+    const bool withTemplate = std::exchange(drawing.TemplateActive, false);
+    try {
+        readNamedFile(editor, PageView::Kept);
+        removeTempDrawing(editor);
+    } catch (const Failure& failure) {
+        report(editor, "Open Drawing", failure);
+    }
+    drawing.TemplateActive = withTemplate;
     drawing.Reading = false;
 }
 

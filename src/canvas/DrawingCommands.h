@@ -37,6 +37,11 @@ void SaveDrawing(Editor& editor);
 // name of the drawing that they are of, which then counts as changed.
 void OpenDrawing(Editor& editor);
 
+// The same for the pictures of the simulation: the zoom and the scrolled place stay, a template in
+// force waits for another drawing, and what is under way ends unasked. A file that cannot be read
+// leaves the drawing as it was, without a name.
+void OpenDrawingQuietly(Editor& editor);
+
 // Reads the file into the document's own tables, which are given up, and returns the page key and
 // description for the browser to show. nullopt if it could not be read: the user has been told.
 struct PreviewOfFile {

@@ -48,7 +48,7 @@ void writeDrawing(Editor& editor, std::string_view text) {
     editor.platform.files->replace(drawing.CurrentFolder + drawing.CurrentFileName, text);
 }
 
-void openText(Editor& editor, const FileText& file) {
+void openText(Editor& editor, const FileText& file, PageView view) {
     Drawing& drawing = editor.drawing;
     DrawingParts parts = splitFile(file.content, file.modified);
     const bool joining = drawing.TemplateActive;
@@ -62,7 +62,10 @@ void openText(Editor& editor, const FileText& file) {
         drawing.TemplateLabels = drawing.LabelString;
     }
     parseAll(editor);
-    if (!joining) layOutNewPage(editor);
+    if (view == PageView::Kept)
+        keepViewOnNewPage(editor);
+    else if (!joining)
+        layOutNewPage(editor);
     RedrawDrawing(editor);
     if (editor.ClearHistory) editor.ClearHistory();
     drawing.DrawingChanged = false;

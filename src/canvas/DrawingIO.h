@@ -16,8 +16,10 @@ FileText readDrawingFile(Files& files, const std::string& path);
 // Writes the drawing's text under its name, after its pictures have been copied beside it.
 void writeDrawing(Editor& editor, std::string_view text);
 
-// Fills the tables from a file's text, or adds it to the template in force, and shows the drawing.
-void openText(Editor& editor, const FileText& file);
+// Fills the tables from a file's text, or adds it to the template in force, and shows the drawing:
+// at 100 percent from its upper left, or where the view stood.
+enum class PageView { Fresh, Kept };
+void openText(Editor& editor, const FileText& file, PageView view);
 
 // Fills the tables from a crash copy; the drawing stays untitled.
 void restoreText(Editor& editor, const FileText& file);

@@ -180,6 +180,12 @@ struct Editor {
     // click, -1 for the canvas. Set once by the layer above.
     std::function<void(Single x, Single y, Short label)> SymbolPointTaken;
 
+    // What the pointer does on the canvas while SimulationMode is on. Set once by the layer above.
+    struct {
+        std::function<void(Single x, Single y)> move;
+        std::function<void()> press, release;
+    } simulation;
+
     // Set once by the layer above.
     std::string AppFilePath, BasePath, UserSymbolsPath, UserButtonsPath;
 };

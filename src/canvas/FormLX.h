@@ -35,7 +35,7 @@ struct FlyOut {
     friend bool operator==(const FlyOut&, const FlyOut&) = default;
 };
 
-enum class MousePointer { Default, Cross, ZoomIn, ZoomOut, SizeWidth };
+enum class MousePointer { Default, Cross, ZoomIn, ZoomOut, SizeWidth, Hand };
 enum class Focus { Canvas, TextEdit, CircleEnd, None };
 
 // The part that every pointer move may change.
@@ -52,6 +52,7 @@ struct FormLX {
     std::string Caption;
     MenuStates menu;
 
+    Control picTop;  // the strip; the simulation's panel takes its place
     Control lblMessage, lblCoords, lblSelected, lblUndoCount, lblTime;
     Control cmdReset = captioned("Reset");
     Control cmdSnap, cmdSnapHigher, cmdSnapLower;

@@ -197,6 +197,15 @@ void pressRightButton(Editor& editor) {
         editor.platform.dialogs->popUp("mnuEditDrawing");
 }
 
+// The right button works no device of the simulated circuit.
+void pressSimulation(Editor& editor, Short button) {
+    if (button != RightButton && editor.simulation.press) editor.simulation.press();
+}
+
+void releaseSimulation(Editor& editor, Short button) {
+    if (button != RightButton && editor.simulation.release) editor.simulation.release();
+}
+
 }  // namespace
 
 // The release after this press may be another window's.
@@ -234,7 +243,10 @@ void picLX_MouseMove(Editor& editor, Short button, Short, Single x, Single y) {
     PointerState& pointer = editor.form.pointer;
     chooseCursor(editor);
     if (!zoomPending(editor)) editor.form.picMoreSym.Visible = false;
-    if (editor.SimulationMode) return;
+    if (editor.SimulationMode) {
+        if (editor.simulation.move) editor.simulation.move(x, y);
+        return;
+    }
     if (x == editor.PreviousX && y == editor.PreviousY) return;
     editor.PreviousX = x;
     editor.PreviousY = y;
@@ -262,7 +274,7 @@ void picLX_MouseDown(Editor& editor, Short button, Short, Single x, Single y) {
     editor.form.pointer.picGrip.Visible = false;
     if (zoomPending(editor)) return zoomAtPress(editor, x, y);
     editor.MouseIsDown = true;
-    if (editor.SimulationMode) return;
+    if (editor.SimulationMode) return pressSimulation(editor, button);
     if (button == RightButton) return pressRightButton(editor);
     if (editor.SavingUserSymbol && editor.SymbolPointPending)
         return takeSymbolPoint(editor, editor.SnapX, editor.SnapY, -1);
@@ -280,10 +292,11 @@ void picLX_MouseDown(Editor& editor, Short button, Short, Single x, Single y) {
     if (!editor.CopyArmed) pickLines(editor, x, y);
 }
 
-void picLX_MouseUp(Editor& editor, Short, Short, Single, Single) {
+void picLX_MouseUp(Editor& editor, Short button, Short, Single, Single) {
     editor.MouseIsDown = false;
     editor.BandArmed = false;
-    if (zoomPending(editor) || editor.SimulationMode) return;
+    if (zoomPending(editor)) return;
+    if (editor.SimulationMode) return releaseSimulation(editor, button);
     if (editor.BandShown) {
         editor.BandShown = false;
         editor.form.pointer.shpSelect.Visible = false;
@@ -296,6 +309,7 @@ void picLX_MouseUp(Editor& editor, Short, Short, Single, Single) {
 
 void picLX_DblClick(Editor& editor) {
     if (zoomPending(editor)) return;
+    if (editor.SimulationMode) return pressSimulation(editor, LeftButton);
     const Short tool = editor.DashedMode != 0 ? DashedLineTool : LineTool;
     ResetEditor(editor);
     cmdSym_Click(editor, tool);

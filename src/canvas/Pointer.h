@@ -16,7 +16,8 @@ void picLX_MouseMove(Editor& editor, Short button, Short shift, Single x, Single
 
 void picLX_MouseUp(Editor& editor, Short button, Short shift, Single x, Single y);
 
-// Ends a polyline and arms the next one in the same style. Comes in place of the second press.
+// Ends a polyline and arms the next one in the same style. Comes in place of the second press; in
+// the simulation it is that press.
 void picLX_DblClick(Editor& editor);
 
 // The click that a user symbol's insertion point waits for, on the canvas (label -1) or on a label;

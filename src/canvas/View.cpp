@@ -115,6 +115,14 @@ void layOutNewPage(Editor& editor) {
     returnToFullSize(editor);
 }
 
+void keepViewOnNewPage(Editor& editor) {
+    takePageSize(editor);
+    editor.CanvasScaleWidth = editor.PageWidth / editor.ZoomFactor;
+    editor.CanvasScaleHeight = editor.PageHeight / editor.ZoomFactor;
+    ArrangeScrollBars(editor);
+    placeView(editor, editor.ScaleLeft, editor.ScaleTop);
+}
+
 void ResetZoom(Editor& editor) {
     returnToFullSize(editor);
     paintDrawing(editor);

@@ -18,6 +18,10 @@ void ApplyPageLayout(Editor& editor);
 // painted; the caller redraws.
 void layOutNewPage(Editor& editor);
 
+// The page by its key under the present zoom, scrolled as it was as far as the page allows. Nothing
+// is painted; the caller redraws.
+void keepViewOnNewPage(Editor& editor);
+
 // 100 percent, scrolled to the upper left.
 void ResetZoom(Editor& editor);
 

@@ -93,6 +93,18 @@ void mnuEditZoomOut_Click(Editor& editor) {
     ZoomOut(editor);
 }
 
+void zoomToPageWidth(Editor& editor) {
+    const double fits = editor.form.FrameWidth / TwipsPerInch / editor.PageWidth;
+    Short steps = FewestSteps;
+    while (steps < MostSteps && std::pow(StepFactor, steps + 1) <= fits)
+        ++steps;
+    setSteps(editor, steps);
+    ArrangeScrollBars(editor);
+    placeView(editor, 0, 0);
+    paintDrawing(editor);
+    editor.form.lblMessage.Caption = zoomScaleText(editor);
+}
+
 void zoomAtPress(Editor& editor, Single x, Single y) {
     editor.ZoomPointX = x;
     editor.ZoomPointY = y;

@@ -20,6 +20,9 @@ void cmdZoomOut_Click(Editor& editor);
 void mnuEditZoomIn_Click(Editor& editor);
 void mnuEditZoomOut_Click(Editor& editor);
 
+// The largest step at which the whole width of the page fits the frame, scrolled to the top.
+void zoomToPageWidth(Editor& editor);
+
 // The press of a pending zoom.
 void zoomAtPress(Editor& editor, Single x, Single y);
 

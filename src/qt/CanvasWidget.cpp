@@ -97,6 +97,8 @@ void CanvasWidget::showPointer(MousePointer pointer) {
             return setCursor(theme::cursor("cursor-zoom-in", 10, 10));
         case MousePointer::ZoomOut:
             return setCursor(theme::cursor("cursor-zoom-out", 10, 10));
+        case MousePointer::Hand:
+            return setCursor(theme::cursor("cursor-hand", 11, 4));
         case MousePointer::SizeWidth:
             return setCursor(Qt::SizeHorCursor);
     }
