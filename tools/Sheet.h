@@ -42,6 +42,7 @@ constexpr TextStyle Title{14, true};
 class Sheet {
   public:
     Drawing drawing;
+    Long ink = Black;  // of symbols, circles, dots and wires
 
     Sheet(std::string_view pageKey, std::string_view description) {
         drawing.PageLayoutKey = pageKey;
@@ -59,13 +60,14 @@ class Sheet {
     // By its left end.
     void circle(Single x, Single y, Single radius) { place("InsertCircle", x, y, radius); }
     // Where conductors that meet are joined.
-    void dot(Single x, Single y) { place("InsertSolidCircle", x, y, DotRadius); }
+    void dot(Single x, Single y) { disc(x, y, DotRadius); }
+    void disc(Single x, Single y, Single radius) { place("InsertSolidCircle", x, y, radius); }
 
     // From point to point, straight lines.
     void wire(std::initializer_list<Point> points, std::string_view widthTag = {}) {
         Point from = *points.begin();
         for (const Point& to : points) {
-            if (from.x != to.x || from.y != to.y) line(from, to, Black, widthTag);
+            if (from.x != to.x || from.y != to.y) line(from, to, ink, widthTag);
             from = to;
         }
     }
@@ -133,6 +135,7 @@ class Sheet {
         block.CurDevice = name;
         block.CurX = x;
         block.CurY = y;
+        block.CurColor = ink;
         block.CurRadius = block.CurRadius2 = radius;
         block.CurAspect = 1;
         block.CurScaleX = block.CurScaleY = 1;

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "Sheet.h"
+#include "SheetParts.h"
 
 namespace ladrix::tools {
 
@@ -23,10 +24,6 @@ void named(Sheet& sheet, std::string_view text, Single symbolX, Single y) {
     sheet.centred(text, symbolX + SymbolLength / 2, y, Plain);
 }
 
-struct Entry {
-    std::string_view designation, text;
-};
-
 // The lamp that ends a rung, its colour's letter in it, and the wires to both sides.
 void pilotLight(Sheet& sheet, Single wireFrom, Point at, Single wireTo, const Entry& entry,
                 std::string_view colour) {
@@ -35,33 +32,6 @@ void pilotLight(Sheet& sheet, Single wireFrom, Point at, Single wireTo, const En
     named(sheet, entry.designation, at.x, at.y - 0.33f);
     sheet.from(entry.text, end + 0.125f, at.y - 0.1f, Plain);
     sheet.wire({{end, at.y}, {wireTo, at.y}});
-}
-
-void list(Sheet& sheet, Point corner, Single indent, std::initializer_list<Entry> entries) {
-    Single y = corner.y;
-    for (const Entry& entry : entries) {
-        sheet.from(entry.designation, corner.x, y, Plain);
-        sheet.from(entry.text, corner.x + indent, y, Plain);
-        y += 0.1875f;
-    }
-}
-
-// The frame half an inch inside the page and the title block at its foot.
-void frameAndTitle(Sheet& sheet, Point page, std::string_view title, std::string_view subtitle,
-                   std::string_view number) {
-    const Single left = 0.5f, right = page.x - 0.5f, bottom = page.y - 0.5f;
-    const Single top = bottom - 0.625f, numberLeft = right - 2.25f, sheetLeft = right - 1;
-    const Single caption = top + 0.125f, entry = top + 0.4f;
-    sheet.frame({left, 0.5f}, {right, bottom});
-    sheet.frameLine({left, top}, {right, top});
-    sheet.frameLine({numberLeft, top}, {numberLeft, bottom});
-    sheet.frameLine({sheetLeft, top}, {sheetLeft, bottom});
-    sheet.from(title, left + 0.25f, top + 0.225f, Title);
-    sheet.from(subtitle, left + 0.25f, top + 0.45f, Remark);
-    sheet.from("DRAWING", numberLeft + 0.125f, caption, Remark);
-    sheet.from(number, numberLeft + 0.125f, entry, Heading);
-    sheet.from("SHEET", sheetLeft + 0.125f, caption, Remark);
-    sheet.from("1 OF 1", sheetLeft + 0.125f, entry, Heading);
 }
 
 void lineNumbers(Sheet& sheet, Single x, std::initializer_list<Single> lines) {
