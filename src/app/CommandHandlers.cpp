@@ -53,6 +53,7 @@ void parseDevices(Program& program) {
 }
 
 void chooseNormalMode(Program& program) {
+    LeaveSimulation(program.simulation, program.editor);
     program.editor.form.menu[Menu::mnuModeNormal].Checked = true;
     ResetEditor(program.editor);
 }

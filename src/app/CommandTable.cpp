@@ -9,6 +9,7 @@
 #include "app/HelpContexts.h"
 #include "app/LineOptions.h"
 #include "app/RecentFiles.h"
+#include "app/SimulationCommands.h"
 #include "canvas/Colors.h"
 #include "canvas/CopyMove.h"
 #include "canvas/DrawingCommands.h"
@@ -133,9 +134,9 @@ constexpr Command Commands[] = {
     {Menu::mnuModeNormal, Menu::mnuMode, "mnuModeNormal", "&Normal (Drawing)", "", chooseNormalMode, false, true},
     {Menu::mnuModeDesign, Menu::mnuMode, "mnuModeDesign", "&Design Symbol", "", nullptr, false, true},
     {Menu::mnuModeSimulation, Menu::mnuMode, "mnuModeSimulation", "Circuit &Simulation", "", nullptr, false, false},
-    {Menu::mnuSimCircuit0, Menu::mnuModeSimulation, "mnuSimCircuit0", "Circuit Seal vs. No Seal", "", nullptr, false, true},
-    {Menu::mnuSimCircuit1, Menu::mnuModeSimulation, "mnuSimCircuit1", "On Delay Timer", "", nullptr, false, true},
-    {Menu::mnuSimCircuit2, Menu::mnuModeSimulation, "mnuSimCircuit2", "Off Delay Timer", "", nullptr, false, true},
+    {Menu::mnuSimCircuit0, Menu::mnuModeSimulation, "mnuSimCircuit0", "Circuit Seal vs. No Seal", "", simulateCircuit<0>, false, true},
+    {Menu::mnuSimCircuit1, Menu::mnuModeSimulation, "mnuSimCircuit1", "On Delay Timer", "", simulateCircuit<1>, false, true},
+    {Menu::mnuSimCircuit2, Menu::mnuModeSimulation, "mnuSimCircuit2", "Off Delay Timer", "", simulateCircuit<2>, false, true},
     {Menu::mnuModeIllustration, Menu::mnuMode, "mnuModeIllustration", "Illustration Mode", "", nullptr, true, true},
     {Menu::mnuAdmin, Menu::mnuAdmin, "mnuAdmin", "&Admin", "", nullptr, false, false},
     {Menu::mnuAdminCreateShortcut, Menu::mnuAdmin, "mnuAdminCreateShortcut", "Create &Shortcut on the Desktop", "", createShortcut, false, false},
@@ -180,7 +181,9 @@ const Command& command(Menu entry) {
 
 bool isEnabled(const Program& program, const Command& row) {
     if (row.handler == nullptr && !hasEntriesBelow(row.entry)) return false;
-    return program.editor.form.menu[row.entry].Enabled;
+    // Shortcuts stay alive below a menu that is closed: it speaks for its entries.
+    const bool open = row.menu == row.entry || isEnabled(program, command(row.menu));
+    return open && program.editor.form.menu[row.entry].Enabled;
 }
 
 void runCommand(Program& program, Menu entry) {

@@ -26,7 +26,7 @@ struct Command {
 std::span<const Command> commandTable();
 const Command& command(Menu entry);
 
-// Shown enabled: it has a handler (or entries below it) and its state says so.
+// Shown enabled: it has a handler (or entries below it), and its state and its menu's say so.
 bool isEnabled(const Program& program, const Command& command);
 
 // Runs the entry's handler if it is enabled.

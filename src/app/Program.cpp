@@ -25,6 +25,7 @@ Program::Program(Platform& machine) : platform(machine), editor(machine) {
         takeInsertionPoint(usersymbols, editor, x, y, label);
     };
     usersymbols.NoteRepair = [this](std::string_view line) { appendErrorMessage(*this, line); };
+    connectSimulation(simulation, editor);
     ClearHistory(editor);
 }
 

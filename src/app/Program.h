@@ -12,6 +12,7 @@
 #include "canvas/TextProperties.h"
 #include "help/HelpForm.h"
 #include "platform/Platform.h"
+#include "simulation/Simulation.h"
 #include "usersymbols/UserSymbols.h"
 
 namespace ladrix {
@@ -48,6 +49,7 @@ struct Program {
     Favorites favorites;
     FavoritesForm frmFavorites;
     UserSymbols usersymbols;
+    Simulation simulation;
     LogViewer frmLog;
     TextProperties frmTextProps;
     RecentFiles recentFiles;

@@ -91,13 +91,19 @@ MainWindow::MainWindow(Program& program, QtCanvas& canvas) : program_(program) {
     picTools_ = new PalettePanel(program, buttonImages_, inside);
     picFrame_ = new CanvasFrame(program, canvas, inside);
     middle->addWidget(picTools_);
-    middle->addWidget(picFrame_, 1);
+    picSimulation_ = new SimulationPanel(program, inside);
+    auto* right = new QVBoxLayout;
+    right->setSpacing(0);
+    right->addWidget(picSimulation_);
+    right->addWidget(picFrame_, 1);
+    middle->addLayout(right, 1);
     column->addLayout(middle, 1);
     makeFoot(*column);
     setCentralWidget(inside);
     picMoreSym_ = new FlyOutWidget(program, buttonImages_, picTools_->palette(), inside);
 
     connect(picTop_, &ToolStrip::handled, this, &MainWindow::refresh);
+    connect(picSimulation_, &SimulationPanel::handled, this, &MainWindow::refresh);
     connect(picTools_, &PalettePanel::handled, this, &MainWindow::refresh);
     connect(picFrame_, &CanvasFrame::handled, this, &MainWindow::refresh);
     connect(picMoreSym_, &FlyOutWidget::handled, this, &MainWindow::refresh);
@@ -107,6 +113,7 @@ MainWindow::MainWindow(Program& program, QtCanvas& canvas) : program_(program) {
     });
     bindings_.watch(program.editor.form.Caption,
                     [this](const std::string& caption) { setWindowTitle(toQString(caption)); });
+    bindings_.addPanel(*picTop_, program.editor.form.picTop);
     bindings_.watch(program.editor.form.menu, [this](const MenuStates&) { showMenus(); });
     watchKeys();
     refresh();
@@ -229,6 +236,7 @@ void MainWindow::refresh() {
 void MainWindow::showState() {
     bindings_.refresh();
     picTop_->refresh();
+    picSimulation_->refresh();
     picTools_->refresh();
     picFrame_->refresh();
     picMoreSym_->refresh();

@@ -12,6 +12,7 @@
 #include "qt/Binding.h"
 #include "qt/CanvasWidget.h"
 #include "qt/PaletteWidget.h"
+#include "qt/SimulationPanel.h"
 #include "qt/ToolStrip.h"
 
 namespace ladrix {
@@ -75,6 +76,7 @@ class MainWindow final : public QMainWindow {
     std::map<Menu, QAction*> entries_;
     std::map<Menu, QMenu*> menus_;
     ToolStrip* picTop_ = nullptr;
+    SimulationPanel* picSimulation_ = nullptr;
     PalettePanel* picTools_ = nullptr;
     CanvasFrame* picFrame_ = nullptr;
     FlyOutWidget* picMoreSym_ = nullptr;
