@@ -69,6 +69,7 @@ class RunningCircuit {
         bool conducts = true, carriesCurrent = false;
     };
     const std::vector<Edge>& edges() const { return edges_; }
+    std::size_t nodeCount() const { return nodes_.size(); }
     Point point(std::size_t node) const { return nodes_[node]; }
     bool live(std::size_t node) const { return live_[node]; }
 

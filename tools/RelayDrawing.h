@@ -1,5 +1,5 @@
-// How a device of a running relay circuit is drawn: the symbol of the position that it is in, and
-// the mark behind one that is operated.
+// How a running relay circuit is drawn: each device by the symbol of the position that it is in,
+// with a mark behind it if it is operated; what is live, or carries current, in colour.
 #pragma once
 
 #include <stdexcept>
@@ -11,6 +11,8 @@ namespace ladrix::tools {
 
 constexpr Long LiveColor = RGB(208, 0, 0), CurrentColor = RGB(0, 96, 208);
 constexpr Long OperatedColor = RGB(255, 212, 96);
+
+enum class View { Voltage, Current };
 
 inline std::string_view symbolOf(const RunningCircuit& running, const RelayDevice& device) {
     const bool operated = running.isOperated(device);
@@ -68,7 +70,7 @@ inline Single nameHeight(Kind kind) {
     switch (kind) {
         case Kind::Stop:
         case Kind::Start:
-            return 0.485f;
+            return 0.46f;
         case Kind::ContactNO:
         case Kind::ContactNC:
             return 0.29f;
@@ -79,5 +81,67 @@ inline Single nameHeight(Kind kind) {
             return 0.2f;
     }
 }
+
+class LadderDrawing {
+  public:
+    LadderDrawing(Sheet& sheet, const RelayCircuit& circuit, const RunningCircuit& running,
+                  View view)
+        : sheet_(sheet), circuit_(circuit), running_(running), view_(view) {}
+
+    void draw() {
+        for (const RelayDevice& device : circuit_.devices)
+            markOperated(sheet_, running_, device);
+        for (const auto& edge : running_.edges())
+            edge.device < 0 ? drawWire(edge) : drawDevice(edge);
+        drawDots();
+        sheet_.ink = Black;
+    }
+
+  private:
+    using Edge = RunningCircuit::Edge;
+
+    Sheet& sheet_;
+    const RelayCircuit& circuit_;
+    const RunningCircuit& running_;
+    View view_;
+
+    // A device has the voltage of its first terminal if it lets it through.
+    bool shines(const Edge& edge) const {
+        if (view_ == View::Current) return edge.carriesCurrent;
+        return edge.conducts && running_.live(edge.from);
+    }
+    Long colorOf(bool shines) const {
+        if (!shines) return Black;
+        return view_ == View::Voltage ? LiveColor : CurrentColor;
+    }
+
+    void drawWire(const Edge& edge) {
+        sheet_.ink = colorOf(shines(edge));
+        sheet_.wire({running_.point(edge.from), running_.point(edge.to)},
+                    shines(edge) ? Heavy : std::string_view());
+    }
+    void drawDevice(const Edge& edge) {
+        const RelayDevice& device = circuit_.devices[static_cast<std::size_t>(edge.device)];
+        sheet_.ink = colorOf(shines(edge));
+        sheet_.symbol(symbolOf(running_, device), device.at.x, device.at.y);
+        sheet_.centred(device.name, device.at.x + 0.25f, device.at.y - nameHeight(device.kind),
+                       device.kind == Kind::Lamp ? TextStyle{7} : Plain);
+    }
+    // Where three or more meet.
+    void drawDots() {
+        for (std::size_t node = 0; node < running_.nodeCount(); ++node) {
+            int meeting = 0;
+            bool coloured = false;
+            for (const Edge& edge : running_.edges()) {
+                if (edge.from != node && edge.to != node) continue;
+                ++meeting;
+                coloured = coloured || (edge.device < 0 && shines(edge));
+            }
+            if (meeting < 3) continue;
+            sheet_.ink = colorOf(coloured);
+            sheet_.dot(running_.point(node).x, running_.point(node).y);
+        }
+    }
+};
 
 }  // namespace ladrix::tools

@@ -27,8 +27,6 @@ constexpr Single TextX = 7.1875f;  // of the remarks beside the rungs
 constexpr Single ConditionX = 3.625f, ChartX = 5.4375f;
 constexpr TextStyle State{11, true}, Reason{9};
 
-enum class View { Voltage, Current };
-
 struct Rung {
     Single y;
     std::string_view heading, remark1 = {}, remark2 = {};
@@ -283,10 +281,7 @@ class StateSheet {
 
     void draw() {
         sheet_.frame({0.25f, 0.25f}, {8.25f, 10.75f});
-        drawMarks();
-        drawWires();
-        drawDevices();
-        drawDots();
+        drawLadder();
         drawRungs();
         drawExplanation();
         drawDeviceList();
@@ -301,32 +296,12 @@ class StateSheet {
     View view_;
     RunningCircuit running_;
 
-    // A device has the voltage of its first terminal if it lets it through.
-    bool shines(const RunningCircuit::Edge& edge) const {
-        if (view_ == View::Current) return edge.carriesCurrent;
-        return edge.device < 0 ? running_.live(edge.from)
-                               : edge.conducts && running_.live(edge.from);
-    }
-    Long shownIn(bool shines) const {
-        if (!shines) return Black;
-        return view_ == View::Voltage ? LiveColor : CurrentColor;
-    }
-
-    void drawMarks() {
-        for (const RelayDevice& device : demo_.circuit.devices)
-            markOperated(sheet_, running_, device);
-    }
-
-    void drawWires() {
-        for (const auto& edge : running_.edges()) {
-            if (edge.device >= 0) continue;
-            sheet_.ink = shownIn(shines(edge));
-            sheet_.wire({running_.point(edge.from), running_.point(edge.to)},
-                        shines(edge) ? Heavy : std::string_view());
-        }
-        sheet_.ink = Black;
+    void drawLadder() {
+        LadderDrawing(sheet_, demo_.circuit, running_, view_).draw();
         terminal(demo_.circuit.hot, "L1");
         terminal(demo_.circuit.neutral, "N");
+        for (const RelayDevice& device : demo_.circuit.devices)
+            if (device.kind == Kind::Coil && device.name == TimerName) tellTimer(device.at);
     }
     void terminal(Point at, std::string_view name) {
         constexpr Single Radius = 0.0375f;
@@ -334,43 +309,10 @@ class StateSheet {
         sheet_.centred(name, at.x, at.y - 0.17f, Plain);
     }
 
-    void drawDevices() {
-        for (const auto& edge : running_.edges()) {
-            if (edge.device < 0) continue;
-            const RelayDevice& device =
-                demo_.circuit.devices[static_cast<std::size_t>(edge.device)];
-            sheet_.ink = shownIn(shines(edge));
-            sheet_.symbol(symbolOf(running_, device), device.at.x, device.at.y);
-            sheet_.centred(device.name, device.at.x + SymbolLength / 2,
-                           device.at.y - nameHeight(device.kind),
-                           device.kind == Kind::Lamp ? TextStyle{7} : Plain);
-            if (device.kind == Kind::Coil && device.name == TimerName) tellTimer(device.at);
-        }
-        sheet_.ink = Black;
-    }
     void tellTimer(Point at) {
         const Point below{at.x + SymbolLength / 2, at.y + 0.35f};
         if (running_.isTiming()) sheet_.centred("TIMING", below.x, below.y, {8, true});
         if (running_.hasTimedOut()) sheet_.centred("TIMED OUT", below.x, below.y, {8, true});
-    }
-
-    void drawDots() {
-        const auto& edges = running_.edges();
-        for (std::size_t node = 0;; ++node) {
-            int meeting = 0;
-            bool wired = false, carries = false;
-            for (const auto& edge : edges) {
-                if (edge.from != node && edge.to != node) continue;
-                ++meeting;
-                wired = true;
-                carries = carries || (edge.device < 0 && shines(edge));
-            }
-            if (!wired) break;
-            if (meeting < 3) continue;
-            sheet_.ink = shownIn(carries);
-            sheet_.dot(running_.point(node).x, running_.point(node).y);
-        }
-        sheet_.ink = Black;
     }
 
     void drawRungs() {

@@ -25,6 +25,8 @@ namespace ladrix::test {
 namespace {
 
 constexpr Single Raster = 0.125f, Near = 0.002f;
+constexpr Long Carrying = RGB(0, 96, 208);    // of conductors that carry current
+constexpr Long Operated = RGB(255, 212, 96);  // of marks behind what is operated: no conductors
 
 struct Point {
     Single x = 0, y = 0;
@@ -57,6 +59,12 @@ const std::map<std::string, std::vector<Point>> Terminals = {
     {"InsertDisconnect90", {{0, 0}, {0.5f, 0}}},
     {"InsertFuse", {{0, 0}, {0.5f, 0}}},
     {"InsertFuse90", {{0, 0}, {0, 0.5f}}},
+    {"InsertCircuitBreaker", {{0, 0}, {0, 0.5f}}},
+    {"InsertThermalOverload90", {{0, 0}, {0, 0.5f}}},
+    {"InsertContactNO90", {{0, 0}, {0, 0.5f}}},
+    {"InsertContactNO90Closed", {{0, 0}, {0, 0.5f}}},
+    {"InsertContactNOClosed", {{0, 0}, {0.5f, 0}}},
+    {"InsertContactNCOpened", {{0, 0}, {0.5f, 0}}},
     {"InsertContactNO", {{0, 0}, {0.5f, 0}}},
     {"InsertContactNC", {{0, 0}, {0.5f, 0}}},
     {"InsertThermalOverload", {{0, 0}, {0.5f, 0}}},
@@ -130,11 +138,12 @@ struct Schematic {
     }
 
   private:
-    // Lines that are not black carry no current.
+    // Lines in other colours carry no current.
     void takeWire(const Device& device) {
         const Point at{device.x, device.y};
-        if (device.name == "InsertSolidCircle") dots.push_back(at);
-        if (device.name != "InsertSavedLine" || device.color != Black) return;
+        if (device.name == "InsertSolidCircle" && device.color != Operated) dots.push_back(at);
+        if (device.name != "InsertSavedLine") return;
+        if (device.color != Black && device.color != Carrying) return;
         wires.push_back({at, {device.x2, device.y2}});
     }
     void takePart(const Device& device) {
@@ -260,9 +269,17 @@ struct Circuit {
     }
 };
 
+constexpr const char* MotorForward = "Motor Forward Power And Logic";
+constexpr const char* MotorReverse = "Motor Reverse Power And Logic";
+
 class DemoDrawing : public testing::TestWithParam<const char*> {};
-INSTANTIATE_TEST_SUITE_P(, DemoDrawing, testing::Values("Demo1", "Demo2"),
-                         [](const auto& test) { return std::string(test.param); });
+INSTANTIATE_TEST_SUITE_P(, DemoDrawing,
+                         testing::Values("Demo1", "Demo2", MotorForward, MotorReverse),
+                         [](const auto& test) {
+                             std::string name = test.param;
+                             std::erase(name, ' ');
+                             return name;
+                         });
 
 class ShippedDrawing : public testing::TestWithParam<const char*> {};
 INSTANTIATE_TEST_SUITE_P(, ShippedDrawing,
@@ -312,7 +329,7 @@ TEST_P(DemoDrawing, HasEveryWireEndAndTerminalConnectedAndDotsWhereThreeMeet) {
             EXPECT_EQ(schematic.meeting(terminal), 2) << part.name << " open at " << terminal;
         }
         if (part.name == "InsertGround" || part.name == "InsertControlTransformer" ||
-            part.name == "InsertDisconnect90") {
+            part.name == "InsertDisconnect90" || part.name == "InsertCircuitBreaker") {
             continue;
         }
         EXPECT_FALSE(part.tag.empty()) << part.name << " without a label at " << part.middle;
@@ -469,8 +486,62 @@ TEST(LadderTemplate, HasFusedRailsAndEvenlyNumberedLinesOnTheSnapStep) {
             isNumbered |= schematic.drawing.labels.row(j).text == std::to_string(i + 1) &&
                           schematic.box(j).top < lines[i] && schematic.box(j).bottom > lines[i];
         EXPECT_TRUE(isNumbered) << i + 1;
-    }
-}
+        // As drawn: the one drawing runs forward, the other in reverse.
+        bool conductsAsDrawn(const Part& part) {
+            const std::set<std::string> open = {
+                "InsertContactNO", "InsertContactNO90", "InsertContactNCOpened",    "InsertPBNO",
+                "InsertRelayCoil", "InsertLamp",        "InsertControlTransformer", "motor"};
+            return part.terminals.size() == 2 && !open.contains(part.name);
+        }
 
-}  // namespace
+        TEST(MotorDrawing, LeadsThePhasesToTheMotorInTheOrderOfItsDirection) {
+            for (const bool forward : {true, false}) {
+                const Schematic schematic(std::string(forward ? MotorForward : MotorReverse) +
+                                          ".els");
+                Nets nets(schematic);
+                for (const Part& part : schematic.parts)
+                    if (conductsAsDrawn(part)) nets.join(part.terminals[0], part.terminals[1]);
+                const Part& motor = schematic.part("motor", "5 HP");
+                const Part& transformer = schematic.part("InsertControlTransformer", "");
+                // Left, top and right of the motor: T1, T2, T3.
+                ASSERT_EQ(motor.terminals.size(), 4u);
+                const Point t1 = motor.terminals[0], t2 = motor.terminals[1],
+                            t3 = motor.terminals[3];
+                EXPECT_TRUE(nets.joined(schematic.supply("L1"), forward ? t1 : t3));
+                EXPECT_TRUE(nets.joined(schematic.supply("L2"), t2));
+                EXPECT_TRUE(nets.joined(schematic.supply("L3"), forward ? t3 : t1));
+                EXPECT_FALSE(nets.joined(t1, t2) || nets.joined(t2, t3) || nets.joined(t1, t3));
+                EXPECT_TRUE(nets.joined(transformer.terminals[0], schematic.supply("L1")));
+                EXPECT_TRUE(nets.joined(transformer.terminals[3], schematic.supply("L2")));
+
+                const Point hot = transformer.terminals[4], neutral = transformer.terminals[5];
+                EXPECT_FALSE(nets.joined(hot, neutral));
+                const auto live = [&](const char* name, const char* tag) {
+                    const Part& load = schematic.part(name, tag);
+                    return nets.joined(load.terminals[0], hot) &&
+                           nets.joined(load.terminals[1], neutral);
+                };
+                EXPECT_EQ(live("InsertRelayCoil", "F"), forward);
+                EXPECT_EQ(live("InsertRelayCoil", "R"), !forward);
+                EXPECT_EQ(live("InsertLamp", "1LT"), forward);
+                EXPECT_EQ(live("InsertLamp", "2LT"), !forward);
+            }
+        }
+
+        // The other button, pressed too, cannot bring the other contactor in.
+        TEST(MotorDrawing, IsInterlocked) {
+            for (const bool forward : {true, false}) {
+                const Schematic schematic(std::string(forward ? MotorForward : MotorReverse) +
+                                          ".els");
+                Nets nets(schematic);
+                for (const Part& part : schematic.parts)
+                    if (conductsAsDrawn(part) || part.name == "InsertPBNO")
+                        nets.join(part.terminals[0], part.terminals[1]);
+                const Part& transformer = schematic.part("InsertControlTransformer", "");
+                const Part& other = schematic.part("InsertRelayCoil", forward ? "R" : "F");
+                EXPECT_FALSE(nets.joined(other.terminals[0], transformer.terminals[4]));
+            }
+        }
+
+    }  // namespace
 }  // namespace ladrix::test

@@ -3,12 +3,12 @@
 # them and no others.
 set -euo pipefail
 make_simulation=$1
-data=$(cd "$(dirname "${BASH_SOURCE[0]}")/../../data/Simulation Files" && pwd)
+data=$(cd "$(dirname "${BASH_SOURCE[0]}")/../../data" && pwd)
 made=$(mktemp -d)
 trap 'rm -rf "$made"' EXIT
 
 "$make_simulation" "$made"
-if ! diff -rq "$made" "$data"; then
+if ! diff -rq "$made" "$data/Simulation Files"; then
     echo "data/Simulation Files is out of date: run make_simulation on it" >&2
     exit 1
 fi
