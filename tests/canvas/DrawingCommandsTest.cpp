@@ -505,5 +505,24 @@ TEST(Description, IsEditedInItsOwnDialog) {
     EXPECT_TRUE(bench.drawing.DrawingChanged);
 }
 
+TEST(OpenDrawing, ShowsTheWholeWidthOfTheProgramsMotorDrawings) {
+    for (const bool programs : {true, false})
+        for (const std::string name : {"Motor Forward Power And Logic.els",
+                                       "Motor Reverse Power And Logic.els", "Mine.els"}) {
+            CommandBench bench;
+            bench.editor.form.FrameWidth = 18.2f * TwipsPerInch;
+            if (programs) bench.drawing.CurrentFolder = bench.editor.AppFilePath;
+            bench.machine.folder.write((programs ? "program/" : "documents/") + name,
+                                       "8.5x11Portrait\r\n\r\n" + line(Ground) + "\r\n");
+            bench.open(name.c_str());
+            ASSERT_EQ(bench.drawing.devices.DeviceCount, 1);
+            const bool whole = programs && name != "Mine.els";
+            EXPECT_EQ(bench.editor.ZoomStepCount, whole ? 3 : 0) << name;
+            EXPECT_GE(bench.editor.VisibleWidth, bench.editor.PageWidth);
+            EXPECT_EQ(bench.editor.ScaleTop, 0);
+            EXPECT_FALSE(bench.editor.SimulationMode) << "it can be edited";
+        }
+}
+
 }  // namespace
 }  // namespace ladrix::test
