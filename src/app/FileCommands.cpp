@@ -27,7 +27,9 @@ void mnuOptSavePreferences_Click(Program& program) {
 void mnuOptRestorePreferences_Click(Program& program) {
     showBrowser(program, BrowserMode::RestorePreferences);
     if (!program.frmFile.Chosen) return;
-    program.editor.DashSpacing = DefaultDashSpacing;  // where the file leaves it empty
+    // Where the file leaves a line empty the default is in force.
+    program.editor.DashSpacing = DefaultDashSpacing;
+    program.usersymbols.PaletteRows = DefaultPaletteRows;
     ReadUserPreferences(program);
     program.editor.form.lblMessage.Caption = "User preferences restored.";
 }

@@ -19,6 +19,7 @@ namespace {
 constexpr int PageSide = 128;         // pixels of the longer side of a preview
 constexpr int Gap = 2 * theme::Unit;  // around the page and its name
 constexpr int LongestWork = 12;       // milliseconds before the window has its turn
+constexpr int MostTiles = 400;        // kept, some 100 kB each
 constexpr double ThinnestPen = 0.5;   // pixels
 const QColor DamagedInk(0xb3, 0x26, 0x1e);
 
@@ -180,6 +181,7 @@ void PreviewSheet::makeAwaited() {
         const QRect place = visualRect(model_->index(row, 0));
         if (!viewport()->rect().intersects(place)) continue;
         const FileEntry& entry = browser_.entries[static_cast<std::size_t>(row)];
+        if (tiles_.size() == MostTiles) tiles_.clear();  // those in sight are ordered again
         tiles_.insert(keyOf(entry), made(entry));
         viewport()->update(place);
     }
