@@ -5,6 +5,7 @@
 #include "canvas/Colors.h"
 #include "canvas/DrawingCommands.h"
 #include "canvas/Keys.h"
+#include "canvas/RadiusFields.h"
 #include "canvas/Redraw.h"
 #include "canvas/View.h"
 #include "platform/Numbers.h"
