@@ -30,6 +30,7 @@ constexpr ModeTraits Modes[] = {
      "", "Browse to and select the User Preferences File and click OK."},
     {BrowserMode::MergeLibrary, "Merging User Library From...", Libraries, "&Merge", BrowserPreview::Unavailable, BrowserStart::Base},
     {BrowserMode::TransferLibrary, "Transferring to User Library...", Libraries, "&OK", BrowserPreview::Unavailable, BrowserStart::Base},
+    {BrowserMode::Backup, "Opening Backup From...", Drawings, "&Open", BrowserPreview::Drawing, BrowserStart::Base},
     {BrowserMode::SaveExport, "Exporting Drawing as...", "*.pdf", "&Save", BrowserPreview::None, BrowserStart::Drawing, true,
      "", "", ExportTypes},
     {BrowserMode::Folder, "Adding a Favorite Folder", "", "&OK", BrowserPreview::None, BrowserStart::Drawing, false,

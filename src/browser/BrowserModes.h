@@ -37,6 +37,7 @@ enum class BrowserMode : Short {
     RestorePreferences,
     MergeLibrary,     // a library to merge into the current one
     TransferLibrary,  // a library that takes symbols over
+    Backup,           // a backup copy of a drawing
     SaveExport,       // a PDF, SVG or PNG to write
     Folder,           // a folder
 };

@@ -76,6 +76,7 @@ TEST_F(BrowserModesTest, ListTheirFilesInTheirFoldersAndHandTheChoiceOver) {
         {BrowserMode::Library, {"u.lib"}, "base/", "No Preview Available"},
         {BrowserMode::MergeLibrary, {"u.lib"}, "base/", "No Preview Available"},
         {BrowserMode::TransferLibrary, {"u.lib"}, "base/", "No Preview Available"},
+        {BrowserMode::Backup, {"d.els", "t.tpl"}, "base/", "Drawing Preview"},
     };
     for (const auto& [mode, files, folder, frame] : cases) {
         const auto number = static_cast<int>(mode);
