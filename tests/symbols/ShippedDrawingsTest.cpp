@@ -486,62 +486,61 @@ TEST(LadderTemplate, HasFusedRailsAndEvenlyNumberedLinesOnTheSnapStep) {
             isNumbered |= schematic.drawing.labels.row(j).text == std::to_string(i + 1) &&
                           schematic.box(j).top < lines[i] && schematic.box(j).bottom > lines[i];
         EXPECT_TRUE(isNumbered) << i + 1;
-        // As drawn: the one drawing runs forward, the other in reverse.
-        bool conductsAsDrawn(const Part& part) {
-            const std::set<std::string> open = {
-                "InsertContactNO", "InsertContactNO90", "InsertContactNCOpened",    "InsertPBNO",
-                "InsertRelayCoil", "InsertLamp",        "InsertControlTransformer", "motor"};
-            return part.terminals.size() == 2 && !open.contains(part.name);
-        }
+    }
+}
 
-        TEST(MotorDrawing, LeadsThePhasesToTheMotorInTheOrderOfItsDirection) {
-            for (const bool forward : {true, false}) {
-                const Schematic schematic(std::string(forward ? MotorForward : MotorReverse) +
-                                          ".els");
-                Nets nets(schematic);
-                for (const Part& part : schematic.parts)
-                    if (conductsAsDrawn(part)) nets.join(part.terminals[0], part.terminals[1]);
-                const Part& motor = schematic.part("motor", "5 HP");
-                const Part& transformer = schematic.part("InsertControlTransformer", "");
-                // Left, top and right of the motor: T1, T2, T3.
-                ASSERT_EQ(motor.terminals.size(), 4u);
-                const Point t1 = motor.terminals[0], t2 = motor.terminals[1],
-                            t3 = motor.terminals[3];
-                EXPECT_TRUE(nets.joined(schematic.supply("L1"), forward ? t1 : t3));
-                EXPECT_TRUE(nets.joined(schematic.supply("L2"), t2));
-                EXPECT_TRUE(nets.joined(schematic.supply("L3"), forward ? t3 : t1));
-                EXPECT_FALSE(nets.joined(t1, t2) || nets.joined(t2, t3) || nets.joined(t1, t3));
-                EXPECT_TRUE(nets.joined(transformer.terminals[0], schematic.supply("L1")));
-                EXPECT_TRUE(nets.joined(transformer.terminals[3], schematic.supply("L2")));
+// As drawn: the one drawing runs forward, the other in reverse.
+bool conductsAsDrawn(const Part& part) {
+    const std::set<std::string> open = {
+        "InsertContactNO", "InsertContactNO90", "InsertContactNCOpened",    "InsertPBNO",
+        "InsertRelayCoil", "InsertLamp",        "InsertControlTransformer", "motor"};
+    return part.terminals.size() == 2 && !open.contains(part.name);
+}
 
-                const Point hot = transformer.terminals[4], neutral = transformer.terminals[5];
-                EXPECT_FALSE(nets.joined(hot, neutral));
-                const auto live = [&](const char* name, const char* tag) {
-                    const Part& load = schematic.part(name, tag);
-                    return nets.joined(load.terminals[0], hot) &&
-                           nets.joined(load.terminals[1], neutral);
-                };
-                EXPECT_EQ(live("InsertRelayCoil", "F"), forward);
-                EXPECT_EQ(live("InsertRelayCoil", "R"), !forward);
-                EXPECT_EQ(live("InsertLamp", "1LT"), forward);
-                EXPECT_EQ(live("InsertLamp", "2LT"), !forward);
-            }
-        }
+TEST(MotorDrawing, LeadsThePhasesToTheMotorInTheOrderOfItsDirection) {
+    for (const bool forward : {true, false}) {
+        const Schematic schematic(std::string(forward ? MotorForward : MotorReverse) + ".els");
+        Nets nets(schematic);
+        for (const Part& part : schematic.parts)
+            if (conductsAsDrawn(part)) nets.join(part.terminals[0], part.terminals[1]);
+        const Part& motor = schematic.part("motor", "5 HP");
+        const Part& transformer = schematic.part("InsertControlTransformer", "");
+        // Left, top and right of the motor: T1, T2, T3.
+        ASSERT_EQ(motor.terminals.size(), 4u);
+        const Point t1 = motor.terminals[0], t2 = motor.terminals[1], t3 = motor.terminals[3];
+        EXPECT_TRUE(nets.joined(schematic.supply("L1"), forward ? t1 : t3));
+        EXPECT_TRUE(nets.joined(schematic.supply("L2"), t2));
+        EXPECT_TRUE(nets.joined(schematic.supply("L3"), forward ? t3 : t1));
+        EXPECT_FALSE(nets.joined(t1, t2) || nets.joined(t2, t3) || nets.joined(t1, t3));
+        EXPECT_TRUE(nets.joined(transformer.terminals[0], schematic.supply("L1")));
+        EXPECT_TRUE(nets.joined(transformer.terminals[3], schematic.supply("L2")));
 
-        // The other button, pressed too, cannot bring the other contactor in.
-        TEST(MotorDrawing, IsInterlocked) {
-            for (const bool forward : {true, false}) {
-                const Schematic schematic(std::string(forward ? MotorForward : MotorReverse) +
-                                          ".els");
-                Nets nets(schematic);
-                for (const Part& part : schematic.parts)
-                    if (conductsAsDrawn(part) || part.name == "InsertPBNO")
-                        nets.join(part.terminals[0], part.terminals[1]);
-                const Part& transformer = schematic.part("InsertControlTransformer", "");
-                const Part& other = schematic.part("InsertRelayCoil", forward ? "R" : "F");
-                EXPECT_FALSE(nets.joined(other.terminals[0], transformer.terminals[4]));
-            }
-        }
+        const Point hot = transformer.terminals[4], neutral = transformer.terminals[5];
+        EXPECT_FALSE(nets.joined(hot, neutral));
+        const auto live = [&](const char* name, const char* tag) {
+            const Part& load = schematic.part(name, tag);
+            return nets.joined(load.terminals[0], hot) && nets.joined(load.terminals[1], neutral);
+        };
+        EXPECT_EQ(live("InsertRelayCoil", "F"), forward);
+        EXPECT_EQ(live("InsertRelayCoil", "R"), !forward);
+        EXPECT_EQ(live("InsertLamp", "1LT"), forward);
+        EXPECT_EQ(live("InsertLamp", "2LT"), !forward);
+    }
+}
 
-    }  // namespace
+// The other button, pressed too, cannot bring the other contactor in.
+TEST(MotorDrawing, IsInterlocked) {
+    for (const bool forward : {true, false}) {
+        const Schematic schematic(std::string(forward ? MotorForward : MotorReverse) + ".els");
+        Nets nets(schematic);
+        for (const Part& part : schematic.parts)
+            if (conductsAsDrawn(part) || part.name == "InsertPBNO")
+                nets.join(part.terminals[0], part.terminals[1]);
+        const Part& transformer = schematic.part("InsertControlTransformer", "");
+        const Part& other = schematic.part("InsertRelayCoil", forward ? "R" : "F");
+        EXPECT_FALSE(nets.joined(other.terminals[0], transformer.terminals[4]));
+    }
+}
+
+}  // namespace
 }  // namespace ladrix::test
