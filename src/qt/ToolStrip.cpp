@@ -145,7 +145,7 @@ void ToolStrip::makeScale(QBoxLayout& row) {
     cmbScale_->setCompleter(nullptr);
     cmbScale_->setInsertPolicy(QComboBox::NoInsert);
     cmbScale_->setValidator(new NumberFilter(cmbScale_));
-    cmbScale_->setFixedSize(70, theme::ControlHeight);
+    cmbScale_->setFixedSize(80, theme::ControlHeight);
     cmbScale_->setMaxVisibleItems(12);
     const auto take = [this](Handler handler) {
         program_.editor.form.cmbScale.Text = fromQString(cmbScale_->currentText());

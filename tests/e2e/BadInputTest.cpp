@@ -108,7 +108,6 @@ TEST_F(BadInputTest, AFolderNamedAsADrawingIsEnteredAndNeverReplaced) {
 
     drawSquare();
     journey.expectDialog([](QWidget& browser) {
-        Journey::click(Journey::named(browser, "cmdUp"));
         Journey::click(Journey::named(browser, "txtSaveAs"));
         Journey::type("Folder");
         Journey::key(Qt::Key_Return);

@@ -230,7 +230,9 @@ TEST_F(WindowTest, MenusFollowTheCommandTable) {
             const Command& row = *rows[i++];
             EXPECT_EQ(entry->objectName(), toQString(row.name));
             EXPECT_EQ(entry->text(), toQString(row.caption));
-            EXPECT_EQ(entry->isEnabled(), isEnabled(*program, row)) << row.name;
+            const bool shown = editor().form.menu[row.entry].Visible;
+            EXPECT_EQ(entry->isVisible(), shown) << row.name;
+            EXPECT_EQ(entry->isEnabled(), shown && isEnabled(*program, row)) << row.name;
             EXPECT_EQ(QKeySequence::listToString(entry->shortcuts()), toQString(row.shortcut))
                 << row.name;
             EXPECT_EQ(entry->isChecked(), editor().form.menu[row.entry].Checked) << row.name;
