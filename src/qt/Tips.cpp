@@ -19,10 +19,6 @@ constexpr Tip Tips[] = {
     {"frmLX", "cmdPrev", "Show the user symbols to the left"},
     {"frmLX", "cmdNext", "Show the user symbols to the right"},
     {"frmLX", "cmdSaveSymbolOrder", "Keep the new order of the user symbols"},
-    {"frmLX", "cmdVoltage", "Show which wires are live"},
-    {"frmLX", "cmdCurrent", "Show in which wires a current flows"},
-    {"frmLX", "txtTimer", "Time period of the timer, in milliseconds"},
-    {"frmLX", "cmdTimer", "Use the typed time period (Enter)"},
 
     {"frmFile", "cmdUp", "Folder above (Backspace)"},
     {"frmFile", "Dir1", "Folders of the path (Ctrl+L to type one)"},
@@ -91,6 +87,10 @@ constexpr Tip Tips[] = {
     {"frmLayout", "optOrient1", "Wide page"},
     {"frmLayout", "cmdOK", "Use this page for the drawing (Enter)"},
     {"frmLayout", "cmdExit", "Leave the page as it is (Esc)"},
+
+    {"frmPreview", "cmbZoom", "Size of the page on the screen"},
+    {"frmPreview", "cmdPrint", "Choose a printer and print"},
+    {"frmPreview", "cmdClose", "Close the preview (Esc)"},
 
     {"frmPrinter", "cmbPrinters", "Printer to print on"},
     {"frmPrinter", "txtCopies", "Number of copies"},
