@@ -55,6 +55,7 @@ void parseDevices(Program& program) {
 void chooseNormalMode(Program& program) {
     LeaveSimulation(program.simulation, program.editor);
     program.editor.form.menu[Menu::mnuModeNormal].Checked = true;
+    program.editor.form.menu[Menu::mnuModeDesign].Checked = false;
     ResetEditor(program.editor);
 }
 

@@ -15,15 +15,20 @@ QtPictureBox::QtPictureBox(const QSize& size)
 }
 
 QtPictureBox::~QtPictureBox() {
-    if (painter_.isActive()) painter_.end();
+    endPainting();
+}
+
+void QtPictureBox::endPainting() {
+    if (!painter_.isActive()) return;
+    page_.flush();
+    painter_.end();
 }
 
 void QtPictureBox::SetScale(Single left, Single top, Single width, Single height) {
     const auto usable = [](Single size) { return std::isfinite(size) && size > 0; };
     if (!std::isfinite(left) || !std::isfinite(top) || !usable(width) || !usable(height))
         throw Failure{failure::InvalidProperty, "A picture's scale must be a size above 0."};
-    if (painter_.isActive()) page_.flush();
-    painter_.end();
+    endPainting();
     left_ = left;
     top_ = top;
     width_ = width;
@@ -31,14 +36,12 @@ void QtPictureBox::SetScale(Single left, Single top, Single width, Single height
 }
 
 void QtPictureBox::Cls() {
-    if (painter_.isActive()) page_.flush();
-    painter_.end();
+    endPainting();
     image_.fill(QColor(BackColor & 0xFF, (BackColor >> 8) & 0xFF, (BackColor >> 16) & 0xFF));
 }
 
 std::shared_ptr<const Picture> QtPictureBox::Image() {
-    if (painter_.isActive()) page_.flush();
-    painter_.end();
+    endPainting();
     return std::make_shared<QtPicture>(image_.copy());
 }
 

@@ -31,6 +31,7 @@ class QtPictureBox final : public PictureBox {
 
   private:
     QtPainterPage& page();
+    void endPainting();
 
     QImage image_;
     QPainter painter_;

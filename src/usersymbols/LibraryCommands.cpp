@@ -97,7 +97,7 @@ void removeFromLibrary(UserSymbols& symbols, Editor& editor, Short row) {
 bool nameIsTaken(const UserSymbols& symbols, Editor& editor, Short row, std::string_view name) {
     for (Short i = 0; i < symbols.UserSymbolCount; ++i) {
         const std::string& other = symbols.UserSymbolName[static_cast<std::size_t>(i)];
-        if (i == row || !equalIgnoringCase(other, name)) continue;
+        if (i == row || other != name) continue;
         editor.platform.tell(
             "Name not allowed. Another button with the same name already exists in this library.",
             "Name Rejected");
