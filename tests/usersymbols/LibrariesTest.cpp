@@ -1,0 +1,438 @@
+#include "usersymbols/Libraries.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <set>
+
+#include "SymbolBench.h"
+#include "platform/Encoding.h"
+
+namespace ladrix {
+namespace {
+
+using test::SymbolBench;
+using test::TemporaryFolder;
+
+// What the fake machine takes for a picture.
+const std::string Bitmap = "BM";
+
+void writeSymbolFiles(const TemporaryFolder& disk, const std::string& library,
+                      const std::string& name, const std::string& mark) {
+    const std::string path = "documents/" + library + "/" + name;
+    disk.write(path + ".uds", "script " + mark);
+    disk.write(path + ".bmp", Bitmap + mark);
+    disk.write(path + "_Cyan.bmp", Bitmap + "cyan " + mark);
+}
+
+void writeLibrary(const TemporaryFolder& disk, const std::string& library,
+                  const std::vector<std::string>& names) {
+    std::string list;
+    disk.makeFolder("documents/" + library);
+    for (const std::string& name : names) {
+        writeSymbolFiles(disk, library, name, name);
+        list += name + "\r\n";
+    }
+    disk.write("documents/" + library + ".lib", list);
+}
+
+struct LibrariesTest : testing::Test {
+    SymbolBench bench;
+    UserSymbols& symbols = bench.symbols;
+    test::FakeDialogs& dialogs = bench.machine.dialogs;
+    const TemporaryFolder& disk = bench.machine.folder;
+
+    std::string list(const std::string& library) const {
+        return disk.read("documents/" + library + ".lib");
+    }
+    void load() {
+        ListUserLibraries(symbols, bench.editor);
+        ReloadLibrary(symbols, bench.editor);
+    }
+    void choose(const std::string& name) {
+        const auto& names = symbols.UserSymbolName;
+        const auto row = std::find(names.begin(), names.end(), name) - names.begin();
+        symbols.ContextButton = static_cast<Short>(symbols.FirstUserButton + row);
+    }
+    std::string lastBox() const { return dialogs.boxes.empty() ? "" : dialogs.boxes.back().text; }
+};
+
+TEST_F(LibrariesTest, TheStartFindsLibrariesAndBringsBackTheirLists) {
+    writeLibrary(disk, "zinc Symbols", {"a"});
+    writeLibrary(disk, "User Symbols", {});
+    writeLibrary(disk, "Other Library", {"x"});
+    writeSymbolFiles(disk, "Kept Symbols", "k", "k");
+    disk.write("documents/Kept Symbols/Kept Symbols.lib", "from the safety copy\r\n");
+    writeSymbolFiles(disk, "Lost Symbols", "b", "b");
+    disk.write("documents/Lost Symbols/a.uds", "without pictures");
+    ListUserLibraries(symbols, bench.editor);
+    EXPECT_EQ(symbols.LibraryList,
+              (std::vector<std::string>{"Kept Symbols.lib", "Lost Symbols.lib", "User Symbols.lib",
+                                        "zinc Symbols.lib"}));
+    EXPECT_EQ(symbols.LibraryIndex, 2);
+    EXPECT_EQ(list("Kept Symbols"), "from the safety copy\r\n");
+    EXPECT_EQ(list("Lost Symbols"), "a\r\nb\r\n");
+    EXPECT_EQ(bench.notes.size(), 2u);
+}
+
+TEST_F(LibrariesTest, TheShippedListIsTakenOverButNothingElse) {
+    UpdateOldUserSymbols(symbols, bench.editor);
+    EXPECT_FALSE(disk.has("documents/User Symbols.lib"));
+    disk.write("program/Default User Symbols.lib", "one\r\n");
+    disk.write("program/User Symbols/one.uds", "script");
+    UpdateOldUserSymbols(symbols, bench.editor);
+    EXPECT_EQ(list("User Symbols"), "one\r\n");
+    EXPECT_FALSE(disk.has("documents/User Symbols"));
+    disk.write("documents/User Symbols.lib", "mine\r\n");
+    UpdateOldUserSymbols(symbols, bench.editor);
+    EXPECT_EQ(list("User Symbols"), "mine\r\n");
+    EXPECT_TRUE(dialogs.boxes.empty() && bench.machine.reports.empty());
+}
+
+TEST_F(LibrariesTest, AnOldListIsRenamedAndAMissingLibraryIsMarked) {
+    disk.write("documents/User Symbol Structure.txt", "old\n");
+    ReadLibraryStructure(symbols, bench.editor);
+    EXPECT_TRUE(symbols.LibraryMissing);  // no folder
+    EXPECT_EQ(list("User Symbols"), "old\n");
+    disk.makeFolder("documents/User Symbols");
+    ReadLibraryStructure(symbols, bench.editor);
+    EXPECT_FALSE(symbols.LibraryMissing);
+    EXPECT_EQ(symbols.LibraryLines, std::vector<std::string>{"old"});
+}
+
+TEST_F(LibrariesTest, WhatIsIncompleteIsSkippedAndWhatIsDamagedStays) {
+    writeLibrary(disk, "User Symbols", {"good", "gone", "damaged", "huge", "LAST"});
+    disk.write("documents/User Symbols/damaged.bmp", "noise");
+    disk.write("documents/User Symbols/huge.uds", std::string(LargestScript + 1, 'x'));
+    bench.machine.files.remove(disk / "documents/User Symbols/gone_Cyan.bmp");
+    bench.machine.files.rename(disk / "documents/User Symbols/LAST.uds",
+                               disk / "documents/User Symbols/last.UDS");
+    load();
+    EXPECT_EQ(symbols.UserSymbolName, (std::vector<std::string>{"good", "damaged", "LAST"}));
+    EXPECT_EQ(symbols.UserSymbolScript[2], "script LAST");
+    EXPECT_EQ(bench.notes.size(), 3u);
+    EXPECT_EQ(bench.machine.reports.size(), 1u);  // the script that is too large
+    const PaletteButton& first =
+        bench.editor.form.cmdSym[static_cast<std::size_t>(symbols.FirstUserButton)];
+    EXPECT_EQ(first.Tag, "good");
+    EXPECT_TRUE(first.Visible && first.UpPicture && first.CyanPicture);
+
+    WriteLibraryStructure(symbols, bench.editor);
+    EXPECT_EQ(list("User Symbols"), "good\r\ndamaged\r\nLAST\r\nhuge\r\n");
+    EXPECT_EQ(disk.read("documents/User Symbols/User Symbols.lib"), list("User Symbols"));
+    EXPECT_TRUE(disk.has("documents/User Symbols/gone.uds"));
+}
+
+TEST_F(LibrariesTest, DeletingTheLastSymbolLeavesTheList) {
+    writeLibrary(disk, "User Symbols", {"a", "b"});
+    load();
+    choose("a");
+    DeleteUserSymbol(symbols, bench.editor);  // answered No
+    EXPECT_TRUE(disk.has("documents/User Symbols/a.uds"));
+    for (const std::string name : {"a", "b"}) {
+        choose(name);
+        dialogs.answers = {Answer::Yes};
+        DeleteUserSymbol(symbols, bench.editor);
+        EXPECT_EQ(list("User Symbols"), "b\r\n") << name;
+    }
+    EXPECT_EQ(symbols.UserSymbolCount, 0);
+    EXPECT_EQ(disk.entries("documents/User Symbols"), std::vector<std::string>{"User Symbols.lib"});
+    symbols.ContextButton = 91;
+    DeleteUserSymbol(symbols, bench.editor);
+    EXPECT_EQ(dialogs.boxes.size(), 3u);
+}
+
+TEST_F(LibrariesTest, RenamingTakesTheFilesAndKeepsTheOrder) {
+    writeLibrary(disk, "User Symbols", {"a", "b", "c"});
+    disk.write("documents/User Symbols/orphan.bmp", "BM");
+    load();
+    struct Attempt {
+        std::string answer, box, list;
+    };
+    const std::vector<Attempt> attempts = {
+        {"", "", "a\r\nb\r\nc\r\n"},
+        {"b", "", "a\r\nb\r\nc\r\n"},
+        {"C", "", "a\r\nb\r\nc\r\n"},  // reported: its files would be another's
+        {"c", "Name not allowed. Another button with the same name already exists in this library.",
+         "a\r\nb\r\nc\r\n"},
+        {"x/y",
+         "Action Cancelled. File and Folder Names cannot include\r\n"
+         "any of the following characters: / \\ : * ? < > | ",
+         "a\r\nb\r\nc\r\n"},
+        {"Orphan", "", "a\r\nb\r\nc\r\n"},  // reported
+        {"Motor", "", "a\r\nMotor\r\nc\r\n"},
+    };
+    for (const Attempt& attempt : attempts) {
+        dialogs.boxes.clear();
+        choose("b");
+        dialogs.inputAnswers = {attempt.answer};
+        RenameUserSymbol(symbols, bench.editor);
+        EXPECT_EQ(lastBox(), attempt.box);
+        EXPECT_EQ(list("User Symbols"), attempt.list) << attempt.answer;
+    }
+    EXPECT_EQ(bench.machine.reports.size(), 2u);
+    choose("Motor");
+    dialogs.inputAnswers = {"MOTOR"};
+    RenameUserSymbol(symbols, bench.editor);
+    EXPECT_EQ(disk.read("documents/User Symbols/MOTOR.uds"), "script b");
+    EXPECT_EQ(symbols.UserSymbolName[1], "MOTOR");
+    EXPECT_FALSE(disk.has("documents/User Symbols/b.uds") ||
+                 disk.has("documents/User Symbols/Motor.bmp"));
+}
+
+TEST_F(LibrariesTest, TransfersStopAtAFullLibraryAndAtASymbolOfTheSameName) {
+    writeLibrary(disk, "User Symbols", {"a", "b"});
+    writeLibrary(disk, "Other Symbols", {"b"});
+    load();
+    const auto transfer = [&](const std::string& name, Transfer kind) {
+        choose(name);
+        TransferUserSymbol(symbols, bench.editor, kind, bench.editor.BasePath, "Other Symbols.lib");
+    };
+    transfer("b", Transfer::Move);
+    EXPECT_EQ(lastBox(), "Symbol transfer failed. Symbol already exists in selected library.");
+    symbols.MaxSymbolsPerLibrary = 1;
+    transfer("a", Transfer::Move);
+    EXPECT_EQ(lastBox(), "Symbol library is full. Please select another library.");
+    symbols.MaxSymbolsPerLibrary = 2;
+    transfer("a", Transfer::Copy);
+    EXPECT_EQ(list("User Symbols"), "a\r\nb\r\n");
+    EXPECT_EQ(list("Other Symbols"), "b\r\na\r\n");
+    EXPECT_EQ(disk.read("documents/Other Symbols/a.uds"), "script a");
+}
+
+TEST_F(LibrariesTest, MergingStopsAboveTheLimitAndSkipsClashes) {
+    writeLibrary(disk, "User Symbols", {"a"});
+    writeLibrary(disk, "Other Symbols", {"b", "A", "c"});
+    bench.machine.files.remove(disk / "documents/Other Symbols/c.bmp");
+    load();
+    const auto merge = [&] {
+        MergeUserLibrary(symbols, bench.editor, bench.editor.BasePath, "Other Symbols.lib");
+    };
+    symbols.MaxSymbolsPerLibrary = 3;
+    merge();
+    EXPECT_EQ(lastBox(),
+              "Current library count of 1 symbols \r\nplus the merge count of 3 exceeds \r\nthe "
+              "maximum allowed which is 3.\r\nPlease open another library and try again later.");
+    symbols.MaxSymbolsPerLibrary = 4;
+    merge();
+    EXPECT_EQ(list("User Symbols"), "a\r\nb\r\n");
+    EXPECT_EQ(disk.read("documents/User Symbols/a.uds"), "script a");
+    EXPECT_EQ(symbols.UserSymbolCount, 2);
+    MergeUserLibrary(symbols, bench.editor, bench.editor.BasePath, "No Symbols.lib");
+    EXPECT_EQ(lastBox(), "Library folder does not exist.");
+}
+
+TEST_F(LibrariesTest, LibrariesAreMadeOpenedAndSteppedThrough) {
+    StepUserLibrary(symbols, bench.editor, 1);
+    EXPECT_EQ(lastBox(), "User library does not exist in " + bench.editor.BasePath);
+    writeLibrary(disk, "User Symbols", {"a"});
+    load();
+    dialogs.inputAnswers = {"Motor", "Motor"};
+    NewUserLibrary(symbols, bench.editor);
+    EXPECT_EQ(lastBox(), "Motor Symbols has been successfully created.");
+    EXPECT_EQ(list("Motor Symbols"), "");
+    EXPECT_EQ(symbols.LibraryFile, "Motor Symbols.lib");
+    EXPECT_EQ(bench.editor.form.Caption,
+              "Ladrix - Current Library: Motor Symbols - File Name: Untitled");
+    NewUserLibrary(symbols, bench.editor);
+    EXPECT_EQ(lastBox(), "Symbol Folder Already Exists - Cannot Overwrite");
+    bench.editor.PreviousTool = 95;
+    for (const auto& [step, file] : std::vector<std::pair<int, std::string>>{
+             {1, "User Symbols.lib"}, {1, "Motor Symbols.lib"}, {-1, "User Symbols.lib"}}) {
+        StepUserLibrary(symbols, bench.editor, step);
+        EXPECT_EQ(symbols.LibraryFile, file);
+    }
+    EXPECT_EQ(symbols.UserSymbolCount, 1);
+    EXPECT_EQ(bench.editor.PreviousTool, -1);
+}
+
+// --- Every change, broken off at every change of the disk
+
+struct Killed {};
+
+// Each symbol of each library as a fresh start finds it: "library/name" to its three files.
+using Shelf = std::map<std::string, std::string>;
+
+Shelf shelfAfterStart(const TemporaryFolder& disk, Platform& platform) {
+    DiskFiles files;
+    platform.files = &files;
+    Editor editor(platform);
+    editor.BasePath = disk / "documents/";
+    editor.AppFilePath = disk / "program/";
+    UserSymbols symbols;
+    LoadDeviceButtons(editor);
+    ListUserLibraries(symbols, editor);
+    Shelf shelf;
+    for (const std::string& library : symbols.LibraryList) {
+        selectLibrary(symbols, editor, editor.BasePath, library);
+        ReloadLibrary(symbols, editor);
+        const FolderIndex index(files, symbols.SymbolFolder);
+        for (const std::string& name : symbols.UserSymbolName) {
+            const SymbolFiles content = readSymbol(files, symbols.SymbolFolder, index, name);
+            shelf[symbols.LibraryName + "/" + lowerCase(name)] =
+                content.script + "|" + content.picture + "|" + content.cyanPicture;
+        }
+    }
+    return shelf;
+}
+
+struct Change {
+    std::string name;
+    std::function<void(SymbolBench&)> run;
+    bool moves = false;  // may leave the symbol in both of its places
+};
+
+void chooseFirst(SymbolBench& bench) {
+    bench.symbols.ContextButton = bench.symbols.FirstUserButton;
+}
+
+void save(SymbolBench& bench, const std::string& name) {
+    makeIconPictures(bench.symbols, bench.machine.platform);
+    bench.symbols.compiler.SymbolScriptText = "script new";
+    try {
+        SaveUserSymbol(bench.symbols, bench.editor, name);
+    } catch (const Failure& failure) {
+        bench.machine.platform.ReportError("Save", failure);
+    }
+}
+
+void onFiles(SymbolBench& bench, const std::function<void(Files&, const std::string&)>& run) {
+    try {
+        run(*bench.machine.platform.files, bench.editor.BasePath);
+    } catch (const Failure& failure) {
+        bench.machine.platform.ReportError("Files", failure);
+    }
+}
+
+const std::vector<Change>& changes() {
+    static const std::vector<Change> all = {
+        {"save", [](SymbolBench& b) { save(b, "new"); }},
+        {"overwrite", [](SymbolBench& b) { save(b, "a"); }},
+        {"overwrite in another case", [](SymbolBench& b) { save(b, "A"); }, true},
+        {"delete",
+         [](SymbolBench& b) {
+             chooseFirst(b);
+             b.machine.dialogs.answers = {Answer::Yes};
+             DeleteUserSymbol(b.symbols, b.editor);
+         }},
+        {"rename",
+         [](SymbolBench& b) {
+             chooseFirst(b);
+             b.machine.dialogs.inputAnswers = {"renamed"};
+             RenameUserSymbol(b.symbols, b.editor);
+         }},
+        {"move",
+         [](SymbolBench& b) {
+             chooseFirst(b);
+             TransferUserSymbol(b.symbols, b.editor, Transfer::Move, b.editor.BasePath,
+                                "Other Symbols.lib");
+         },
+         true},
+        {"merge",
+         [](SymbolBench& b) {
+             MergeUserLibrary(b.symbols, b.editor, b.editor.BasePath, "Other Symbols.lib");
+         }},
+        {"rename the library",
+         [](SymbolBench& b) {
+             onFiles(b, [](Files& files, const std::string& folder) {
+                 renameLibrary(files, folder, "Other Symbols", "Else Symbols");
+             });
+         }},
+        {"remove the library",
+         [](SymbolBench& b) {
+             onFiles(b, [](Files& files, const std::string& folder) {
+                 removeLibrary(files, {folder, "Other Symbols"});
+             });
+         }},
+    };
+    return all;
+}
+
+struct Outcome {
+    bool finished = false;
+    std::size_t reports = 0;
+    Shelf shelf;
+    std::vector<std::string> leftovers;
+};
+
+// Runs the change and breaks it off at the given change of the disk: by a kill, or by a failing
+// step.
+Outcome runBroken(const Change& change, int at, bool kill) {
+    SymbolBench bench;
+    const TemporaryFolder& disk = bench.machine.folder;
+    writeLibrary(disk, "User Symbols", {"a", "b", "c"});
+    writeLibrary(disk, "Other Symbols", {"x", "y"});
+    ListUserLibraries(bench.symbols, bench.editor);
+    ReloadLibrary(bench.symbols, bench.editor);
+    int calls = 0;
+    Outcome outcome{true, 0, {}, {}};
+    // The calls that leave something else on disk; between them nothing is seen to change.
+    static const std::set<std::string_view> Changing = {"open", "rename", "unlink", "mkdir",
+                                                        "rmdir"};
+    DiskFiles files([&](std::string_view call) {
+        if (!Changing.contains(call) || calls++ != at) return;
+        outcome.finished = false;
+        if (kill) throw Killed{};
+        throw Failure{failure::DiskFull, "No space"};
+    });
+    bench.machine.platform.files = &files;
+    try {
+        change.run(bench);
+    } catch (const Killed&) {
+        // The process is gone.
+    }
+    outcome.reports = bench.machine.reports.size();
+    outcome.shelf = shelfAfterStart(disk, bench.machine.platform);
+    for (const std::string folder : {"documents", "documents/User Symbols"})
+        for (const std::string& name : disk.entries(folder))
+            if (name.ends_with(".new") || name.starts_with(".ladrix-removed"))
+                outcome.leftovers.push_back(name);
+    return outcome;
+}
+
+// Nothing is on the shelf that is neither of before nor of after, and what both have is there.
+void expectEachWhole(const Shelf& shelf, const Shelf& before, const Shelf& after, bool moves,
+                     const std::string& where) {
+    for (const auto& [name, content] : shelf) {
+        const auto old = before.find(name), made = after.find(name);
+        EXPECT_TRUE((old != before.end() && old->second == content) ||
+                    (made != after.end() && made->second == content))
+            << where << ": " << name << " is " << content;
+    }
+    for (const auto& [name, content] : before)
+        if (after.contains(name)) {
+            EXPECT_TRUE(shelf.contains(name)) << where << ": " << name << " is lost";
+        }
+    EXPECT_GE(shelf.size(), std::min(before.size(), after.size())) << where;
+    if (!moves) {
+        EXPECT_LE(shelf.size(), std::max(before.size(), after.size())) << where;
+    }
+}
+
+TEST(LibraryChangesTest, AKillOrAFailureAtAnyMomentLeavesEverySymbolWhole) {
+    for (const Change& change : changes()) {
+        const Shelf before = runBroken({"nothing", [](SymbolBench&) {}}, -1, true).shelf;
+        const Outcome whole = runBroken(change, -1, true);
+        ASSERT_NE(whole.shelf, before) << change.name;
+        EXPECT_EQ(whole.reports, 0u) << change.name;
+        for (const bool kill : {true, false}) {
+            int at = 0;
+            for (;; ++at) {
+                const Outcome outcome = runBroken(change, at, kill);
+                const std::string where =
+                    change.name + (kill ? " killed at " : " failing at ") + std::to_string(at);
+                expectEachWhole(outcome.shelf, before, whole.shelf, change.moves, where);
+                EXPECT_EQ(outcome.leftovers, std::vector<std::string>{}) << where;
+                if (outcome.finished) break;
+                if (!kill) {
+                    EXPECT_EQ(outcome.reports, 1u) << where;
+                }
+                ASSERT_LT(at, 500) << where;
+            }
+            EXPECT_GT(at, 3) << change.name;
+        }
+    }
+}
+
+}  // namespace
+}  // namespace ladrix
