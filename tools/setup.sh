@@ -22,7 +22,7 @@ fail() {
 say_needs() {
     say "Ladrix needs, headers included:
   CMake 3.25, Ninja, a C++20 compiler (GCC 12 or Clang 14, or later)
-  Qt 6.4 or later with the modules Core, Gui, Widgets and Svg
+  Qt 6.4 or later with the modules Core, Gui, PrintSupport, Widgets and Svg
   to run without a display: Xvfb; to show Arial's metrics: the Liberation fonts
   to insert .wmf pictures: libwmf's wmf2svg
   for the tests also: GoogleTest with GoogleMock, Google Benchmark, clang-format 14, Xvfb,

@@ -117,6 +117,8 @@ void QtPainterPage::reset(QPainter* painter, const PageView& view) {
     painter_ = painter;
     view_ = view;
     if (view_.target.isEmpty()) view_.target = QRectF(painter->window());
+    if (view_.scaleY == 0) view_.scaleY = view_.scale;
+    if (view_.unitsPerInch == 0) view_.unitsPerInch = view_.scale;
     straight_.clear();
     curved_.clear();
     pen_ = Pen{};
@@ -125,9 +127,9 @@ void QtPainterPage::reset(QPainter* painter, const PageView& view) {
     const double room = VisiblePenUnits * view_.penUnit;
     const QRectF wide = view_.target.adjusted(-room, -room, room, room);
     visible_.left = static_cast<Single>((wide.left() - view_.left) / view_.scale);
-    visible_.top = static_cast<Single>((wide.top() - view_.top) / view_.scale);
+    visible_.top = static_cast<Single>((wide.top() - view_.top) / view_.scaleY);
     visible_.right = static_cast<Single>((wide.right() - view_.left) / view_.scale);
-    visible_.bottom = static_cast<Single>((wide.bottom() - view_.top) / view_.scale);
+    visible_.bottom = static_cast<Single>((wide.bottom() - view_.top) / view_.scaleY);
 
     painter_->setRenderHint(QPainter::Antialiasing);
     painter_->setRenderHint(QPainter::TextAntialiasing);
@@ -152,11 +154,11 @@ void QtPainterPage::flush() {
 }
 
 QPointF QtPainterPage::toPainter(Single x, Single y) const {
-    return {view_.left + x * view_.scale, view_.top + y * view_.scale};
+    return {view_.left + x * view_.scale, view_.top + y * view_.scaleY};
 }
 
 QPointF QtPainterPage::penPoint(Single x, Single y) const {
-    return {view_.left + penShift_ + x * view_.scale, view_.top + penShift_ + y * view_.scale};
+    return {view_.left + penShift_ + x * view_.scale, view_.top + penShift_ + y * view_.scaleY};
 }
 
 QPen QtPainterPage::qtPen(Qt::PenCapStyle cap) const {
@@ -184,7 +186,7 @@ void QtPainterPage::usePen(Long color) {
     if (style != 0) {
         QList<qreal> pattern;  // in pen widths
         for (const double length : dashPattern(style))
-            pattern.append(length * view_.scale / penWidth_);
+            pattern.append(length * view_.unitsPerInch / penWidth_);
         vectorPen.setDashPattern(pattern);
     }
     painter_->setPen(vectorPen);
@@ -239,11 +241,11 @@ void QtPainterPage::dashes(const QLineF& line, double& phase) {
     const std::span<const double> pattern = dashPattern(pen_.style);
     const double period = patternLength(pattern);
     // So far out a dash is less than what the numbers tell apart.
-    if (isFarOut(line) || period * view_.scale * deviceScale_ < ShortestDashPeriod) {
+    if (isFarOut(line) || period * view_.unitsPerInch * deviceScale_ < ShortestDashPeriod) {
         if (span) piece(span->from, span->to);
         return;
     }
-    const double length = line.length() / view_.scale;
+    const double length = line.length() / view_.unitsPerInch;
     const double start = phase;
     phase = std::fmod(phase + length, period);
     if (!span || length <= 0) return;
@@ -405,7 +407,7 @@ void QtPainterPage::Arc(Single x, Single y, Single radius, Long color, double st
 void QtPainterPage::Text(Single x, Single y, const FontSpec& font, std::string_view text,
                          Long color) {
     const PaperFont& paper = fonts_.of(font);
-    const double factor = paper.inchesPerPixel * view_.scale;
+    const double factor = paper.inchesPerPixel * view_.unitsPerInch;
     const QPointF corner = toPainter(x, y);
     if (isFarOut({corner, corner}) || text.empty()) return;
     // Slanted and accented letters may lean out of their line a little.

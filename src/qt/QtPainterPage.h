@@ -20,7 +20,9 @@ namespace ladrix {
 
 // How inches of the page map to the painter's own coordinates.
 struct PageView {
-    double scale = 96;         // painter units to the inch
+    double scale = 96;         // painter units to the inch of the page
+    double scaleY = 0;         // the same downwards; 0: as scale
+    double unitsPerInch = 0;   // of the medium, for text and dashes; 0: as scale
     double left = 0, top = 0;  // where the page's upper left corner falls
     double penUnit = 1;        // painter units to one unit of DrawWidth
     QRectF target;             // what can be seen; empty: all that the painter paints on

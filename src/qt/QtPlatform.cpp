@@ -129,6 +129,7 @@ QtPlatform::QtPlatform() {
     platform.shell = &shell;
     platform.timers = &timers;
     platform.pageFiles = &pageFiles;
+    platform.printers = &printers;
     const QSize screen = QGuiApplication::primaryScreen()->size();
     platform.screen.Width = static_cast<Single>(screen.width()) * TwipsPerPixel;
     platform.screen.Height = static_cast<Single>(screen.height()) * TwipsPerPixel;

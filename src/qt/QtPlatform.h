@@ -13,6 +13,7 @@
 #include "qt/QtDialogs.h"
 #include "qt/QtFonts.h"
 #include "qt/QtImages.h"
+#include "qt/QtPrinters.h"
 
 namespace ladrix {
 
@@ -71,8 +72,10 @@ struct QtPlatform {
     QtShell shell;
     QtTimers timers;
     QtPageFiles pageFiles;
+    std::function<void()> showForm;  // the form that is up shows the present state
 
     Platform platform;
+    QtPrinters printers{platform};
 };
 
 }  // namespace ladrix
