@@ -11,6 +11,7 @@
 #include "app/LineOptions.h"
 #include "app/RecentFiles.h"
 #include "app/SimulationCommands.h"
+#include "app/PageCommands.h"
 #include "canvas/Colors.h"
 #include "canvas/CopyMove.h"
 #include "canvas/DrawingCommands.h"
@@ -45,11 +46,11 @@ constexpr Command Commands[] = {
     {Menu::mnuFileOpenViewer, Menu::mnuFile, "mnuFileOpenViewer", "Open File Viewer", "", nullptr, false, false},
     {Menu::mnuFileSave, Menu::mnuFile, "mnuFileSave", "Save Current Drawing", "Ctrl+S", onEditor<mnuFileSave_Click>, true, false},
     {Menu::mnuFileSaveAs, Menu::mnuFile, "mnuFileSaveAs", "Save &As", "Ctrl+Shift+S", onEditor<mnuFileSaveAs_Click>, false, false},
-    {Menu::mnuFileSaveBitmap, Menu::mnuFile, "mnuFileSaveBitmap", "Save Image as Bitmap", "", nullptr, true, false},
-    {Menu::mnuFileExport, Menu::mnuFile, "mnuFileExport", "Export...", "", nullptr, false, false},
+    {Menu::mnuFileSaveBitmap, Menu::mnuFile, "mnuFileSaveBitmap", "Save Image as Bitmap", "", mnuFileSaveBitmap_Click, true, false},
+    {Menu::mnuFileExport, Menu::mnuFile, "mnuFileExport", "Export...", "", mnuFileExport_Click, false, false},
     {Menu::mnuFileDrawCircuit1, Menu::mnuFile, "mnuFileDrawCircuit1", "Draw Circuit 1", "", nullptr, false, false},
-    {Menu::mnuFilePrintCircuit1, Menu::mnuFile, "mnuFilePrintCircuit1", "Print Circuit", "", nullptr, false, false},
-    {Menu::mnuFilePrintPreview, Menu::mnuFile, "mnuFilePrintPreview", "Print Preview", "", nullptr, false, false},
+    {Menu::mnuFilePrintCircuit1, Menu::mnuFile, "mnuFilePrintCircuit1", "Print Circuit", "Ctrl+P", mnuFilePrintCircuit1_Click, false, false},
+    {Menu::mnuFilePrintPreview, Menu::mnuFile, "mnuFilePrintPreview", "Print Preview", "", mnuFilePrintPreview_Click, false, false},
     {Menu::mnuFileRestore, Menu::mnuFile, "mnuFileRestore", "&Restore File from Crash", "", onEditor<mnuFileRestore_Click>, true, false},
     {Menu::mnuFileBackups, Menu::mnuFile, "mnuFileBackups", "Open Backup of This Drawing...", "", mnuFileBackups_Click, false, false},
     {Menu::mnuFileTemplates, Menu::mnuFile, "mnuFileTemplates", "View Available Templates (Requires Internet Connection)", "", nullptr, false, false},
@@ -68,7 +69,7 @@ constexpr Command Commands[] = {
     {Menu::mnuLayoutLandscape, Menu::mnuLayout, "mnuLayoutLandscape", "8.5 x 11 Landscape", "", choosePage<1>, false, false},
     {Menu::mnuLargePortrait, Menu::mnuLayout, "mnuLargePortrait", "11 x 17 Portrait", "", choosePage<2>, false, false},
     {Menu::mnuLayoutLargeLandscape, Menu::mnuLayout, "mnuLayoutLargeLandscape", "11 x 17 Landscape", "", choosePage<3>, false, false},
-    {Menu::mnuLayoutMore, Menu::mnuLayout, "mnuLayoutMore", "More &Choices", "", nullptr, true, false},
+    {Menu::mnuLayoutMore, Menu::mnuLayout, "mnuLayoutMore", "More &Choices", "", mnuLayoutMore_Click, true, false},
     {Menu::mnuLibraries, Menu::mnuLibraries, "mnuLibraries", "Li&braries", "", nullptr, false, false},
     {Menu::mnuLibManage, Menu::mnuLibraries, "mnuLibManage", "User Symbol Management", "", nullptr, false, false},
     {Menu::mnuLibManageUserLibraries, Menu::mnuLibManage, "mnuLibManageUserLibraries", "Open User Library Manager", "", nullptr, false, false},
@@ -128,7 +129,7 @@ constexpr Command Commands[] = {
     {Menu::mnuOptBlackBackground, Menu::mnuUOptions, "mnuOptBlackBackground", "Enable Black Background", "", onEditor<mnuOptBlackBackground_Click>, false, true},
     {Menu::mnuOptDashedLineConstant, Menu::mnuUOptions, "mnuOptDashedLineConstant", "Change Dashed Line Spacing", "", mnuOptDashedLineConstant_Click, true, false},
     {Menu::mnuOptMatchGridToSnap, Menu::mnuUOptions, "mnuOptMatchGridToSnap", "&Match Grid to Snap", "", onEditor<mnuOptMatchGridToSnap_Click>, false, true},
-    {Menu::mnuOptPrinter, Menu::mnuUOptions, "mnuOptPrinter", "&Printer Options", "", nullptr, true, false},
+    {Menu::mnuOptPrinter, Menu::mnuUOptions, "mnuOptPrinter", "&Printer Options", "", mnuOptPrinter_Click, true, false},
     {Menu::mnuOptSavePreferences, Menu::mnuUOptions, "mnuOptSavePreferences", "Save a Copy of the User Preferences", "", mnuOptSavePreferences_Click, true, false},
     {Menu::mnuOptRestorePreferences, Menu::mnuUOptions, "mnuOptRestorePreferences", "Restore User Preferences", "", mnuOptRestorePreferences_Click, false, false},
     {Menu::mnuMode, Menu::mnuMode, "mnuMode", "&User Mode", "", nullptr, false, false},

@@ -1,5 +1,7 @@
 #include "app/Preferences.h"
 
+#include <algorithm>
+
 #include "app/FailureLog.h"
 #include "canvas/LineTool.h"
 #include "platform/Files.h"
@@ -55,6 +57,15 @@ void readPaletteRows(Program& program) {
         program.usersymbols.PaletteRows = static_cast<Short>(*rows);
 }
 
+// The printer's number in the list is told to whoever reads the file; the name is what counts.
+void readPrinterSettings(Program& program) {
+    program.printing.SessionPrinterName = valueOf(program.UserPrefs, Setting::PrinterName);
+    const std::string weight = valueOf(program.UserPrefs, Setting::PrintLineWeight);
+    const Short value = weight.empty() ? DefaultLineWeight : toShort(weight);
+    program.printing.PrintLineWeight = std::clamp(value, LeastLineWeight, HeaviestLineWeight);
+    program.editor.symbols.PrinterLineWidth = program.printing.PrintLineWeight;
+}
+
 }  // namespace
 
 void ReadUserPreferences(Program& program) {
@@ -66,6 +77,7 @@ void ReadUserPreferences(Program& program) {
         program.PrefsFolder = folder;
         if (!own && !FileExists(files, folder, PreferencesName)) return;
         program.UserPrefs = linesOf(files.read(folder + std::string(PreferencesName)));
+        readPrinterSettings(program);
         readDashSpacing(program);
         readPaletteRows(program);
     } catch (const Failure& failure) {

@@ -3,6 +3,7 @@
 #include "app/FailureLog.h"
 #include "canvas/Labels.h"
 #include "canvas/Undo.h"
+#include "output/PrinterForms.h"
 #include "usersymbols/Compiler.h"
 #include "usersymbols/Script.h"
 
@@ -27,6 +28,8 @@ Program::Program(Platform& machine) : platform(machine), editor(machine) {
     usersymbols.NoteRepair = [this](std::string_view line) { appendErrorMessage(*this, line); };
     connectSimulation(simulation, editor);
     ClearHistory(editor);
+    if (platform.printers)
+        platform.printers->changed = [this] { printersChanged(editor, printing); };
 }
 
 }  // namespace ladrix

@@ -11,6 +11,9 @@
 #include "canvas/Editor.h"
 #include "canvas/TextProperties.h"
 #include "help/HelpForm.h"
+#include "output/LayoutForm.h"
+#include "output/PreviewForm.h"
+#include "output/PrintDrawing.h"
 #include "platform/Platform.h"
 #include "simulation/Simulation.h"
 #include "usersymbols/UserSymbols.h"
@@ -54,6 +57,9 @@ struct Program {
     TextProperties frmTextProps;
     RecentFiles recentFiles;
     HelpForm frmHelp{platform};
+    LayoutForm frmLayout;
+    Printing printing;
+    PreviewForm frmPreview;
     std::vector<std::string> UserPrefs;  // the lines of the preferences file
     std::string PrefsFolder;             // where they were read
     std::string LastErrorText;           // description of the last report

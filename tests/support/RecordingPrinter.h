@@ -23,6 +23,7 @@ class RecordingPrinter final : public Printer {
     // From now on every step whose entry would begin with `step` raises the failure; reading a
     // property is the step "read PaperSize".
     void fail(std::string step, Failure failure) { faults_.push_back({std::move(step), failure}); }
+    void heal() { faults_.clear(); }
 
     bool takesDocuments = true;  // what StartDoc answers
     std::string outcome;         // what EndDoc tells
