@@ -7,7 +7,9 @@ source "$(dirname "${BASH_SOURCE[0]}")/setup.sh"
 need "${build_packages[@]}" "${test_packages[@]}"
 configure release
 names=("$@")
-[[ $# -gt 0 ]] || names=(RedrawBench RecordBench FileBench PointerBench StartBench UserSymbolBench)
+[[ $# -gt 0 ]] ||
+    names=(RedrawBench RecordBench FileBench PointerBench EditBench UserSymbolBench PrintBench
+        StartBench)
 build release "${names[@]/#/bench_}"
 status=0
 for name in "${names[@]}"; do

@@ -1,17 +1,23 @@
 #include "qt/Application.h"
 
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QScreen>
 #include <QTimer>
 #include <cstdio>
+#include <utility>
 
 #include "app/Startup.h"
 #include "qt/DescriptionDialog.h"
 #include "qt/FavoritesDialog.h"
 #include "qt/FileDialog.h"
+#include "qt/LayoutDialog.h"
 #include "qt/LocalHelp.h"
 #include "qt/LogDialog.h"
 #include "qt/MainWindow.h"
+#include "qt/PreviewDialog.h"
+#include "qt/PrinterDialog.h"
+#include "qt/PrintersDialog.h"
 #include "qt/QtPlatform.h"
 #include "qt/TextPropsDialog.h"
 #include "qt/Theme.h"
@@ -35,8 +41,17 @@ Options readOptions(const QStringList& arguments) {
     return {{}, false};
 }
 
+// A form that changes while its own handler runs.
+template <class Dialog>
+void runShowing(QtPlatform& machine, Program& program, QWidget* window) {
+    Dialog dialog(program, window);
+    const auto outer = std::exchange(machine.showForm, [&dialog] { dialog.showState(); });
+    dialog.run();
+    machine.showForm = outer;
+}
+
 // A form that another one shows stands before that one.
-void runForm(Program& program, QWidget* window, Form form) {
+void runForm(QtPlatform& machine, Program& program, QWidget* window, Form form) {
     if (QWidget* const before = QApplication::activeModalWidget()) window = before;
     switch (form) {
         case Form::frmFile:
@@ -54,9 +69,30 @@ void runForm(Program& program, QWidget* window, Form form) {
         case Form::frmFavorites:
             FavoritesDialog(program, window).run();
             return;
+        case Form::frmLayout:
+            LayoutDialog(program, window).run();
+            return;
+        case Form::frmPrinter:
+            return runShowing<PrinterDialog>(machine, program, window);
+        case Form::frmPrinters:
+            return runShowing<PrintersDialog>(machine, program, window);
+        case Form::frmPreview:
+            return runShowing<PreviewDialog>(machine, program, window);
         default:
             return;
     }
+}
+
+// Where a form has the input to itself its buttons work; else nobody may change what is being
+// worked on.
+void letEventsRun(const std::function<void()>& showState, QElapsedTimer& sinceLast) {
+    constexpr int Interval = 15;  // milliseconds
+    if (sinceLast.isValid() && sinceLast.elapsed() < Interval) return;
+    showState();
+    QCoreApplication::processEvents(QApplication::activeModalWidget()
+                                        ? QEventLoop::AllEvents
+                                        : QEventLoop::ExcludeUserInputEvents);
+    sinceLast.start();
 }
 
 // Runs when the event loop is idle, with the window painted. The result is the exit status.
@@ -79,13 +115,21 @@ void connectPlatform(QtPlatform& machine, Program& program, MainWindow& window) 
     const auto refresh = [&window] { window.refresh(); };
     machine.dialogs.window = &window;
     machine.dialogs.beforeModal = refresh;
-    machine.dialogs.runForm = [&](Form form) { runForm(program, &window, form); };
+    machine.dialogs.runForm = [&](Form form) { runForm(machine, program, &window, form); };
     auto* const help = new LocalHelp(program, &window);
     machine.dialogs.openForm = [help](Form form) {
         if (form == Form::frmHelp) help->openWindow();
     };
     machine.dialogs.popUpMenu = [&](std::string_view menu) { window.popUp(menu); };
     machine.timers.afterExpiry = refresh;
+    const auto showAll = [&machine, refresh] {
+        refresh();
+        if (machine.showForm) machine.showForm();
+    };
+    machine.printers.afterChange = showAll;
+    machine.platform.LetEventsRun = [showAll, sinceLast = QElapsedTimer()]() mutable {
+        letEventsRun(showAll, sinceLast);
+    };
     machine.shell.ended = [&program] { program.Ending = true; };
 }
 
