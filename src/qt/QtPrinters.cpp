@@ -55,6 +55,7 @@ PaperArea wholeArea(QSizeF paper) {
 
 void QtPrinter::use(const QString& queue) {
     queue_ = queue;
+    papers_.clear();
     pageHasChanged();
 }
 
@@ -62,8 +63,15 @@ std::string QtPrinter::DeviceName() const {
     return queue_.isEmpty() ? std::string(PdfPrinterName) : fromQString(queue_);
 }
 
-// Of a queue alone: what its driver knows of the paper.
+// A driver is slow to ask, and every text on the page is measured in its scale.
 std::optional<PrinterPaper> QtPrinter::paper(Short code, Short orientation) const {
+    const auto [place, isNew] = papers_.try_emplace({code, orientation});
+    if (isNew) place->second = askForPaper(code, orientation);
+    return place->second;
+}
+
+// Of a queue alone: what its driver knows of the paper.
+std::optional<PrinterPaper> QtPrinter::askForPaper(Short code, Short orientation) const {
     const QSizeF wanted = paperSizeOf(code);
     const QPrinterInfo info = QPrinterInfo::printerInfo(queue_);
     for (const QPageSize& size : info.supportedPageSizes()) {

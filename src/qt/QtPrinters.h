@@ -8,8 +8,10 @@
 #include <QPdfWriter>
 #include <QTimer>
 #include <functional>
+#include <map>
 #include <memory>
 #include <optional>
+#include <utility>
 
 #include "platform/Platform.h"
 #include "qt/PrinterPage.h"
@@ -47,12 +49,16 @@ class QtPrinter final : public PrinterPage {
     QPainter& begin() override;
 
   private:
+    using PaperKey = std::pair<Short, Short>;  // code and orientation
+
     std::optional<PrinterPaper> paper(Short code, Short orientation) const;
+    std::optional<PrinterPaper> askForPaper(Short code, Short orientation) const;
     std::string finishedPdf();
     void drop();
 
     const Platform& platform_;
     QString queue_;
+    mutable std::map<PaperKey, std::optional<PrinterPaper>> papers_;  // what the queue has told
     PrintDocument document_;
     bool abandoned_ = false;
     QBuffer buffer_;
