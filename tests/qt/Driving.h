@@ -50,16 +50,24 @@ Widget& named(QWidget& window, const char* name) {
     return *found;
 }
 
+// Waits until the window has the keyboard, which another one may have had before.
+inline void activate(QWidget& window) {
+    window.activateWindow();
+    const auto ready = [&] {
+        return QApplication::activeWindow() == &window && QApplication::focusWidget();
+    };
+    for (int i = 0; i < 1000 && !ready(); ++i) {
+        QThread::msleep(5);
+        QCoreApplication::processEvents();
+    }
+}
+
 // Shows the dialog and acts on it while it is up; closes what the steps left open.
 template <class Dialog>
 void drive(Program& program, const std::function<void(Dialog&)>& steps) {
     Dialog dialog(program, nullptr);
     QTimer::singleShot(0, &dialog, [&] {
-        dialog.activateWindow();
-        for (int i = 0; i < 1000 && !QApplication::focusWidget(); ++i) {
-            QThread::msleep(5);
-            QCoreApplication::processEvents();
-        }
+        activate(dialog);
         try {
             steps(dialog);
         } catch (const std::exception& fault) {

@@ -56,6 +56,7 @@ TEST(FavoritesDialogTest, ManagesTheListBehindTheBrowserAndBrowsesForNewOnes) {
             remove.click();
             fake.dialogs.answers = {Answer::Yes};
             list.setFocus();
+            test::activate(dialog);
             press(Qt::Key_Escape);
             EXPECT_FALSE(dialog.isVisible());
         });
