@@ -2,6 +2,7 @@
 
 #include "app/FailureLog.h"
 #include "canvas/Redraw.h"
+#include "simulation/Simulation.h"
 #include "usersymbols/Compiler.h"
 #include "usersymbols/Libraries.h"
 
@@ -47,6 +48,7 @@ void mnuAdminCreateSymbolExportFile_Click(Program& program) {
 }
 
 void mnuModeDesign_Click(Program& program) {
+    LeaveSimulation(program.simulation, program.editor);
     MenuStates& menu = program.editor.form.menu;
     menu[Menu::mnuModeNormal].Checked = false;
     menu[Menu::mnuModeDesign].Checked = true;

@@ -9,8 +9,9 @@
 namespace ladrix {
 
 // Called before each system call of a change on disk, with the call's name ("open", "write",
-// "fsync", "fchown", "fchmod", "chmod", "close", "rename", "unlink", "mkdir", "rmdir"). A test kills the
-// process there, or throws a Failure in the call's place. Cleaning up after a failure is not told.
+// "fsync", "fchown", "fchmod", "chmod", "close", "rename", "unlink", "mkdir", "rmdir"). A test
+// kills the process there, or throws a Failure in the call's place. Cleaning up after a failure is
+// not told.
 using SystemCallHook = std::function<void(std::string_view call)>;
 
 class DiskFiles final : public Files {

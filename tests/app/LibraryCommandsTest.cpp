@@ -17,6 +17,7 @@ struct LibraryCommandsTest : testing::Test {
 
     void write(const std::string& library, const std::vector<std::string>& names) {
         std::string list;
+        fake.folder.makeFolder(library);
         for (const std::string& name : names) {
             fake.folder.write(library + "/" + name + ".uds", "Line:0:0:1:0\r\nDot:1:0:0\r\n");
             fake.folder.write(library + "/" + name + ".bmp", "BM");
@@ -38,8 +39,11 @@ struct LibraryCommandsTest : testing::Test {
 TEST_F(LibraryCommandsTest, TheStartLoadsTheDefaultLibraryBehindTheBuiltInButtons) {
     write("documents/Ladrix/User Symbols", {"Ground", "Motor"});
     fake.folder.makeFolder("documents/Ladrix/Data Files");
-    fake.folder.write("documents/Ladrix/Data Files/UserPreferences.upf",
-                      std::string(25, '\n') + "Reserve Bit 25:30\r\n");
+    std::string preferences;
+    for (int line = 10; line < 35; ++line)
+        preferences += "Reserve Bit " + std::to_string(line) + ":\r\n";
+    preferences += "Reserve Bit 25:30\r\n";
+    fake.folder.write("documents/Ladrix/Data Files/UserPreferences.upf", preferences);
     ASSERT_TRUE(startProgram(program));
     EXPECT_EQ(program.usersymbols.MaxSymbolsPerLibrary, 30 * 23);
     EXPECT_EQ(program.editor.form.cmdSym[93].Tag, "Motor");
