@@ -12,6 +12,7 @@
 #include "app/PageCommands.h"
 #include "app/RecentFiles.h"
 #include "app/SimulationCommands.h"
+#include "app/UserPaletteCommands.h"
 #include "canvas/Colors.h"
 #include "canvas/CopyMove.h"
 #include "canvas/DrawingCommands.h"
@@ -72,13 +73,13 @@ constexpr Command Commands[] = {
     {Menu::mnuLayoutMore, Menu::mnuLayout, "mnuLayoutMore", "More &Choices", "", mnuLayoutMore_Click, true, false},
     {Menu::mnuLibraries, Menu::mnuLibraries, "mnuLibraries", "Li&braries", "", nullptr, false, false},
     {Menu::mnuLibManage, Menu::mnuLibraries, "mnuLibManage", "User Symbol Management", "", nullptr, false, false},
-    {Menu::mnuLibManageUserLibraries, Menu::mnuLibManage, "mnuLibManageUserLibraries", "Open User Library Manager", "", nullptr, false, false},
+    {Menu::mnuLibManageUserLibraries, Menu::mnuLibManage, "mnuLibManageUserLibraries", "Open User Library Manager", "", mnuLibManageUserLibraries_Click, false, false},
     {Menu::mnuLibManageRename, Menu::mnuLibManage, "mnuLibManageRename", "&Rename Selected User Button", "", mnuLibManageRename_Click, false, false},
     {Menu::mnuLibManageDelete, Menu::mnuLibManage, "mnuLibManageDelete", "&Delete Selected User Button", "", mnuLibManageDelete_Click, false, false},
     {Menu::mnuLibManageMove, Menu::mnuLibManage, "mnuLibManageMove", "&Move Selected User Button to Another Library", "", mnuLibManageMove_Click, false, false},
     {Menu::mnuLibManageCopy, Menu::mnuLibManage, "mnuLibManageCopy", "&Copy Selected User Button to Another Library", "", mnuLibManageCopy_Click, false, false},
-    {Menu::mnuLibManageOrder, Menu::mnuLibManage, "mnuLibManageOrder", "Change &Order of User Buttons", "", nullptr, true, false},
-    {Menu::mnuLibManageRows, Menu::mnuLibManage, "mnuLibManageRows", "Change Number of Displayed Rows", "", nullptr, false, false},
+    {Menu::mnuLibManageOrder, Menu::mnuLibManage, "mnuLibManageOrder", "Change &Order of User Buttons", "", mnuLibManageOrder_Click, true, false},
+    {Menu::mnuLibManageRows, Menu::mnuLibManage, "mnuLibManageRows", "Change Number of Displayed Rows", "", mnuLibManageRows_Click, false, false},
     {Menu::mnuLibElectrical, Menu::mnuLibraries, "mnuLibElectrical", "NEMA Electrical", "", onEditor<mnuLibElectrical_Click>, true, true},
     {Menu::mnuLibElectronic, Menu::mnuLibraries, "mnuLibElectronic", "Electronic", "", onEditor<mnuLibElectronic_Click>, false, true},
     {Menu::mnuLibIEC, Menu::mnuLibraries, "mnuLibIEC", "IEC", "", onEditor<mnuLibIEC_Click>, false, true},
@@ -88,7 +89,7 @@ constexpr Command Commands[] = {
     {Menu::mnuLibMerge, Menu::mnuLibraries, "mnuLibMerge", "&Merge Another Library into This One", "", mnuLibMerge_Click, false, false},
     {Menu::mnuLibraryNext, Menu::mnuLibraries, "mnuLibraryNext", "Index to Ne&xt User Library", "", mnuLibraryNext_Click, false, false},
     {Menu::mnuLibraryPrevious, Menu::mnuLibraries, "mnuLibraryPrevious", "Index to &Previous User Library", "", mnuLibraryPrevious_Click, false, false},
-    {Menu::mnuLibFind, Menu::mnuLibraries, "mnuLibFind", "&Find Symbol...", "", nullptr, true, false},
+    {Menu::mnuLibFind, Menu::mnuLibraries, "mnuLibFind", "&Find Symbol...", "Ctrl+F", mnuLibFind_Click, true, false},
     {Menu::mnuInsert, Menu::mnuInsert, "mnuInsert", "Insert", "", nullptr, false, false},
     {Menu::mnuInsertPicture, Menu::mnuInsert, "mnuInsertPicture", "&Picture File", "", mnuInsertPicture_Click, false, false},
     {Menu::mnuEdit, Menu::mnuEdit, "mnuEdit", "&Edit", "", nullptr, false, false},

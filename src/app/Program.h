@@ -16,6 +16,8 @@
 #include "output/PrintDrawing.h"
 #include "platform/Platform.h"
 #include "simulation/Simulation.h"
+#include "usersymbols/LibManager.h"
+#include "usersymbols/SymbolSearch.h"
 #include "usersymbols/UserSymbols.h"
 
 namespace ladrix {
@@ -53,6 +55,8 @@ struct Program {
     FavoritesForm frmFavorites;
     UserSymbols usersymbols;
     Simulation simulation;
+    LibManager frmLibManager;
+    SymbolSearch frmFind;
     LogViewer frmLog;
     TextProperties frmTextProps;
     RecentFiles recentFiles;

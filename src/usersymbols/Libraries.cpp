@@ -90,14 +90,12 @@ void emptyTables(UserSymbols& symbols) {
     symbols.UnreadSymbols.clear();
 }
 
-void appendSymbol(UserSymbols& symbols, const std::string& name, std::string script,
-                  std::shared_ptr<const Picture> picture,
-                  std::shared_ptr<const Picture> cyanPicture) {
+void appendSymbol(UserSymbols& symbols, const std::string& name, LoadedSymbol loaded) {
     symbols.UserSymbolName.push_back(name);
     symbols.UserSymbolFile.push_back(name + ".uds");
-    symbols.UserSymbolScript.push_back(std::move(script));
-    symbols.UserSymbolPicture.push_back(std::move(picture));
-    symbols.UserSymbolCyanPicture.push_back(std::move(cyanPicture));
+    symbols.UserSymbolScript.push_back(std::move(loaded.script));
+    symbols.UserSymbolPicture.push_back(std::move(loaded.picture));
+    symbols.UserSymbolCyanPicture.push_back(std::move(loaded.cyanPicture));
     ++symbols.UserSymbolCount;
 }
 
@@ -113,24 +111,6 @@ std::shared_ptr<const Picture> pictureOf(const UserSymbols& symbols, Images& ima
         empty->BackColor = blank;
         empty->Cls();
         return empty->Image();
-    }
-}
-
-void loadSymbol(UserSymbols& symbols, const Platform& platform, const FolderIndex& index,
-                const std::string& name) {
-    try {
-        SymbolFiles content = readSymbol(*platform.files, symbols.SymbolFolder, index, name);
-        requireScriptWithinLimits(content.script);
-        Images& images = *platform.images;
-        const std::string path = symbols.SymbolFolder + name;
-        auto picture = pictureOf(symbols, images, content.picture, path + ".bmp", White);
-        auto cyan = pictureOf(symbols, images, content.cyanPicture, path + "_Cyan.bmp", Cyan);
-        appendSymbol(symbols, name, std::move(content.script), std::move(picture), std::move(cyan));
-    } catch (const Failure& failure) {
-        symbols.UnreadSymbols.push_back(name);
-        note(symbols, symbols.SymbolFolder + name + ": left out. " + failure.text);
-        if (failure.number == failure::Overflow)
-            platform.ReportError("Load User Symbols", {failure.number, name + ": " + failure.text});
     }
 }
 
@@ -211,6 +191,25 @@ void ReadLibraryStructure(UserSymbols& symbols, Editor& editor) {
     if (!symbols.LibraryMissing) symbols.LibraryLines = readList(files, currentLibrary(symbols));
 }
 
+std::optional<LoadedSymbol> loadSymbol(const UserSymbols& symbols, const Platform& platform,
+                                       const std::string& symbolFolder, const FolderIndex& index,
+                                       const std::string& name) {
+    const std::string path = symbolFolder + name;
+    try {
+        SymbolFiles content = readSymbol(*platform.files, symbolFolder, index, name);
+        requireScriptWithinLimits(content.script);
+        Images& images = *platform.images;
+        auto picture = pictureOf(symbols, images, content.picture, path + ".bmp", White);
+        auto cyan = pictureOf(symbols, images, content.cyanPicture, path + "_Cyan.bmp", Cyan);
+        return LoadedSymbol{std::move(content.script), std::move(picture), std::move(cyan)};
+    } catch (const Failure& failure) {
+        note(symbols, path + ": left out. " + failure.text);
+        if (failure.number == failure::Overflow)
+            platform.ReportError("Load User Symbols", {failure.number, name + ": " + failure.text});
+        return std::nullopt;
+    }
+}
+
 void LoadUserSymbols(UserSymbols& symbols, Editor& editor) {
     Files& files = *editor.platform.files;
     emptyTables(symbols);
@@ -223,10 +222,15 @@ void LoadUserSymbols(UserSymbols& symbols, Editor& editor) {
     }
     for (const std::string& name : symbols.LibraryLines) {
         if (symbols.UserSymbolCount == LargestCount) return;
-        if (index.hasAll(name))
-            loadSymbol(symbols, editor.platform, index, name);
-        else if (!name.empty())
+        if (name.empty()) continue;
+        if (!index.hasAll(name)) {
             note(symbols, symbols.SymbolFolder + name + ": left out, a file is missing.");
+        } else if (auto loaded =
+                       loadSymbol(symbols, editor.platform, symbols.SymbolFolder, index, name)) {
+            appendSymbol(symbols, name, std::move(*loaded));
+        } else {
+            symbols.UnreadSymbols.push_back(name);
+        }
     }
 }
 

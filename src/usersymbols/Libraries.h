@@ -2,6 +2,7 @@
 // the commands below them catch it at their one error path and report it once.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -27,6 +28,16 @@ void UpdateOldUserSymbols(UserSymbols& symbols, Editor& editor);
 
 // The current list into LibraryLines. Without its file or folder: LibraryMissing, no lines.
 void ReadLibraryStructure(UserSymbols& symbols, Editor& editor);
+
+// One symbol of a symbol folder, the index of which is at hand. A damaged picture is replaced by a
+// blank one, a symbol that cannot be read is nullopt: with a line to NoteRepair for both.
+struct LoadedSymbol {
+    std::string script;
+    std::shared_ptr<const Picture> picture, cyanPicture;
+};
+std::optional<LoadedSymbol> loadSymbol(const UserSymbols& symbols, const Platform& platform,
+                                       const std::string& symbolFolder, const FolderIndex& index,
+                                       const std::string& name);
 
 // Pictures and scripts of the listed symbols; those with a file missing or damaged are skipped,
 // with a line to NoteRepair. Hides the user buttons and renews the window's title.

@@ -1,10 +1,10 @@
 #include <algorithm>
 
-#include "canvas/Redraw.h"
 #include "platform/Encoding.h"
 #include "platform/Numbers.h"
 #include "usersymbols/Compiler.h"
 #include "usersymbols/Libraries.h"
+#include "usersymbols/UserPalette.h"
 
 namespace ladrix {
 
@@ -22,12 +22,6 @@ void guarded(const Editor& editor, std::string_view description, const Steps& st
     } catch (const Failure& failure) {
         editor.platform.ReportError(description, failure);
     }
-}
-
-void resetTool(Editor& editor) {
-    if (editor.CurrentTool != -1) ResetEditor(editor);
-    editor.CurrentTool = editor.PreviousTool = -1;
-    if (editor.RepeatTool > editor.LastBuiltInButton) editor.RepeatTool = -1;
 }
 
 bool libraryFolderExists(Editor& editor, const LibraryPlace& library) {

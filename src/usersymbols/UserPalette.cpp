@@ -1,6 +1,9 @@
 #include "usersymbols/UserPalette.h"
 
 #include <algorithm>
+#include <cmath>
+
+#include "canvas/Redraw.h"
 
 namespace ladrix {
 
@@ -28,6 +31,14 @@ void findPlaces(UserSymbols& symbols, std::size_t count) {
     }
 }
 
+// Both arrows keep their step whatever is in view; the view disables the one that leads nowhere.
+void scrollColumns(UserSymbols& symbols, Editor& editor, int columns) {
+    if (symbols.UserSymbolCount == 0) return;
+    symbols.UserButtonLeft -= static_cast<Single>(columns) * symbols.UserButtonSize;
+    findPlaces(symbols, symbols.UserButtonPlace.size());
+    RestoreUserButtonPlaces(symbols, editor);
+}
+
 }  // namespace
 
 void LayOutUserButtons(UserSymbols& symbols, Editor& editor) {
@@ -52,6 +63,59 @@ void LayOutUserButtons(UserSymbols& symbols, Editor& editor) {
         button.Top = symbols.UserButtonPlace[i].Top;
     }
     ++editor.form.PaletteVersion;
+}
+
+void RestoreUserButtonPlaces(UserSymbols& symbols, Editor& editor) {
+    for (std::size_t i = 0; i < symbols.UserButtonPlace.size(); ++i) {
+        PaletteButton& button =
+            editor.form.cmdSym[static_cast<std::size_t>(symbols.FirstUserButton) + i];
+        button.Left = symbols.UserButtonPlace[i].Left;
+        button.Top = symbols.UserButtonPlace[i].Top;
+    }
+    ++editor.form.PaletteVersion;
+}
+
+void cmdNext_Click(UserSymbols& symbols, Editor& editor) {
+    scrollColumns(symbols, editor, 1);
+}
+
+void cmdPrev_Click(UserSymbols& symbols, Editor& editor) {
+    scrollColumns(symbols, editor, -1);
+}
+
+ButtonCell cellOf(const UserSymbols& symbols, const ButtonPlace& place) {
+    const auto steps = [&](Single distance) {
+        return static_cast<int>(std::lround((distance - Gap) / symbols.UserButtonSize));
+    };
+    return {steps(place.Left), steps(place.Top)};
+}
+
+int userColumns(const UserSymbols& symbols) {
+    const int rows = std::max<int>(symbols.PaletteRows, 1);
+    return (static_cast<int>(symbols.UserButtonPlace.size()) + rows - 1) / rows;
+}
+
+void showUserButton(UserSymbols& symbols, Editor& editor, Short button, int columnsInView) {
+    const Short row = symbolOfButton(symbols, button);
+    if (row < 0) return;
+    const int column =
+        cellOf(symbols, symbols.UserButtonPlace[static_cast<std::size_t>(row)]).column;
+    if (column < 0) scrollColumns(symbols, editor, column);
+    if (column >= columnsInView) scrollColumns(symbols, editor, column - columnsInView + 1);
+}
+
+void openUserButtonMenu(UserSymbols& symbols, Editor& editor, Short button) {
+    if (button <= editor.LastBuiltInButton) return;
+    symbols.ContextButton = button;
+    editor.form.menu[Menu::mnuLibManageDelete].Enabled = true;
+    editor.form.menu[Menu::mnuLibManageRename].Enabled = true;
+    editor.platform.dialogs->popUp("mnuLibManage");
+}
+
+void resetTool(Editor& editor) {
+    if (editor.CurrentTool != -1) ResetEditor(editor);
+    editor.CurrentTool = editor.PreviousTool = -1;
+    if (editor.RepeatTool > editor.LastBuiltInButton) editor.RepeatTool = -1;
 }
 
 Short symbolOfButton(const UserSymbols& symbols, Short button) {

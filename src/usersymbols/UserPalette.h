@@ -10,4 +10,30 @@ namespace ladrix {
 // PaletteRows filled from the top. Runs after each change of the library.
 void LayOutUserButtons(UserSymbols& symbols, Editor& editor);
 
+// The columns go one step to the left or to the right; nothing happens without user symbols.
+void cmdNext_Click(UserSymbols& symbols, Editor& editor);
+void cmdPrev_Click(UserSymbols& symbols, Editor& editor);
+// Every button to its place in UserButtonPlace.
+void RestoreUserButtonPlaces(UserSymbols& symbols, Editor& editor);
+
+// A place in steps of the columns and rows. Column 0 is the first that can be seen, those scrolled
+// out at the left are negative.
+struct ButtonCell {
+    int column = 0, row = 0;
+
+    friend bool operator==(const ButtonCell&, const ButtonCell&) = default;
+};
+ButtonCell cellOf(const UserSymbols& symbols, const ButtonPlace& place);
+int userColumns(const UserSymbols& symbols);  // in all
+
+// Scrolls until the button stands in one of the columns in view.
+void showUserButton(UserSymbols& symbols, Editor& editor, Short button, int columnsInView);
+
+// A right press on a button of cmdSym: the menu of a user button pops up and belongs to it. A
+// built-in button has none.
+void openUserButtonMenu(UserSymbols& symbols, Editor& editor, Short button);
+
+// No tool is in hand any more. For what changes the buttons under the pointer.
+void resetTool(Editor& editor);
+
 }  // namespace ladrix

@@ -66,6 +66,13 @@ struct ButtonPlace {
     friend bool operator==(const ButtonPlace&, const ButtonPlace&) = default;
 };
 
+// A user button that is being dragged to another place.
+struct ButtonDrag {
+    Short Source = -1;  // cmdSym's index; -1: none
+    std::shared_ptr<const Picture> imgDrag;
+    std::string Tag;
+};
+
 struct UserSymbols {
     // The current library's symbols, in the order of the buttons. A name "" is a deleted symbol
     // until the next save of the list.
@@ -93,6 +100,9 @@ struct UserSymbols {
     std::vector<ButtonPlace> UserButtonPlace;
     std::string LaidOutLibrary;  // the symbol folder last laid out
     Short ContextButton = -1;    // cmdSym's index under the right-click menu; -1: none
+    // While the columns are being arranged (Editor::Arranging).
+    ButtonDrag drag;
+    Control cmdSaveSymbolOrder = hidden();
 
     SymbolCompiler compiler;
     FormButtonColor frmButtonColor;

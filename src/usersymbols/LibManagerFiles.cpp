@@ -1,0 +1,272 @@
+#include "usersymbols/LibManagerFiles.h"
+
+#include <algorithm>
+
+#include "platform/Encoding.h"
+#include "platform/Numbers.h"
+#include "usersymbols/Libraries.h"
+#include "usersymbols/UserPalette.h"
+
+namespace ladrix {
+
+namespace {
+
+constexpr std::string_view FolderIsThere = "Symbol Folder Already Exists - Cannot Overwrite";
+constexpr std::string_view FileIsThere = "Symbol File Already Exists - Cannot Overwrite";
+
+LibraryPlace sourceOf(const LibManager& manager) {
+    return {manager.ManagerParentFolder, manager.ManagerSourceName};
+}
+
+LibraryPlace destinationOf(const LibManager& manager, const Editor& editor) {
+    return {editor.BasePath, manager.ManagerDestName};
+}
+
+bool isDefault(std::string_view file) {
+    return equalIgnoringCase(file, DefaultLibraryFile);
+}
+
+bool isSource(const LibManager& manager, const UserSymbols& symbols) {
+    return symbols.LibraryFolder == manager.ManagerParentFolder &&
+           equalIgnoringCase(symbols.LibraryFile, manager.ManagerSourceFile);
+}
+
+template <class Steps>
+void guarded(const Editor& editor, std::string_view description, const Steps& steps) {
+    try {
+        steps();
+    } catch (const Failure& failure) {
+        editor.platform.ReportError(description, failure);
+    }
+}
+
+// After a step that may have failed half way the form shows what is on disk.
+template <class Steps>
+void changeSource(LibManager& manager, const UserSymbols& symbols, Editor& editor,
+                  std::string_view description, const Steps& steps) {
+    guarded(editor, description, [&] {
+        try {
+            steps();
+        } catch (const Failure&) {
+            loadManagerSource(manager, symbols, editor);
+            throw;
+        }
+    });
+}
+
+std::vector<std::string> selectedNames(const LibManager& manager) {
+    return manager.lstSelected.List;
+}
+
+// What the list names when the blanked symbols are gone: the buttons in their order, then what is
+// there but could not be read.
+void writeSource(const LibManager& manager, Files& files) {
+    std::vector<std::string> names = manager.ManagerSymbolName;
+    names.insert(names.end(), manager.ManagerUnread.begin(), manager.ManagerUnread.end());
+    writeList(files, sourceOf(manager), names);
+}
+
+// The list first, then the files.
+void removeSelected(LibManager& manager, const UserSymbols& symbols, Editor& editor) {
+    Files& files = *editor.platform.files;
+    const std::vector<std::string> names = selectedNames(manager);
+    for (std::size_t i = 0; i < manager.ManagerSymbolState.size(); ++i)
+        if (manager.ManagerSymbolState[i].Selected) manager.ManagerSymbolName[i].clear();
+    writeSource(manager, files);
+    for (const std::string& name : names)
+        removeSymbol(files, manager.ManagerSourceFolder, name);
+    loadManagerSource(manager, symbols, editor);
+}
+
+Answer mayReplace(const Editor& editor, const std::string& name) {
+    return editor.platform.dialogs->message(
+        "A symbol with this name already exists. Replace it with this one, " + name + "?",
+        "Preparing to Overwrite Symbol", Buttons::YesNoCancel);
+}
+
+void listOnce(std::vector<std::string>& lines, const std::string& name) {
+    std::erase_if(lines, [&](const std::string& line) { return equalIgnoringCase(line, name); });
+    lines.push_back(name);
+}
+
+// Every symbol whose files are there is in `lines`, even when a later one fails.
+void copySelected(const LibManager& manager, Editor& editor, std::vector<std::string>& lines) {
+    Files& files = *editor.platform.files;
+    const FolderIndex here(files, manager.ManagerSourceFolder);
+    const FolderIndex there(files, manager.ManagerDestFolder);
+    for (const std::string& name : selectedNames(manager)) {
+        if (there.has(name + ".uds")) {
+            const Answer answer = mayReplace(editor, name);
+            if (answer == Answer::Cancel) return;
+            if (answer == Answer::No) continue;
+        }
+        writeSymbol(files, manager.ManagerDestFolder, name,
+                    readSymbol(files, manager.ManagerSourceFolder, here, name));
+        listOnce(lines, name);
+    }
+}
+
+// False if there is nothing to transfer, or nowhere to.
+bool mayTransfer(const LibManager& manager, const Editor& editor) {
+    if (manager.ManagerDestFile.empty()) {
+        editor.platform.tell("No destination library was selected.");
+        return false;
+    }
+    if (manager.ManagerSelectedCount == 0) return false;
+    if (!equalIgnoringCase(manager.ManagerDestFolder, manager.ManagerSourceFolder)) return true;
+    editor.platform.tell("The destination is the source library. Please select another one.");
+    return false;
+}
+
+// Throws a Failure; what has been copied until then is listed.
+void transferSelectedSymbols(LibManager& manager, Editor& editor) {
+    Files& files = *editor.platform.files;
+    const LibraryPlace destination = destinationOf(manager, editor);
+    manager.ManagerDestLines = readList(files, destination);
+    try {
+        copySelected(manager, editor, manager.ManagerDestLines);
+    } catch (const Failure&) {
+        writeList(files, destination, manager.ManagerDestLines);
+        throw;
+    }
+    writeList(files, destination, manager.ManagerDestLines);
+    if (std::exchange(manager.ManagerCopying, false)) editor.platform.tell("Action Complete.");
+}
+
+bool nameIsFree(const Editor& editor, const LibraryPlace& library) {
+    Files& files = *editor.platform.files;
+    if (FolderExists(files, library.Folder, library.Name)) {
+        editor.platform.tell(FolderIsThere);
+        return false;
+    }
+    if (FileExists(files, library.Folder, library.file())) {
+        editor.platform.tell(FileIsThere);
+        return false;
+    }
+    return true;
+}
+
+void relist(LibManager& manager, UserSymbols& symbols, Editor& editor) {
+    ListUserLibraries(symbols, editor);
+    listManagerLibraries(manager, symbols);
+}
+
+// Source, destination and the main window's library follow the new name.
+void followName(LibManager& manager, UserSymbols& symbols, Editor& editor,
+                const LibraryPlace& renamed) {
+    const bool wasDestination = manager.ManagerDestFile == manager.ManagerSourceFile;
+    if (isSource(manager, symbols)) selectLibrary(symbols, editor, renamed.Folder, renamed.file());
+    selectManagerSource(manager, editor, renamed.Folder, renamed.file());
+    if (!wasDestination) return;
+    manager.ManagerDestFile = renamed.file();
+    manager.ManagerDestName = renamed.Name;
+    manager.ManagerDestFolder = renamed.symbolFolder(*editor.platform.files);
+}
+
+}  // namespace
+
+void cmdDelete_Click(LibManager& manager, UserSymbols& symbols, Editor& editor) {
+    if (manager.ManagerSelectedCount == 0) return;
+    const Answer answer = editor.platform.dialogs->message(
+        longText(manager.ManagerSelectedCount) +
+            " symbols have been selected for deletion. Are you sure you want to delete all "
+            "selected symbols?",
+        "Preparing to Delete Symbols", Buttons::YesNo);
+    if (answer != Answer::Yes) return;
+    changeSource(manager, symbols, editor, "Delete User Symbols", [&] {
+        removeSelected(manager, symbols, editor);
+        editor.platform.tell("Items deleted.");
+    });
+}
+
+void mnuFileSaveOrder_Click(LibManager& manager, UserSymbols& symbols, Editor& editor) {
+    changeSource(manager, symbols, editor, "Save User Symbol Order", [&] {
+        if (symbols.UserSymbolCount >= 1) writeSource(manager, *editor.platform.files);
+        loadManagerSource(manager, symbols, editor);
+    });
+}
+
+void lstDestinationLibrary_Click(LibManager& manager, Editor& editor, int row) {
+    const auto& list = manager.lstDestinationLibrary.List;
+    if (row < 0 || row >= static_cast<int>(list.size())) return;
+    manager.lstDestinationLibrary.ListIndex = row;
+    const LibraryPlace library = libraryPlace(editor.BasePath, list[static_cast<std::size_t>(row)]);
+    Files& files = *editor.platform.files;
+    manager.ManagerDestFile = library.file();
+    manager.ManagerDestName = library.Name;
+    manager.ManagerDestFolder = library.symbolFolder(files);
+    manager.cmdCopy.Enabled = manager.cmdMove.Enabled = true;
+    guarded(editor, "Destination Library",
+            [&] { manager.ManagerDestLines = readList(files, library); });
+}
+
+void cmdCopy_Click(LibManager& manager, UserSymbols& symbols, Editor& editor) {
+    if (!mayTransfer(manager, editor)) return;
+    manager.ManagerCopying = true;
+    changeSource(manager, symbols, editor, "Copy User Symbols",
+                 [&] { transferSelectedSymbols(manager, editor); });
+    manager.ManagerCopying = false;
+}
+
+void cmdMove_Click(LibManager& manager, UserSymbols& symbols, Editor& editor) {
+    if (!mayTransfer(manager, editor)) return;
+    changeSource(manager, symbols, editor, "Move User Symbols", [&] {
+        transferSelectedSymbols(manager, editor);
+        removeSelected(manager, symbols, editor);
+        editor.platform.tell("Action Completed.");
+    });
+}
+
+void mnuFileNew_Click(LibManager& manager, UserSymbols& symbols, Editor& editor) {
+    const Platform& platform = editor.platform;
+    const auto answer =
+        platform.dialogs->input("Please enter a name for the User Library in the box provided.",
+                                "Adding New User Library", "");
+    if (!answer || answer->empty() || !acceptedAsFileName(platform, *answer)) return;
+    guarded(editor, "New User Library", [&] {
+        const LibraryPlace library{editor.BasePath, *answer + std::string(LibrarySuffix)};
+        if (!nameIsFree(editor, library)) return;
+        createLibrary(*platform.files, library);
+        relist(manager, symbols, editor);
+        platform.tell(library.Name + " has been successfully created.");
+    });
+}
+
+void mnuFileName_Click(LibManager& manager, UserSymbols& symbols, Editor& editor) {
+    const Platform& platform = editor.platform;
+    if (isDefault(manager.ManagerSourceFile)) return platform.tell("Cannot rename Default Library");
+    const std::string& former = manager.ManagerSourceName;
+    const auto answer = platform.dialogs->input(
+        "Please enter a new name for the User Library in the box provided.",
+        "Changing User Library Name",
+        former.substr(0, former.size() - std::min(former.size(), LibrarySuffix.size())));
+    if (!answer || answer->empty() || !acceptedAsFileName(platform, *answer)) return;
+    guarded(editor, "Rename User Library", [&] {
+        const LibraryPlace library{manager.ManagerParentFolder,
+                                   *answer + std::string(LibrarySuffix)};
+        if (!nameIsFree(editor, library)) return;
+        renameLibrary(*platform.files, library.Folder, former, library.Name);
+        followName(manager, symbols, editor, library);
+        relist(manager, symbols, editor);
+    });
+}
+
+void mnuFileDelete_Click(LibManager& manager, UserSymbols& symbols, Editor& editor) {
+    const Platform& platform = editor.platform;
+    if (isDefault(manager.ManagerSourceFile))
+        return platform.tell("Deleting default library is not permitted.");
+    const Answer answer =
+        platform.dialogs->message("Are you sure you want to delete this library?",
+                                  "Preparing to Delete Current Library", Buttons::YesNo);
+    if (answer != Answer::Yes) return;
+    changeSource(manager, symbols, editor, "Delete User Library", [&] {
+        removeLibrary(*platform.files, sourceOf(manager));
+        resetTool(editor);
+        selectLibrary(symbols, editor, editor.BasePath, DefaultLibraryFile);
+        selectManagerSource(manager, editor, editor.BasePath, DefaultLibraryFile);
+        relist(manager, symbols, editor);
+        loadManagerSource(manager, symbols, editor);
+    });
+}
+
+}  // namespace ladrix
