@@ -12,6 +12,7 @@
 #include "qt/FavoritesDialog.h"
 #include "qt/FileDialog.h"
 #include "qt/LayoutDialog.h"
+#include "qt/LibManagerDialog.h"
 #include "qt/LocalHelp.h"
 #include "qt/LogDialog.h"
 #include "qt/MainWindow.h"
@@ -19,6 +20,7 @@
 #include "qt/PrinterDialog.h"
 #include "qt/PrintersDialog.h"
 #include "qt/QtPlatform.h"
+#include "qt/SymbolDialogs.h"
 #include "qt/TextPropsDialog.h"
 #include "qt/Theme.h"
 
@@ -78,6 +80,18 @@ void runForm(QtPlatform& machine, Program& program, QWidget* window, Form form) 
             return runShowing<PrintersDialog>(machine, program, window);
         case Form::frmPreview:
             return runShowing<PreviewDialog>(machine, program, window);
+        case Form::frmButtonColor:
+            ButtonColorDialog(program, window).run();
+            return;
+        case Form::frmLibManager:
+            LibManagerDialog(program, window).run();
+            return;
+        case Form::frmUS:
+            SaveSymbolDialog(program, window).run();
+            return;
+        case Form::frmUBRows:
+            PaletteRowsDialog(program, window).run();
+            return;
         default:
             return;
     }
@@ -117,8 +131,9 @@ void connectPlatform(QtPlatform& machine, Program& program, MainWindow& window) 
     machine.dialogs.beforeModal = refresh;
     machine.dialogs.runForm = [&](Form form) { runForm(machine, program, &window, form); };
     auto* const help = new LocalHelp(program, &window);
-    machine.dialogs.openForm = [help](Form form) {
+    machine.dialogs.openForm = [help, &window](Form form) {
         if (form == Form::frmHelp) help->openWindow();
+        if (form == Form::frmFind) window.openFind();
     };
     machine.dialogs.popUpMenu = [&](std::string_view menu) { window.popUp(menu); };
     machine.timers.afterExpiry = refresh;

@@ -90,7 +90,9 @@ MainWindow::MainWindow(Program& program, QtCanvas& canvas) : program_(program) {
     middle->setSpacing(0);
     picTools_ = new PalettePanel(program, buttonImages_, inside);
     picFrame_ = new CanvasFrame(program, canvas, inside);
+    picUserTools_ = new UserPalettePanel(program, inside);
     middle->addWidget(picTools_);
+    middle->addWidget(picUserTools_);
     picSimulation_ = new SimulationPanel(program, inside);
     auto* right = new QVBoxLayout;
     right->setSpacing(0);
@@ -101,10 +103,16 @@ MainWindow::MainWindow(Program& program, QtCanvas& canvas) : program_(program) {
     makeFoot(*column);
     setCentralWidget(inside);
     picMoreSym_ = new FlyOutWidget(program, buttonImages_, picTools_->palette(), inside);
+    frmFind_ = new SymbolSearchBox(program, buttonImages_, picTools_);
+    orderBar_ = new OrderBar(program, *picFrame_, inside);
 
     connect(picTop_, &ToolStrip::handled, this, &MainWindow::refresh);
     connect(picSimulation_, &SimulationPanel::handled, this, &MainWindow::refresh);
     connect(picTools_, &PalettePanel::handled, this, &MainWindow::refresh);
+    connect(picUserTools_, &UserPalettePanel::handled, this, &MainWindow::refresh);
+    connect(frmFind_, &SymbolSearchBox::handled, this, &MainWindow::refresh);
+    connect(frmFind_, &SymbolSearchBox::chosen, this, &MainWindow::revealTool);
+    connect(orderBar_, &OrderBar::handled, this, &MainWindow::refresh);
     connect(picFrame_, &CanvasFrame::handled, this, &MainWindow::refresh);
     connect(picMoreSym_, &FlyOutWidget::handled, this, &MainWindow::refresh);
     connect(picTop_, &ToolStrip::escapePressed, this, [this] {
@@ -238,9 +246,21 @@ void MainWindow::showState() {
     picTop_->refresh();
     picSimulation_->refresh();
     picTools_->refresh();
+    picUserTools_->refresh();
+    orderBar_->refresh();
     picFrame_->refresh();
     picMoreSym_->refresh();
     giveFocus();
+}
+
+// The button of the tool in hand comes into view.
+void MainWindow::revealTool() {
+    const Short tool = program_.editor.CurrentTool;
+    if (tool < 0) return;
+    refresh();
+    picUserTools_->reveal(tool);
+    picTools_->palette().reveal(tool);
+    refresh();
 }
 
 // A field in a panel that is closed cannot take the focus; it asks again when the panel opens.

@@ -13,7 +13,9 @@
 #include "qt/CanvasWidget.h"
 #include "qt/PaletteWidget.h"
 #include "qt/SimulationPanel.h"
+#include "qt/SymbolSearchBox.h"
 #include "qt/ToolStrip.h"
+#include "qt/UserPaletteWidget.h"
 
 namespace ladrix {
 
@@ -50,9 +52,13 @@ class MainWindow final : public QMainWindow {
 
     CanvasWidget& canvas() { return picFrame_->canvas(); }
     PaletteWidget& palette() { return picTools_->palette(); }
+    UserPalettePanel& userPalette() { return *picUserTools_; }
 
     // Pops up the menu of this name at the pointer.
     void popUp(std::string_view menuName);
+
+    // Shows frmFind from its state.
+    void openFind() { frmFind_->refresh(); }
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -67,6 +73,7 @@ class MainWindow final : public QMainWindow {
     void watchKeys();
     void pressFormKey(const QKeyEvent& event);
     void showState();
+    void revealTool();
     void showMenus();
     void giveFocus();
 
@@ -78,6 +85,9 @@ class MainWindow final : public QMainWindow {
     ToolStrip* picTop_ = nullptr;
     SimulationPanel* picSimulation_ = nullptr;
     PalettePanel* picTools_ = nullptr;
+    UserPalettePanel* picUserTools_ = nullptr;
+    OrderBar* orderBar_ = nullptr;
+    SymbolSearchBox* frmFind_ = nullptr;
     CanvasFrame* picFrame_ = nullptr;
     FlyOutWidget* picMoreSym_ = nullptr;
     bool refreshing_ = false, refreshAgain_ = false;

@@ -71,7 +71,8 @@ void PaletteWidget::refresh() {
     if (version_ == form.PaletteVersion) return;
     version_ = form.PaletteVersion;
     shownButtons_.clear();
-    for (std::size_t i = 0; i < form.cmdSym.size(); ++i)
+    const auto end = std::min(form.cmdSym.size(), std::size_t{BuiltInButtonCount} + 1);
+    for (std::size_t i = 0; i < end; ++i)
         if (form.cmdSym[i].Visible) shownButtons_.push_back(static_cast<Short>(i));
     scrollTo(firstRow_);
     update();
@@ -82,6 +83,14 @@ void PaletteWidget::scrollTo(int row) {
     firstRow_ = std::clamp(row, 0, last);
     update();
     emit scrolled();
+}
+
+void PaletteWidget::reveal(Short index) {
+    const auto found = std::lower_bound(shownButtons_.begin(), shownButtons_.end(), index);
+    if (found == shownButtons_.end() || *found != index) return;
+    const int row = static_cast<int>(found - shownButtons_.begin()) / Columns;
+    if (row < firstRow_) scrollTo(row);
+    if (row >= firstRow_ + rowsInView()) scrollTo(row - rowsInView() + 1);
 }
 
 QRect PaletteWidget::cellRect(int place) const {

@@ -41,6 +41,7 @@ class PaletteWidget final : public QWidget {
     int rowsInView() const { return std::max(1, height() / Cell); }
     int firstRow() const { return firstRow_; }
     void scrollTo(int row);
+    void reveal(Short index);  // scrolls until the button is in view
 
   signals:
     void handled();
