@@ -199,9 +199,8 @@ QVBoxLayout* LibManagerDialog::makeSource() {
     connect(cmbSourceLibrary_, &QComboBox::activated, this, [this] {
         form_.cmbSourceLibrary.Text = fromQString(cmbSourceLibrary_->currentText());
     });
-    cmdOpen_ = makeButton("cmdOpen", form_.cmdOpen, [this] {
-        cmdOpen_Click(form_, program_.usersymbols, program_.editor);
-    });
+    cmdOpen_ = makeButton("cmdOpen", form_.cmdOpen,
+                          [this] { cmdOpen_Click(form_, program_.usersymbols, program_.editor); });
     auto* const choice = new QHBoxLayout;
     choice->setSpacing(Space);
     choice->addWidget(cmbSourceLibrary_, 1);
