@@ -8,7 +8,8 @@ need "${build_packages[@]}" "${test_packages[@]}"
 configure release
 names=("$@")
 [[ $# -gt 0 ]] ||
-    names=(RedrawBench RecordBench FileBench PointerBench EditBench UserSymbolBench PrintBench
+    names=(RedrawBench RecordBench FileBench PointerBench EditBench UserSymbolBench SearchBench
+        PrintBench
         StartBench)
 build release "${names[@]/#/bench_}"
 status=0

@@ -1,6 +1,5 @@
 #include "qt/UserPaletteWidget.h"
 
-#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPaintEvent>

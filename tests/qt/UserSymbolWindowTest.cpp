@@ -1,0 +1,215 @@
+// A user's symbols from the selection on the page to the search after a restart, through the real
+// window and its dialogs.
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMouseEvent>
+#include <QPushButton>
+
+#include "Driving.h"
+#include "app/CommandTable.h"
+#include "app/Startup.h"
+#include "qt/ColorPanel.h"
+#include "qt/LibManagerDialog.h"
+#include "qt/MainWindow.h"
+#include "qt/QtImages.h"
+#include "qt/SymbolDialogs.h"
+#include "qt/Theme.h"
+#include "support/FakePlatform.h"
+
+namespace ladrix {
+namespace {
+
+using test::named;
+using test::settle;
+
+void sendMouse(QWidget& widget, QEvent::Type type, QPointF at, Qt::MouseButton button,
+               Qt::MouseButtons held) {
+    QMouseEvent event(type, at, widget.mapToGlobal(at), button, held, Qt::NoModifier);
+    QCoreApplication::sendEvent(&widget, &event);
+    settle();
+}
+
+void click(QWidget& widget, QPointF at) {
+    sendMouse(widget, QEvent::MouseMove, at, Qt::NoButton, Qt::NoButton);
+    sendMouse(widget, QEvent::MouseButtonPress, at, Qt::LeftButton, Qt::LeftButton);
+    sendMouse(widget, QEvent::MouseButtonRelease, at, Qt::LeftButton, Qt::NoButton);
+}
+
+struct UserSymbolWindowTest : testing::Test {
+    test::FakePlatform machine;
+    QtFonts fonts;
+    QtImages images;
+    QtCanvas canvas;
+    std::unique_ptr<Program> program;
+    std::unique_ptr<MainWindow> window;
+
+    void SetUp() override {
+        theme::apply(*qApp);
+        machine.platform.picLX = &canvas;
+        machine.platform.fonts = &fonts;
+        machine.platform.images = &images;
+        start();
+    }
+    void start() {
+        window.reset();
+        program = std::make_unique<Program>(machine.platform);
+        canvas.showPageOf(program->editor);
+        ASSERT_TRUE(startProgram(*program));
+        window = std::make_unique<MainWindow>(*program, canvas);
+        window->resize(1240, 900);
+        window->show();
+        settle();
+    }
+    void run(Menu entry) {
+        runCommand(*program, entry);
+        window->refresh();
+        settle();
+    }
+    SymbolButtons& buttons() { return window->userPalette().buttons(); }
+    QStringList names() {
+        QStringList list;
+        for (const SymbolButton& button : buttons().buttons())
+            list << button.tip;
+        return list;
+    }
+    void clickPage(Single x, Single y) { click(window->canvas(), window->canvas().pixelOf(x, y)); }
+    void draw(Short tool, std::initializer_list<std::pair<Single, Single>> points) {
+        click(window->palette(), window->palette().buttonRect(tool).center());
+        for (const auto& [x, y] : points)
+            clickPage(x, y);
+        run(Menu::mnuOptionReset);
+    }
+
+    // All that is drawn becomes a symbol with its insertion point at (2, 2).
+    void capture(const QString& name) {
+        run(Menu::mnuEditSelectAll);
+        machine.dialogs.duringForm = [&](Form form) {
+            if (form == Form::frmButtonColor)
+                test::drive<ButtonColorDialog>(*program, [](ButtonColorDialog& dialog) {
+                    named<ColorSwatch>(dialog, "cmdColor10").click();
+                    named<QPushButton>(dialog, "cmdOK").click();
+                });
+            if (form == Form::frmUS)
+                test::drive<SaveSymbolDialog>(*program, [&](SaveSymbolDialog& dialog) {
+                    named<QLineEdit>(dialog, "txtSymbolName").setText(name);
+                    test::press(Qt::Key_Return);
+                });
+        };
+        run(Menu::mnuEditSaveUserSymbol);
+        clickPage(2, 2);
+        run(Menu::mnuOptionReset);
+    }
+    void drag(int from, int to) {
+        const QPointF start = buttons().rectOf(from).center(), end = buttons().rectOf(to).center();
+        sendMouse(buttons(), QEvent::MouseButtonPress, start, Qt::LeftButton, Qt::LeftButton);
+        sendMouse(buttons(), QEvent::MouseMove, (start + end) / 2, Qt::NoButton, Qt::LeftButton);
+        sendMouse(buttons(), QEvent::MouseMove, end, Qt::NoButton, Qt::LeftButton);
+        sendMouse(buttons(), QEvent::MouseButtonRelease, end, Qt::LeftButton, Qt::NoButton);
+    }
+    void moveToNewLibrary(int symbol) {
+        machine.dialogs.inputAnswers = {"Second"};
+        machine.dialogs.duringForm = [&, symbol](Form) {
+            test::drive<LibManagerDialog>(*program, [&](LibManagerDialog& dialog) {
+                named<QAction>(dialog, "mnuFileNew").trigger();
+                auto& shown = named<SymbolButtons>(dialog, "picSymbols");
+                click(shown, shown.rectOf(symbol).center());
+                named<QListWidget>(dialog, "lstDestinationLibrary").setCurrentRow(0);
+                named<QPushButton>(dialog, "cmdMove").click();
+            });
+        };
+        run(Menu::mnuLibManageUserLibraries);
+    }
+    void find(const QString& text) {
+        run(Menu::mnuLibFind);
+        window->openFind();
+        auto& field = named<QLineEdit>(*window, "txtFind");
+        field.setText(text);
+        emit field.textEdited(text);
+        QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+        QCoreApplication::sendEvent(&field, &enter);
+        settle();
+    }
+    std::string toolTag() {
+        const Short tool = program->editor.CurrentTool;
+        return tool < 0 ? "" : program->editor.form.cmdSym[static_cast<std::size_t>(tool)].Tag;
+    }
+};
+
+TEST_F(UserSymbolWindowTest, CapturedPlacedArrangedTransferredAndFoundAfterARestart) {
+    const int pageWidth = window->canvas().width();
+    EXPECT_FALSE(window->userPalette().isVisible());
+    constexpr Short Line = 3, LargeCircle = 9;
+    draw(Line, {{2, 2}, {3, 2}});
+    draw(LargeCircle, {{2.5f, 2.5f}});
+    ASSERT_EQ(program->editor.drawing.devices.DeviceCount, 2);
+    for (const char* name : {"Alpha Pump", "Beta", "Gamma"})
+        capture(name);
+    EXPECT_EQ(names(), (QStringList{"Alpha Pump", "Beta", "Gamma"}));
+    EXPECT_LT(window->canvas().width(), pageWidth) << "one column has come";
+    EXPECT_TRUE(machine.reports.empty());
+
+    click(buttons(), buttons().rectOf(1).center());
+    EXPECT_EQ(toolTag(), "Beta");
+    EXPECT_EQ(buttons().buttons()[1].picture, program->usersymbols.UserSymbolCyanPicture[1]);
+    clickPage(5, 5);
+    const DeviceTable& devices = program->editor.drawing.devices;
+    ASSERT_EQ(devices.DeviceCount, 4);
+    EXPECT_EQ(devices.DeviceX[2], 5);
+    EXPECT_EQ(devices.DeviceX2[2], 6);
+
+    run(Menu::mnuLibManageOrder);
+    drag(0, 2);
+    EXPECT_EQ(names(), (QStringList{"Beta", "Gamma", "Alpha Pump"}));
+    named<QPushButton>(*window, "cmdSaveSymbolOrder").click();
+    moveToNewLibrary(2);
+    EXPECT_EQ(names(), (QStringList{"Beta", "Gamma"}));
+
+    program->editor.drawing.DrawingChanged = false;
+    start();
+    EXPECT_EQ(names(), (QStringList{"Beta", "Gamma"}));
+    find("pump al");
+    EXPECT_EQ(toolTag(), "Alpha Pump");
+    EXPECT_EQ(program->usersymbols.LibraryFile, "Second Symbols.lib");
+    EXPECT_EQ(names(), QStringList{"Alpha Pump"});
+    find("gam");
+    EXPECT_EQ(toolTag(), "Gamma");
+    find("zener");
+    EXPECT_EQ(toolTag(), "Zener Diode");
+    EXPECT_FALSE(window->palette().buttonRect(program->editor.CurrentTool).isEmpty());
+}
+
+TEST_F(UserSymbolWindowTest, ColumnsLeaveThePageItsRoomAndEverySymbolCanBeReached) {
+    std::string list;
+    const auto picture = images.makePicture(25, 25);
+    const std::string bitmap = images.bitmapText(*picture->Image());
+    for (int i = 0; i < 60; ++i) {
+        const std::string name = "S" + std::to_string(100 + i);
+        for (const char* ending : {".bmp", "_Cyan.bmp"})
+            machine.folder.write("documents/Ladrix/User Symbols/" + name + ending, bitmap);
+        machine.folder.write("documents/Ladrix/User Symbols/" + name + ".uds", "");
+        list += name + "\r\n";
+    }
+    machine.folder.write("documents/Ladrix/User Symbols.lib", list);
+    start();
+    struct {
+        int width, height, columns;
+    } const sizes[] = {{1000, 560, 1}, {1240, 900, 3}, {1900, 1000, 3}};
+    for (const auto& size : sizes) {
+        SCOPED_TRACE(size.width);
+        window->resize(size.width, size.height);
+        settle();
+        EXPECT_EQ(window->userPalette().columnsInView(), size.columns);
+        if (size.columns > 1) EXPECT_GE(window->canvas().width(), 8.5 * 96);
+        for (const Short button : {Short{92 + 59}, Short{92}, Short{92 + 21}}) {
+            window->userPalette().reveal(button);
+            window->refresh();
+            EXPECT_FALSE(buttons().rectOf(button - 92).isEmpty()) << button;
+        }
+    }
+}
+
+}  // namespace
+}  // namespace ladrix
