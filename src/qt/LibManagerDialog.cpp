@@ -387,13 +387,20 @@ void LibManagerDialog::showSymbols() {
             picCurrent_->setPixmap(QPixmap::fromImage(picture->image()));
     if (buttonVersion_ == form_.ButtonVersion) return;
     buttonVersion_ = form_.ButtonVersion;
-    HScroll1_->setRange(0, form_.HScroll1.Max);
     HScroll1_->setValue(form_.HScroll1.Value);
-    HScroll1_->setEnabled(form_.HScroll1.Max > 0);
+    placeColumns();
+}
+
+void LibManagerDialog::resizeEvent(QResizeEvent* event) {
+    QDialog::resizeEvent(event);
+    layout()->activate();
     placeColumns();
 }
 
 void LibManagerDialog::placeColumns() {
+    const int inView = std::max(1, picMain_->viewport()->width() / SymbolButtons::Cell);
+    HScroll1_->setRange(0, std::max(0, form_.HScroll1.Max + 1 - inView));
+    HScroll1_->setEnabled(HScroll1_->maximum() > 0);
     const Single size = program_.usersymbols.UserButtonSize;
     const auto steps = [size](Single distance) {
         return static_cast<int>(std::lround(distance / size));

@@ -32,6 +32,7 @@ class LibManagerDialog final : public QDialog {
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
   private:
     QMenuBar* makeMenus();

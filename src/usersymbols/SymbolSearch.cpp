@@ -121,12 +121,20 @@ int rankOf(const SearchEntry& entry, const std::vector<std::string>& words) {
     return rank == 1 && leads ? 0 : rank;
 }
 
-void pressBuiltIn(const SearchEntry& entry, Editor& editor) {
-    if (entry.Palette != editor.OpenLibrary) paletteOf(entry.Palette).open(editor);
+bool pressInOpenPalette(const SearchEntry& entry, Editor& editor) {
     for (Short i = 0; i <= BuiltInButtonCount; ++i) {
         const PaletteButton& button = editor.form.cmdSym[static_cast<std::size_t>(i)];
-        if (button.Visible && button.Tag == entry.Name) return cmdSym_Click(editor, i);
+        if (!button.Visible || button.Tag != entry.Name) continue;
+        cmdSym_Click(editor, i);
+        return true;
     }
+    return false;
+}
+
+void pressBuiltIn(const SearchEntry& entry, Editor& editor) {
+    if (pressInOpenPalette(entry, editor)) return;
+    paletteOf(entry.Palette).open(editor);
+    pressInOpenPalette(entry, editor);
 }
 
 void pressUsers(const SearchEntry& entry, UserSymbols& symbols, Editor& editor) {

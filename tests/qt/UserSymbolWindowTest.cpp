@@ -202,7 +202,9 @@ TEST_F(UserSymbolWindowTest, ColumnsLeaveThePageItsRoomAndEverySymbolCanBeReache
         window->resize(size.width, size.height);
         settle();
         EXPECT_EQ(window->userPalette().columnsInView(), size.columns);
-        if (size.columns > 1) EXPECT_GE(window->canvas().width(), 8.5 * 96);
+        if (size.columns > 1) {
+            EXPECT_GE(window->canvas().width(), 8.5 * 96);
+        }
         for (const Short button : {Short{92 + 59}, Short{92}, Short{92 + 21}}) {
             window->userPalette().reveal(button);
             window->refresh();

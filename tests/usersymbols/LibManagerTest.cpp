@@ -87,7 +87,7 @@ TEST_F(LibManagerTest, TransfersAskForEachSymbolOfTheSameName) {
         EXPECT_EQ(list("User Symbols"), c.source);
         EXPECT_EQ(list("Other Symbols"), c.destination);
         EXPECT_EQ(script("Other Symbols/B"),
-                  std::string("Line:0:0:0.5:0 of ") + c.scriptOfB + " Symbols");
+                  std::string("Line:0:0:0.5:0 of ") + c.scriptOfB + " Symbols\r\n");
         EXPECT_EQ(lastBox(), c.told);
         EXPECT_EQ(disk.read("documents/Other Symbols/Other Symbols.lib"),
                   disk.read("documents/Other Symbols.lib"))

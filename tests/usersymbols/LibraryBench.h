@@ -34,7 +34,7 @@ struct LibraryBench : testing::Test {
         disk.makeFolder("documents/" + library);
         for (const std::string& name : names) {
             const std::string path = "documents/" + library + "/" + name;
-            disk.write(path + ".uds", "Line:0:0:0.5:0 of " + library);
+            disk.write(path + ".uds", "Line:0:0:0.5:0 of " + library + "\r\n");
             disk.write(path + ".bmp", "BM " + library + name);
             disk.write(path + "_Cyan.bmp", "BM cyan " + library + name);
             list += name + "\r\n";
