@@ -7,6 +7,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
+#include <QStyle>
 #include <cmath>
 
 #include "app/FailureLog.h"
@@ -55,8 +56,11 @@ void PreviewPage::showAt(int percent, QSize room) {
     }
     if (scale != pixelsPerInch_) image_ = {};
     pixelsPerInch_ = scale;
-    const QSize page = (area_.paper * scale).toSize();
-    setFixedSize((page + QSize(2 * Desk, 2 * Desk)).expandedTo(room));
+    const QSize needed = (area_.paper * scale).toSize() + QSize(2 * Desk, 2 * Desk);
+    const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    if (needed.height() > room.height()) room.rwidth() -= bar;
+    if (needed.width() > room.width()) room.rheight() -= bar;
+    setFixedSize(needed.expandedTo(room));
     update();
 }
 
