@@ -70,6 +70,13 @@ TEST_F(LibManagerTest, TransfersAskForEachSymbolOfTheSameName) {
         {"copy, yes", false, {Answer::Yes}, "A B C", "D A B C", "User", "Action Complete."},
         {"copy, no", false, {Answer::No}, "A B C", "B D A C", "Other", "Action Complete."},
         {"copy, cancel", false, {Answer::Cancel}, "A B C", "B D A", "Other", "Action Complete."},
+        {"move, cancel: what was not copied is removed too",
+         true,
+         {Answer::Cancel},
+         "",
+         "B D A",
+         "Other",
+         "Action Completed."},
         {"move, yes", true, {Answer::Yes}, "", "D A B C", "User", "Action Completed."},
     };
     for (const TransferCase& c : cases) {
