@@ -3,6 +3,7 @@
 #include <QBuffer>
 #include <QFileInfo>
 #include <QImageReader>
+#include <QtEndian>
 
 #include "qt/MetafilePicture.h"
 #include "qt/QtPictureBox.h"
@@ -17,6 +18,34 @@ constexpr int LargestImageMegabytes = 800;  // at 8 bytes a pixel
 void requireAtMostLargestImage(const QSize& size, const std::string& path) {
     if (qint64{size.width()} * size.height() > LargestImage)
         throw Failure{failure::InvalidProperty, path + ": larger than 100 million pixels"};
+}
+
+template <class Value>
+Value littleEndianAt(std::string_view bytes, std::size_t place) {
+    return qFromLittleEndian<Value>(bytes.data() + place);
+}
+
+// A Windows bitmap of 24-bit pixels without compression, as icons are saved: its rows stand in the
+// file from the lowest up, each filled to four bytes. A library has hundreds of them, so they are
+// taken as they are. Null for any other form, which the toolkit reads.
+QImage plainBitmap(std::string_view bytes) {
+    constexpr std::size_t Headers = 54;
+    constexpr quint32 InfoHeader = 40;
+    if (bytes.size() < Headers || !bytes.starts_with("BM")) return {};
+    const auto pixels = littleEndianAt<quint32>(bytes, 10);
+    const auto width = littleEndianAt<qint32>(bytes, 18);
+    const auto height = littleEndianAt<qint32>(bytes, 22);
+    const bool plain = littleEndianAt<quint32>(bytes, 14) == InfoHeader &&
+                       littleEndianAt<quint16>(bytes, 28) == 24 &&
+                       littleEndianAt<quint32>(bytes, 30) == 0;
+    if (!plain || width < 1 || height < 1 || qint64{width} * height > LargestBitmap) return {};
+    const qsizetype row = (qsizetype{width} * 3 + 3) / 4 * 4;
+    if (pixels < Headers || pixels > bytes.size() ||
+        static_cast<qsizetype>(bytes.size() - pixels) < row * height)
+        return {};
+    const QImage upsideDown(reinterpret_cast<const uchar*>(bytes.data()) + pixels, width, height,
+                            row, QImage::Format_BGR888);
+    return upsideDown.mirrored().convertToFormat(QImage::Format_RGB32);
 }
 
 }  // namespace
@@ -51,6 +80,8 @@ std::shared_ptr<const Picture> QtImages::load(const std::string& path) {
 }
 
 std::shared_ptr<const Picture> QtImages::fromBitmap(std::string_view bytes) {
+    if (QImage plain = plainBitmap(bytes); !plain.isNull())
+        return std::make_shared<QtPicture>(std::move(plain));
     const QByteArray data =
         QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size()));
     QBuffer buffer;

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QBuffer>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QKeyEvent>
@@ -123,6 +124,33 @@ TEST(Dialogs, AnUnattendedRunNeverWaits) {
     EXPECT_EQ(dialogs.message("Save?", "Title", Buttons::YesNoCancel), Answer::Cancel);
     EXPECT_EQ(dialogs.input("Name", "Title", "x"), std::nullopt);
     EXPECT_TRUE(dialogs.refused);
+}
+
+QImage imageOf(const std::shared_ptr<const Picture>& picture) {
+    return dynamic_cast<const QtPicture&>(*picture).image();
+}
+
+// The own reading of the plain form and the toolkit's of the others see the same pixels.
+TEST(Bitmaps, OfEveryFormAndWidthKeepTheirPixels) {
+    QtImages images;
+    for (const int width : {1, 2, 3, 4, 25}) {
+        QImage drawn(width, 3, QImage::Format_RGB32);
+        for (int i = 0; i < width * 3; ++i)
+            drawn.setPixel(i % width, i / width, qRgb(10 * i, 200 - 5 * i, i % 2 ? 255 : 0));
+        std::string plain = images.bitmapText(QtPicture(drawn));
+        EXPECT_EQ(imageOf(images.fromBitmap(plain)), drawn) << width;
+        for (std::size_t length = 0; length < 54; ++length)  // within its headers
+            EXPECT_THROW(images.fromBitmap(plain.substr(0, length)), Failure) << length;
+        const std::string cut = plain.substr(0, plain.size() - 1);
+        EXPECT_EQ(imageOf(images.fromBitmap(cut)).size(), drawn.size()) << "what there is of it";
+        QByteArray indexed;
+        QBuffer buffer(&indexed);
+        drawn.convertToFormat(QImage::Format_Mono).save(&buffer, "BMP");
+        const QImage read = imageOf(images.fromBitmap(indexed.toStdString()));
+        EXPECT_EQ(read.size(), drawn.size());
+        plain.replace(22, 4, "\xff\xff\xff\x7f");  // a height far beyond the file
+        EXPECT_THROW(images.fromBitmap(plain), Failure);
+    }
 }
 
 TEST(Shell, LetsOnlyOneInstanceRun) {
