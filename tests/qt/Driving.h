@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QKeyEvent>
 #include <QThread>
 #include <QTimer>
@@ -26,6 +27,19 @@ inline void ensureApplication() {
 inline void settle() {
     for (int i = 0; i < 5; ++i)
         QCoreApplication::processEvents();
+}
+
+// A window manager takes its time, and may give a window its size in more than one step: it is at
+// rest when several looks in a row find it the same.
+inline void resizeAndWait(QWidget& window, const QSize& size) {
+    window.resize(size);
+    QElapsedTimer clock;
+    clock.start();
+    for (int same = 0; same < 5 && clock.elapsed() < 5000;) {
+        QThread::msleep(10);
+        settle();
+        same = window.size() == size ? same + 1 : 0;
+    }
 }
 
 inline void press(int key, const QString& text = {}, Qt::KeyboardModifiers modifiers = {}) {

@@ -199,8 +199,7 @@ TEST_F(UserSymbolWindowTest, ColumnsLeaveThePageItsRoomAndEverySymbolCanBeReache
     } const sizes[] = {{1000, 560, 1}, {1240, 900, 3}, {1900, 1000, 3}};
     for (const auto& size : sizes) {
         SCOPED_TRACE(size.width);
-        window->resize(size.width, size.height);
-        settle();
+        test::resizeAndWait(*window, {size.width, size.height});
         EXPECT_EQ(window->userPalette().columnsInView(), size.columns);
         if (size.columns > 1) {
             EXPECT_GE(window->canvas().width(), 8.5 * 96);
