@@ -11,8 +11,8 @@
 #include <QPushButton>
 #include <QTimer>
 
+#include "ProgramOnQt.h"
 #include "app/HelpContexts.h"
-#include "app/Startup.h"
 #include "help/HelpCommands.h"
 #include "help/HelpFile.h"
 #include "qt/HelpText.h"
@@ -20,7 +20,6 @@
 #include "qt/QtCanvas.h"
 #include "qt/QtFonts.h"
 #include "qt/Theme.h"
-#include "support/FakePlatform.h"
 
 namespace ladrix {
 namespace {
@@ -37,15 +36,10 @@ void press(QWidget& widget, int key, const QString& text = {},
     settle();
 }
 
-class HelpWindowTest : public testing::Test {
+class HelpWindowTest : public test::ProgramOnQt {
   protected:
     void SetUp() override {
-        theme::apply(*qApp);
-        machine.platform.picLX = &canvas;
-        machine.platform.fonts = &fonts;
-        program = std::make_unique<Program>(machine.platform);
-        canvas.showPageOf(program->editor);
-        ASSERT_TRUE(startProgram(*program));
+        ASSERT_NO_FATAL_FAILURE(startAnew());
         const std::vector<HelpTopic> topics = {
             {"1.1 Welcome to Ladrix", "HEADING\r\nSome text.\r\n\r\nCtrl+N\tNew"},
             {"2.7 Text", "A text that says text."},
@@ -77,10 +71,6 @@ class HelpWindowTest : public testing::Test {
     }
     HelpForm& help() { return program->frmHelp; }
 
-    test::FakePlatform machine;
-    QtFonts fonts;
-    QtCanvas canvas;
-    std::unique_ptr<Program> program;
     std::unique_ptr<LocalHelp> local;
 };
 

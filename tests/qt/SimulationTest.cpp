@@ -8,24 +8,18 @@
 #include <QMouseEvent>
 #include <QToolButton>
 
-#include "app/Startup.h"
+#include "ProgramOnQt.h"
 #include "qt/MainWindow.h"
 #include "qt/QtText.h"
 #include "qt/Theme.h"
-#include "support/FakePlatform.h"
 
 namespace ladrix {
 namespace {
 
-class SimulationWindow : public testing::Test {
+class SimulationWindow : public test::ProgramOnQt {
   protected:
     void SetUp() override {
-        theme::apply(*qApp);
-        machine.platform.picLX = &canvas;
-        machine.platform.fonts = &fonts;
-        program = std::make_unique<Program>(machine.platform);
-        canvas.showPageOf(program->editor);
-        ASSERT_TRUE(startProgram(*program));
+        ASSERT_NO_FATAL_FAILURE(startAnew());
         program->editor.AppFilePath = LADRIX_DATA "/";
         window = std::make_unique<MainWindow>(*program, canvas);
         window->resize(1024, 720);
@@ -68,10 +62,6 @@ class SimulationWindow : public testing::Test {
     bool relayIsLit() { return shownAt(6.25, 0.7) == theme::color(RGB(255, 212, 96)); }
     bool lampIsLit() { return shownAt(6.25, 4.13) == theme::color(RGB(255, 212, 96)); }
 
-    test::FakePlatform machine;
-    QtFonts fonts;
-    QtCanvas canvas;
-    std::unique_ptr<Program> program;
     std::unique_ptr<MainWindow> window;
 };
 

@@ -9,16 +9,17 @@
 #include <QComboBox>
 #include <QLineEdit>
 
-#include "app/Startup.h"
+#include "ProgramOnQt.h"
 #include "canvas/Tools.h"
 #include "qt/DescriptionDialog.h"
 #include "qt/FavoritesDialog.h"
 #include "qt/FileDialog.h"
+#include "qt/LayoutDialog.h"
 #include "qt/LogDialog.h"
 #include "qt/MainWindow.h"
-#include "qt/QtFonts.h"
+#include "qt/PreviewDialog.h"
+#include "qt/SymbolDialogs.h"
 #include "qt/TextPropsDialog.h"
-#include "support/FakePlatform.h"
 
 namespace ladrix {
 namespace {
@@ -52,19 +53,8 @@ QStringList faultsOf(const QWidget& window) {
     return faults;
 }
 
-struct TipsTest : testing::Test {
-    test::FakePlatform machine;
-    QtFonts fonts;
-    QtCanvas canvas;
-    std::unique_ptr<Program> program;
-
-    void SetUp() override {
-        machine.platform.picLX = &canvas;
-        machine.platform.fonts = &fonts;
-        program = std::make_unique<Program>(machine.platform);
-        canvas.showPageOf(program->editor);
-        ASSERT_TRUE(startProgram(*program));
-    }
+struct TipsTest : test::ProgramOnQt {
+    void SetUp() override { startAnew(); }
 };
 
 TEST_F(TipsTest, EveryControlOfTheMainWindowTellsWhatItDoes) {
@@ -92,6 +82,10 @@ TEST_F(TipsTest, EveryControlOfADialogTellsWhatItDoes) {
     EXPECT_EQ(faultsOfDialog<LogDialog>(*program), "");
     EXPECT_EQ(faultsOfDialog<TextPropsDialog>(*program), "");
     EXPECT_EQ(faultsOfDialog<FavoritesDialog>(*program), "");
+    frmLayout_Load(program->frmLayout, program->editor);
+    EXPECT_EQ(faultsOfDialog<LayoutDialog>(*program), "");
+    EXPECT_EQ(faultsOfDialog<PreviewDialog>(*program), "");
+    EXPECT_EQ(faultsOfDialog<PaletteRowsDialog>(*program), "");
 }
 
 }  // namespace

@@ -9,15 +9,14 @@
 #include <QPushButton>
 
 #include "Driving.h"
+#include "ProgramOnQt.h"
 #include "app/CommandTable.h"
-#include "app/Startup.h"
 #include "qt/ColorPanel.h"
 #include "qt/LibManagerDialog.h"
 #include "qt/MainWindow.h"
 #include "qt/QtImages.h"
 #include "qt/SymbolDialogs.h"
 #include "qt/Theme.h"
-#include "support/FakePlatform.h"
 
 namespace ladrix {
 namespace {
@@ -38,26 +37,17 @@ void click(QWidget& widget, QPointF at) {
     sendMouse(widget, QEvent::MouseButtonRelease, at, Qt::LeftButton, Qt::NoButton);
 }
 
-struct UserSymbolWindowTest : testing::Test {
-    test::FakePlatform machine;
-    QtFonts fonts;
+struct UserSymbolWindowTest : test::ProgramOnQt {
     QtImages images;
-    QtCanvas canvas;
-    std::unique_ptr<Program> program;
     std::unique_ptr<MainWindow> window;
 
     void SetUp() override {
-        theme::apply(*qApp);
-        machine.platform.picLX = &canvas;
-        machine.platform.fonts = &fonts;
         machine.platform.images = &images;
         start();
     }
     void start() {
         window.reset();
-        program = std::make_unique<Program>(machine.platform);
-        canvas.showPageOf(program->editor);
-        ASSERT_TRUE(startProgram(*program));
+        ASSERT_NO_FATAL_FAILURE(startAnew());
         window = std::make_unique<MainWindow>(*program, canvas);
         window->resize(1240, 900);
         window->show();

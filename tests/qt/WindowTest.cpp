@@ -16,7 +16,7 @@
 #include <QToolButton>
 #include <QWheelEvent>
 
-#include "app/Startup.h"
+#include "ProgramOnQt.h"
 #include "canvas/DrawingCommands.h"
 #include "canvas/Keys.h"
 #include "canvas/View.h"
@@ -24,7 +24,6 @@
 #include "qt/MainWindow.h"
 #include "qt/QtText.h"
 #include "qt/Theme.h"
-#include "support/FakePlatform.h"
 
 namespace ladrix {
 namespace {
@@ -61,15 +60,10 @@ void press(QWidget& widget, int key, const QString& text = {},
     settle();
 }
 
-class WindowTest : public testing::Test {
+class WindowTest : public test::ProgramOnQt {
   protected:
     void SetUp() override {
-        theme::apply(*qApp);
-        machine.platform.picLX = &canvas;
-        machine.platform.fonts = &fonts;
-        program = std::make_unique<Program>(machine.platform);
-        canvas.showPageOf(program->editor);
-        ASSERT_TRUE(startProgram(*program));
+        ASSERT_NO_FATAL_FAILURE(startAnew());
         window = std::make_unique<MainWindow>(*program, canvas);
         open(1240, 900);
     }
@@ -129,10 +123,6 @@ class WindowTest : public testing::Test {
         return window->canvas().grab().toImage().pixelColor(at(x, y).toPoint());
     }
 
-    test::FakePlatform machine;
-    QtFonts fonts;
-    QtCanvas canvas;
-    std::unique_ptr<Program> program;
     std::unique_ptr<MainWindow> window;
 };
 
