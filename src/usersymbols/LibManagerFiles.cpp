@@ -11,9 +11,6 @@ namespace ladrix {
 
 namespace {
 
-constexpr std::string_view FolderIsThere = "Symbol Folder Already Exists - Cannot Overwrite";
-constexpr std::string_view FileIsThere = "Symbol File Already Exists - Cannot Overwrite";
-
 LibraryPlace sourceOf(const LibManager& manager) {
     return {manager.ManagerParentFolder, manager.ManagerSourceName};
 }
@@ -133,19 +130,6 @@ void transferSelectedSymbols(LibManager& manager, Editor& editor) {
     if (std::exchange(manager.ManagerCopying, false)) editor.platform.tell("Action Complete.");
 }
 
-bool nameIsFree(const Editor& editor, const LibraryPlace& library) {
-    Files& files = *editor.platform.files;
-    if (FolderExists(files, library.Folder, library.Name)) {
-        editor.platform.tell(FolderIsThere);
-        return false;
-    }
-    if (FileExists(files, library.Folder, library.file())) {
-        editor.platform.tell(FileIsThere);
-        return false;
-    }
-    return true;
-}
-
 void relist(LibManager& manager, UserSymbols& symbols, Editor& editor) {
     ListUserLibraries(symbols, editor);
     listManagerLibraries(manager, symbols);
@@ -218,17 +202,11 @@ void cmdMove_Click(LibManager& manager, UserSymbols& symbols, Editor& editor) {
 }
 
 void mnuFileNew_Click(LibManager& manager, UserSymbols& symbols, Editor& editor) {
-    const Platform& platform = editor.platform;
-    const auto answer =
-        platform.dialogs->input("Please enter a name for the User Library in the box provided.",
-                                "Adding New User Library", "");
-    if (!answer || answer->empty() || !acceptedAsFileName(platform, *answer)) return;
     guarded(editor, "New User Library", [&] {
-        const LibraryPlace library{editor.BasePath, *answer + std::string(LibrarySuffix)};
-        if (!nameIsFree(editor, library)) return;
-        createLibrary(*platform.files, library);
+        const auto library = makeLibraryByName(editor);
+        if (!library) return;
         relist(manager, symbols, editor);
-        platform.tell(library.Name + " has been successfully created.");
+        editor.platform.tell(library->Name + " has been successfully created.");
     });
 }
 

@@ -58,6 +58,12 @@ void SaveUserSymbol(UserSymbols& symbols, Editor& editor, const std::string& nam
 // True if the name can be a file's; else tells why under "Illegal Filename".
 bool acceptedAsFileName(const Platform& platform, std::string_view name);
 
+// False if a library of this name, or half of one, is there; tells which.
+bool nameIsFree(const Editor& editor, const LibraryPlace& library);
+// Asks for a name and makes an empty library of it in the data folder. nullopt if the user gives up
+// or the name cannot be had, which is told. Throws a Failure.
+std::optional<LibraryPlace> makeLibraryByName(Editor& editor);
+
 // --- Commands
 
 void OpenUserLibrary(UserSymbols& symbols, Editor& editor, const std::string& folder,

@@ -196,23 +196,41 @@ void MergeUserLibrary(UserSymbols& symbols, Editor& editor, const std::string& f
     });
 }
 
-void NewUserLibrary(UserSymbols& symbols, Editor& editor) {
+bool nameIsFree(const Editor& editor, const LibraryPlace& library) {
+    Files& files = *editor.platform.files;
+    if (FolderExists(files, library.Folder, library.Name)) {
+        editor.platform.tell("Symbol Folder Already Exists - Cannot Overwrite");
+        return false;
+    }
+    if (FileExists(files, library.Folder, library.file())) {
+        editor.platform.tell("Symbol File Already Exists - Cannot Overwrite");
+        return false;
+    }
+    return true;
+}
+
+std::optional<LibraryPlace> makeLibraryByName(Editor& editor) {
     const Platform& platform = editor.platform;
     const auto answer =
         platform.dialogs->input("Please enter a name for the User Library in the box provided.",
                                 "Adding New User Library", "");
-    if (!answer || answer->empty() || !acceptedAsFileName(platform, *answer)) return;
+    if (!answer || answer->empty() || !acceptedAsFileName(platform, *answer)) return std::nullopt;
+    LibraryPlace library{editor.BasePath, *answer + std::string(LibrarySuffix)};
+    if (!nameIsFree(editor, library)) return std::nullopt;
+    createLibrary(*platform.files, library);
+    return library;
+}
+
+void NewUserLibrary(UserSymbols& symbols, Editor& editor) {
     guarded(editor, "New User Library", [&] {
-        const LibraryPlace library{editor.BasePath, *answer + std::string(LibrarySuffix)};
-        if (FolderExists(*platform.files, library.Folder, library.Name))
-            return platform.tell("Symbol Folder Already Exists - Cannot Overwrite");
-        createLibrary(*platform.files, library);
+        const auto library = makeLibraryByName(editor);
+        if (!library) return;
         resetTool(editor);
-        selectLibrary(symbols, editor, library.Folder, library.file());
+        selectLibrary(symbols, editor, library->Folder, library->file());
         symbols.UserSymbolCount = 0;
         ReloadLibrary(symbols, editor);
         ListUserLibraries(symbols, editor);
-        platform.tell(library.Name + " has been successfully created.");
+        editor.platform.tell(library->Name + " has been successfully created.");
     });
 }
 

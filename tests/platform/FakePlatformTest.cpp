@@ -8,19 +8,6 @@
 namespace ladrix::test {
 namespace {
 
-TEST(FakePlatform, QueuedAnswersGoToQuestionsOnlyAndMustFitThem) {
-    FakePlatform fake;
-    fake.dialogs.answers = {Answer::Yes, Answer::Ok};
-    fake.platform.tell("Saved.");
-    EXPECT_EQ(fake.platform.dialogs->message("Save?", "Ladrix", Buttons::YesNoCancel), Answer::Yes);
-    EXPECT_THROW(fake.platform.dialogs->message("Sure?", "Ladrix", Buttons::YesNo),
-                 std::logic_error);
-    EXPECT_EQ(fake.platform.dialogs->message("Sure?", "Ladrix", Buttons::YesNo), Answer::No);
-    EXPECT_EQ(fake.platform.dialogs->input("Name", "Ladrix", "Demo"), std::nullopt);
-    ASSERT_EQ(fake.dialogs.boxes.size(), 4u);
-    EXPECT_EQ(fake.dialogs.boxes[0], (FakeDialogs::Box{"Saved.", "Ladrix", Buttons::Ok}));
-}
-
 TEST(FakePlatform, TimersExpireInOrderOnceAndMayStartOthers) {
     FakeTimers timers;
     std::string expired;
@@ -39,25 +26,6 @@ TEST(FakePlatform, TimersExpireInOrderOnceAndMayStartOthers) {
     timers.advance(1000);
     EXPECT_EQ(expired, "231");
     EXPECT_FALSE(timers.running(1));
-}
-
-TEST(FakePlatform, ClsWithAutoRedrawOffWipesTheTemporaryLayerAlone) {
-    RecordingCanvas canvas;
-    canvas.DrawWidth = 2;
-    canvas.Line(0, 0, 1, 0.5f, Red, LineForm::Plain);
-    canvas.AutoRedraw = false;
-    canvas.Circle(1, 1, 0.25f, Black, 1);
-    canvas.Cls();
-    ASSERT_EQ(canvas.persistent.size(), 1u);
-    EXPECT_EQ(describe(canvas.persistent[0]), "Line 0,0 1,0.5 color 255 width 2 style 0");
-    EXPECT_TRUE(canvas.temporary.empty());
-    canvas.AutoRedraw = true;
-    canvas.Cls();
-    EXPECT_TRUE(canvas.persistent.empty());
-    canvas.primitivesUntilFailure = 1;
-    canvas.Circle(1, 1, 0.25f, Black, 1);
-    EXPECT_EQ(failureNumber([&] { canvas.Circle(1, 1, 0.25f, Black, 1); }),
-              failure::InvalidProperty);
 }
 
 TEST(FakePlatform, AFaultHitsTheChosenCallAndNoOther) {

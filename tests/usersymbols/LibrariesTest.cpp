@@ -227,7 +227,7 @@ TEST_F(LibrariesTest, LibrariesAreMadeOpenedAndSteppedThrough) {
     EXPECT_EQ(lastBox(), "User library does not exist in " + bench.editor.BasePath);
     writeLibrary(disk, "User Symbols", {"a"});
     load();
-    dialogs.inputAnswers = {"Motor", "Motor"};
+    dialogs.inputAnswers = {"Motor", "Motor", "Lost"};
     NewUserLibrary(symbols, bench.editor);
     EXPECT_EQ(lastBox(), "Motor Symbols has been successfully created.");
     EXPECT_EQ(list("Motor Symbols"), "");
@@ -236,6 +236,10 @@ TEST_F(LibrariesTest, LibrariesAreMadeOpenedAndSteppedThrough) {
               "Ladrix - Current Library: Motor Symbols - File Name: Untitled");
     NewUserLibrary(symbols, bench.editor);
     EXPECT_EQ(lastBox(), "Symbol Folder Already Exists - Cannot Overwrite");
+    disk.write("documents/Lost Symbols.lib", "a\r\n");
+    NewUserLibrary(symbols, bench.editor);
+    EXPECT_EQ(lastBox(), "Symbol File Already Exists - Cannot Overwrite");
+    EXPECT_EQ(list("Lost Symbols"), "a\r\n") << "a list without its folder is not emptied";
     bench.editor.PreviousTool = 95;
     for (const auto& [step, file] : std::vector<std::pair<int, std::string>>{
              {1, "User Symbols.lib"}, {1, "Motor Symbols.lib"}, {-1, "User Symbols.lib"}}) {
