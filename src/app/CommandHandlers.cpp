@@ -102,12 +102,10 @@ void logIn(Program& program) {
 }
 
 void createShortcut(Program& program) {
-    try {
+    program.platform.attempt("Create Shortcut", [&] {
         program.platform.shell->createShortcut();
         program.editor.form.lblMessage.Caption = "Shortcut created on the desktop.";
-    } catch (const Failure& failure) {
-        ReportError(program, "Create Shortcut", failure);
-    }
+    });
 }
 
 }  // namespace ladrix

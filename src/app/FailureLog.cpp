@@ -79,11 +79,9 @@ void mnuAdminViewErrorLog_Click(Program& program) {
     LogViewer& viewer = program.frmLog;
     viewer.Caption = "Error Log";
     viewer.txtLog.clear();
-    try {
+    program.platform.attempt("View Error Log", [&] {
         if (logExists(program)) viewer.txtLog = program.platform.files->read(logPath(program));
-    } catch (const Failure& failure) {
-        ReportError(program, "View Error Log", failure);
-    }
+    });
     viewer.Visible = true;
     program.platform.dialogs->show(Form::frmLog);
 }

@@ -1,6 +1,5 @@
 #include "app/LibraryCommands.h"
 
-#include "app/FailureLog.h"
 #include "canvas/Redraw.h"
 #include "simulation/Simulation.h"
 #include "usersymbols/Compiler.h"
@@ -106,15 +105,13 @@ void offerSampleLibrary(Program& program) {
     const LibraryPlace shipped{paths.AppFilePath, std::string(SampleLibrary)};
     const LibraryPlace own{paths.BasePath, std::string(SampleLibrary)};
     const std::string mark = paths.DataFilesPath + own.file();
-    try {
+    program.platform.attempt("Copying Sample Symbols", [&] {
         if (files.status(mark) || !files.status(shipped.path())) return;
         if (!files.status(own.path()) || !files.status(own.Folder + own.Name))
             copySampleLibrary(files, shipped, own);
         files.copy(shipped.path(), mark);
         ListUserLibraries(program.usersymbols, program.editor);
-    } catch (const Failure& failure) {
-        ReportError(program, "Copying Sample Symbols", failure);
-    }
+    });
 }
 
 }  // namespace ladrix

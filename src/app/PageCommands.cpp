@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "app/FailureLog.h"
 #include "app/Preferences.h"
 #include "output/PageReplay.h"
 #include "output/PrinterForms.h"
@@ -50,7 +49,7 @@ void mnuOptPrinter_Click(Program& program) {
 
 void cmdDefaultPrinter_Click(Program& program) {
     Printing& printing = program.printing;
-    try {
+    program.platform.attempt("Save Default Printer", [&] {
         takeShownPrinter(program.editor, printing);
         const std::string& name = printing.SessionPrinterName;
         const Short number = numberInList(program.platform.printers->list(), name);
@@ -59,9 +58,7 @@ void cmdDefaultPrinter_Click(Program& program) {
         StoreSetting(program, Setting::PrintLineWeight, longText(printing.PrintLineWeight));
         ReadUserPreferences(program);
         printing.frmPrinters.Visible = false;
-    } catch (const Failure& failure) {
-        ReportError(program, "Save Default Printer", failure);
-    }
+    });
 }
 
 void mnuFileSaveBitmap_Click(Program& program) {
@@ -77,7 +74,7 @@ void mnuFileExport_Click(Program& program) {
 
 void exportDrawing(Program& program, const std::string& path) {
     Editor& editor = program.editor;
-    try {
+    program.platform.attempt("Export Drawing", [&] {
         const std::optional<PageFormat> format = pageFormatOf(path);
         if (!format)
             throw Failure{failure::InvalidCall, path + " does not end in .pdf, .svg or .png"};
@@ -87,9 +84,7 @@ void exportDrawing(Program& program, const std::string& path) {
         program.platform.files->replace(path, program.platform.pageFiles->make(page, *format));
         if (!leftOut.empty()) program.platform.tell(leftOut, "Export");
         editor.form.lblMessage.Caption = "Exported as " + path;
-    } catch (const Failure& failure) {
-        ReportError(program, "Export Drawing", failure);
-    }
+    });
 }
 
 }  // namespace ladrix

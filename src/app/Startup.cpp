@@ -52,12 +52,10 @@ void copyDrawings(Program& program, std::string_view extension) {
 }
 
 void firstUseCopy(Program& program) {
-    try {
+    program.platform.attempt("Copying Existing Drawings", [&] {
         copyDrawings(program, ".els");
         copyDrawings(program, ".tpl");
-    } catch (const Failure& failure) {
-        ReportError(program, "Copying Existing Drawings", failure);
-    }
+    });
 }
 
 void makeNewTree(Program& program, bool inDocuments) {

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "app/FailureLog.h"
 #include "app/Preferences.h"
 #include "platform/Numbers.h"
 #include "usersymbols/Libraries.h"
@@ -44,12 +43,10 @@ void frmUBRows_cmdSave_Click(Program& program) {
     const Single rows = std::clamp(*typed, Single{FewestPaletteRows}, Single{MostPaletteRows});
     symbols.PaletteRows = static_cast<Short>(std::lround(rows));
     StoreSetting(program, Setting::PaletteRows, longText(symbols.PaletteRows));
-    try {
+    program.platform.attempt("Number of Displayed Rows", [&] {
         ListUserLibraries(symbols, program.editor);
         ReloadLibrary(symbols, program.editor);
-    } catch (const Failure& failure) {
-        ReportError(program, "Number of Displayed Rows", failure);
-    }
+    });
     symbols.frmUBRows.Visible = false;
 }
 

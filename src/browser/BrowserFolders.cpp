@@ -73,7 +73,7 @@ void enterStartFolder(FileBrowser& browser, Editor& editor) {
 }
 
 void Dir1_Change(FileBrowser& browser, Editor& editor, const std::string& folder) {
-    guarded(editor, "Change Folder " + folder, [&] { enter(browser, editor, folder); });
+    editor.platform.attempt("Change Folder " + folder, [&] { enter(browser, editor, folder); });
 }
 
 void goToParentFolder(FileBrowser& browser, Editor& editor) {
@@ -91,7 +91,7 @@ void goToPath(FileBrowser& browser, Editor& editor, std::string_view typed) {
     const std::string blankless = withoutBlanks(typed);
     if (blankless.empty()) return;
     Files& files = *editor.platform.files;
-    guarded(editor, "Go to Folder", [&] {
+    editor.platform.attempt("Go to Folder", [&] {
         const std::string path = resolvedPath(files, browser.BrowserFolder, blankless);
         const auto status = files.status(path);
         if (!status || status->isFolder) return enter(browser, editor, path);
@@ -129,7 +129,7 @@ void FileList1_ColumnClick(FileBrowser& browser, BrowserOrder order) {
 
 void FileList1_Refresh(FileBrowser& browser, Editor& editor) {
     const std::string marked = markedName(browser);
-    guarded(editor, "Refresh Folder", [&] {
+    editor.platform.attempt("Refresh Folder", [&] {
         Files& files = *editor.platform.files;
         if (!files.status(browser.BrowserFolder)) {
             enterNearest(browser, editor, browser.BrowserFolder);
@@ -152,7 +152,7 @@ void cmbFavorites_Change(FileBrowser& browser, const std::string& folder) {
 void cmdGoFavorite_Click(FileBrowser& browser, Editor& editor) {
     if (browser.cmbFavorites.List.empty()) return;
     const std::string folder = browser.cmbFavorites.Text;
-    guarded(editor, "Go to Favorite Folder", [&] {
+    editor.platform.attempt("Go to Favorite Folder", [&] {
         const auto status = editor.platform.files->status(folder);
         if (status && status->isFolder) return enter(browser, editor, folder);
         editor.platform.tell("The favorite folder could not be found:\r\n" + folder);

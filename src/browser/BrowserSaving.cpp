@@ -95,7 +95,7 @@ void saveDrawing(FileBrowser& browser, Editor& editor, const std::string& name) 
 void makeFolder(FileBrowser& browser, Editor& editor, const std::string& name,
                 std::string_view taken, std::string_view title) {
     if (!isLegalFileName(name)) return tellIllegalName(editor);
-    guarded(editor, "New Folder", [&] {
+    editor.platform.attempt("New Folder", [&] {
         Files& files = *editor.platform.files;
         const std::string& folder = browser.BrowserFolder;
         if (FolderExists(files, folder, name) || FileExists(files, folder, name))
@@ -146,7 +146,7 @@ void cmdSaveAs_Click(FileBrowser& browser, Editor& editor) {
     if (browser.FileBrowserMode == BrowserMode::SavePreferences)
         return savePreferencesCopy(browser, editor, name);
     const bool exporting = browser.FileBrowserMode == BrowserMode::SaveExport;
-    guarded(editor, exporting ? "Export Drawing" : "Save Drawing As", [&] {
+    editor.platform.attempt(exporting ? "Export Drawing" : "Save Drawing As", [&] {
         const auto existing = existingName(*editor.platform.files, browser.BrowserFolder, name);
         if (existing && !mayReplace(editor, browser, *existing)) return;
         const std::string target = existing.value_or(name);

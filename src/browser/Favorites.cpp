@@ -59,7 +59,7 @@ void moveSelected(FavoritesForm& form, Favorites& favorites, int by) {
 
 void ReadFavorites(Favorites& favorites, const Editor& editor) {
     favorites = {};
-    guarded(editor, "Read Favorite Folders", [&] {
+    editor.platform.attempt("Read Favorite Folders", [&] {
         Files& files = *editor.platform.files;
         if (!FileExists(files, editor.AppFilePath, FavoritesName)) return;
         takeLines(favorites, files.read(editor.AppFilePath + std::string(FavoritesName)));
@@ -67,7 +67,7 @@ void ReadFavorites(Favorites& favorites, const Editor& editor) {
 }
 
 void SaveFavorites(Favorites& favorites, FileBrowser& browser, const Editor& editor) {
-    guarded(editor, "SaveFavorite Folders", [&] {
+    editor.platform.attempt("SaveFavorite Folders", [&] {
         std::string text;
         for (const std::string& folder : favorites.FavoriteFolders)
             text.append(folder).append(LineEnd);
@@ -105,7 +105,7 @@ bool addFavorite(Favorites& favorites, const Editor& editor, const std::string& 
         editor.platform.tell("A folder with a line break in its name cannot be a favorite.");
         return false;
     }
-    return guarded(editor, "Add to Favorites", [&] {
+    return editor.platform.attempt("Add to Favorites", [&] {
         take(favorites, folder);
         favorites.FavoritesChanged = true;
     });

@@ -75,7 +75,7 @@ void openInDrawingMode(FileBrowser& browser, Editor& editor) {
 }
 
 void placePicture(FileBrowser& browser, Editor& editor) {
-    guarded(editor, "Insert Picture", [&] {
+    editor.platform.attempt("Insert Picture", [&] {
         InsertPicture(editor, browser.BrowserFolder, browser.BrowserFile, browser.PreviewPicture);
         browser.PictureFolder = browser.BrowserFolder;
         handOver(browser, browser.BrowserFolder, browser.BrowserFile);

@@ -1,4 +1,4 @@
-// What the browser's handlers share: steps on the form's state, and their one error path.
+// What the browser's handlers share: steps on the form's state.
 #pragma once
 
 #include <string>
@@ -7,18 +7,6 @@
 #include "browser/FileBrowser.h"
 
 namespace ladrix {
-
-// Runs a handler's steps on its single error path. False if they failed.
-template <class Steps>
-bool guarded(const Editor& editor, std::string_view description, const Steps& steps) {
-    try {
-        steps();
-        return true;
-    } catch (const Failure& failure) {
-        if (editor.platform.ReportError) editor.platform.ReportError(description, failure);
-        return false;
-    }
-}
 
 std::string withoutBlanks(std::string_view text);
 

@@ -148,10 +148,8 @@ void takeCopyEnd(Editor& editor) {
 void PasteBuffer(Editor& editor) {
     Drawing& drawing = editor.drawing;
     if (!bufferFits(editor)) {
-        if (editor.platform.ReportError)
-            editor.platform.ReportError(
-                "Paste", {failure::Overflow, "A drawing holds at most 32767 items of a kind."});
-        return;
+        return editor.platform.ReportError(
+            "Paste", {failure::Overflow, "A drawing holds at most 32767 items of a kind."});
     }
     const Way way = wayOf(editor);
     pasteDevices(drawing, editor.copied.devices, way);

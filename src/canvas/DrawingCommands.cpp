@@ -206,10 +206,6 @@ void parseForPreview(Editor& editor) {
         throw Failure{failure::TypeMismatch, "A record cannot be read."};
 }
 
-void report(Editor& editor, std::string_view description, const Failure& failure) {
-    if (editor.platform.ReportError) editor.platform.ReportError(description, failure);
-}
-
 // A failure that repeats brings up no second report: the foot tells it each time.
 void tellOutcome(Editor& editor, std::string text) {
     editor.form.lblMessage.Caption = std::move(text);
@@ -285,7 +281,7 @@ void SaveDrawing(Editor& editor) {
         drawing.DrawingChanged = true;
         drawing.SaveInProgress = false;
         tellOutcome(editor, "The drawing was not saved. " + failure.text);
-        return report(editor, "Save Drawing", failure);
+        return editor.platform.ReportError("Save Drawing", failure);
     }
     keepTemplate(drawing);
     drawing.SaveInProgress = false;
@@ -303,7 +299,7 @@ void OpenDrawing(Editor& editor) {
         openNamed(editor);
     } catch (const Failure& failure) {
         tellOutcome(editor, "The drawing could not be opened. " + failure.text);
-        report(editor, "Open Drawing", failure);
+        editor.platform.ReportError("Open Drawing", failure);
     }
     drawing.Reading = false;
 }
@@ -312,12 +308,10 @@ void OpenDrawingQuietly(Editor& editor) {
     Drawing& drawing = editor.drawing;
     drawing.Reading = true;
     const bool withTemplate = std::exchange(drawing.TemplateActive, false);
-    try {
+    editor.platform.attempt("Open Drawing", [&] {
         readNamedFile(editor, PageView::Kept);
         removeTempDrawing(editor);
-    } catch (const Failure& failure) {
-        report(editor, "Open Drawing", failure);
-    }
+    });
     drawing.TemplateActive = withTemplate;
     drawing.Reading = false;
 }
@@ -378,26 +372,22 @@ bool Form_QueryUnload(Editor& editor) {
 void WriteTempDrawing(Editor& editor) {
     const std::string text = crashCopyText(editor.drawing);
     if (text.size() == 2) return;
-    try {
+    editor.platform.attempt("Write Temporary Drawing", [&] {
         editor.platform.files->replace(tempDrawing(editor), text, true);
-    } catch (const Failure& failure) {
-        report(editor, "Write Temporary Drawing", failure);
-    }
+    });
 }
 
 void RestoreTempDrawing(Editor& editor) {
     Drawing& drawing = editor.drawing;
     if (!MayGiveUpDrawing(editor)) return;
     drawing.Reading = true;
-    try {
-        if (startUntitled(editor) &&
-            FileExists(*editor.platform.files, drawing.TempFolder, CrashCopyName)) {
-            restoreText(editor, readDrawingFile(*editor.platform.files, tempDrawing(editor)));
-            editor.platform.files->remove(tempDrawing(editor));
-        }
-    } catch (const Failure& failure) {
-        report(editor, "Restore Temporary Drawing", failure);
-    }
+    editor.platform.attempt("Restore Temporary Drawing", [&] {
+        if (!startUntitled(editor) ||
+            !FileExists(*editor.platform.files, drawing.TempFolder, CrashCopyName))
+            return;
+        restoreText(editor, readDrawingFile(*editor.platform.files, tempDrawing(editor)));
+        editor.platform.files->remove(tempDrawing(editor));
+    });
     drawing.Reading = false;
 }
 

@@ -97,11 +97,9 @@ void loadPictures(Editor& editor) {
             editor.img.back() = known->second.image;
             continue;
         }
-        try {
+        editor.platform.attempt("Load Picture", [&] {
             editor.img.back() = editor.platform.images->load(row.FullPath);
-        } catch (const Failure& failure) {
-            if (editor.platform.ReportError) editor.platform.ReportError("Load Picture", failure);
-        }
+        });
     }
 }
 

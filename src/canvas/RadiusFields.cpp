@@ -44,12 +44,8 @@ bool reshape(Editor& editor, std::size_t i) {
 void txtRadius_Change(Editor& editor) {
     const std::string& text = editor.form.txtRadius.Text;
     if (text.empty() || editor.CurrentTool == -1) return;
-    try {
-        storeRadius(editor, toSingle(text));
-    } catch (const Failure& failure) {
-        if (editor.platform.ReportError)
-            editor.platform.ReportError("Radius information invalid.", failure);
-    }
+    editor.platform.attempt("Radius information invalid.",
+                            [&] { storeRadius(editor, toSingle(text)); });
 }
 
 void txtCircleStart_Change(Editor& editor) {

@@ -50,10 +50,9 @@ std::optional<Single> sizeInForm(TextProperties& form, const Editor& editor) {
     form.lblNote.Caption.clear();
     if (size && *size >= SmallestFontSize && *size <= LargestFontSize) return size;
     form.lblNote.Caption = "The size must be a number of points from 1 to 400.";
-    if (editor.platform.ReportError)
-        editor.platform.ReportError("Text Properties, Size " + text,
-                                    {size ? failure::InvalidProperty : failure::TypeMismatch,
-                                     "\"" + text + "\" is no font size. " + form.lblNote.Caption});
+    editor.platform.ReportError("Text Properties, Size " + text,
+                                {size ? failure::InvalidProperty : failure::TypeMismatch,
+                                 "\"" + text + "\" is no font size. " + form.lblNote.Caption});
     return std::nullopt;
 }
 

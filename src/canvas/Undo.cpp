@@ -62,11 +62,10 @@ void rememberPictures(Editor& editor) {
 }
 
 void reportFullHistory(const Editor& editor) {
-    if (editor.platform.ReportError)
-        editor.platform.ReportError(
-            "Take Undo Snapshot",
-            {failure::Subscript,
-             "The undo history is full: further changes cannot be undone one by one."});
+    editor.platform.ReportError(
+        "Take Undo Snapshot",
+        {failure::Subscript,
+         "The undo history is full: further changes cannot be undone one by one."});
 }
 
 // Pictures that the step leaves alone are not parsed again, so that one whose file is missing is

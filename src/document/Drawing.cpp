@@ -171,7 +171,7 @@ bool isCircleName(std::string_view name) {
 }
 
 void RecordDevice(Drawing& drawing, const Platform& platform, Device& device) {
-    try {
+    platform.attempt("Record Device", [&] {
         drawing.NewAfterSave = false;
         const auto slot = static_cast<std::size_t>(drawing.devices.DeviceCount);
         const auto& names = drawing.devices.DeviceName;
@@ -186,13 +186,11 @@ void RecordDevice(Drawing& drawing, const Platform& platform, Device& device) {
         if (deviceNeedsSnapshot(drawing, device.name) && drawing.TakeUndoSnapshot) {
             drawing.TakeUndoSnapshot();
         }
-    } catch (const Failure& failure) {
-        platform.ReportError("Record Device", failure);
-    }
+    });
 }
 
 void RecordLabel(Drawing& drawing, const Platform& platform, Label label) {
-    try {
+    platform.attempt("Record Label", [&] {
         drawing.NewAfterSave = false;
         if (label.text.empty()) label.text = "Type New Text";
         if (drawing.FixedLabelColorOn) label.color = drawing.FixedLabelColor;
@@ -204,36 +202,30 @@ void RecordLabel(Drawing& drawing, const Platform& platform, Label label) {
         drawing.CurrentLabel = static_cast<Short>(drawing.labels.LabelCount - 1);
         drawing.DrawingChanged = true;
         if (!drawing.NoSnapshot && drawing.TakeUndoSnapshot) drawing.TakeUndoSnapshot();
-    } catch (const Failure& failure) {
-        platform.ReportError("Record Label", failure);
-    }
+    });
 }
 
 void RebuildDeviceString(Drawing& drawing, const Platform& platform) {
-    try {
+    platform.attempt("Rebuild Device String", [&] {
         rebuild(drawing.DeviceString, drawing.DeviceRecords, drawing.devices.DeviceCount,
                 [&](std::string& text, Short index) {
                     appendDeviceRecord(text, drawing.devices, index, platform.locale.decimalMark);
                 });
-    } catch (const Failure& failure) {
-        platform.ReportError("Rebuild Device String", failure);
-    }
+    });
 }
 
 void RebuildLabelString(Drawing& drawing, const Platform& platform) {
-    try {
+    platform.attempt("Rebuild Label String", [&] {
         rebuild(drawing.LabelString, drawing.LabelRecords, drawing.labels.LabelCount,
                 [&](std::string& text, Short index) {
                     appendLabelRecord(text, drawing.labels, index, platform.locale.decimalMark);
                 });
-    } catch (const Failure& failure) {
-        platform.ReportError("Rebuild Label String", failure);
-    }
+    });
 }
 
 void RebuildPictureString(Drawing& drawing, const Platform& platform) {
     if (drawing.PictureCount == 0 && drawing.PictureRecords == 0) return;
-    try {
+    platform.attempt("Rebuild Picture String", [&] {
         MasterText master = masterText(
             drawing.PictureCount, drawing.PictureString.size(),
             [&](std::string& text, Short index) {
@@ -242,9 +234,7 @@ void RebuildPictureString(Drawing& drawing, const Platform& platform) {
             });
         drawing.PictureString = std::move(master.text);
         drawing.PictureRecords = drawing.PictureCount;
-    } catch (const Failure& failure) {
-        platform.ReportError("Rebuild Picture String", failure);
-    }
+    });
 }
 
 void ClearTables(Drawing& drawing) {

@@ -445,31 +445,26 @@ void readPictures(Drawing& drawing, const Platform& platform, const PicturePaths
     tellMissing(platform, missing);
 }
 
-// Runs one parser on its single error path.
+// What could be read until a failure stays.
 template <class Read>
-void guarded(Drawing& drawing, const Platform& platform, std::string_view description,
-             const Read& read) {
-    try {
-        read();
-    } catch (const Failure& failure) {
-        drawing.ReadIncomplete = true;
-        platform.ReportError(description, failure);
-    }
+void readGuarded(Drawing& drawing, const Platform& platform, std::string_view description,
+                 const Read& read) {
+    if (!platform.attempt(description, read)) drawing.ReadIncomplete = true;
 }
 
 }  // namespace
 
 void ParseDeviceString(Drawing& drawing, const Platform& platform) {
-    guarded(drawing, platform, "Parse Device String", [&] { readDevices(drawing, platform); });
+    readGuarded(drawing, platform, "Parse Device String", [&] { readDevices(drawing, platform); });
 }
 
 void ParseLabelString(Drawing& drawing, const Platform& platform) {
-    guarded(drawing, platform, "Parse Label String", [&] { readLabels(drawing, platform); });
+    readGuarded(drawing, platform, "Parse Label String", [&] { readLabels(drawing, platform); });
 }
 
 void ParsePictureString(Drawing& drawing, const Platform& platform, const PicturePaths& known) {
-    guarded(drawing, platform, "Parse Picture String",
-            [&] { readPictures(drawing, platform, known); });
+    readGuarded(drawing, platform, "Parse Picture String",
+                [&] { readPictures(drawing, platform, known); });
 }
 
 }  // namespace ladrix

@@ -203,9 +203,8 @@ class PrintRun {
     }
 
     void report(std::string_view start, const Failure& failure) const {
-        if (editor_.platform.ReportError)
-            editor_.platform.ReportError(
-                std::string(start) + longText(failure.number) + ", " + failure.text, failure);
+        editor_.platform.ReportError(
+            std::string(start) + longText(failure.number) + ", " + failure.text, failure);
     }
 
     void readPrinter() {

@@ -11,15 +11,6 @@ namespace {
 constexpr Short BackspaceKey = 8, EnterKey = 13;
 constexpr std::string_view NoDefaultPrinter = "No Default Printer Found";
 
-template <class Steps>
-void guarded(const Editor& editor, std::string_view description, const Steps& steps) {
-    try {
-        steps();
-    } catch (const Failure& failure) {
-        if (editor.platform.ReportError) editor.platform.ReportError(description, failure);
-    }
-}
-
 bool holds(const std::vector<std::string>& names, std::string_view name) {
     return std::find(names.begin(), names.end(), name) != names.end();
 }
@@ -92,7 +83,7 @@ void txtCopies_KeyDown(Printing& printing, Short keyCode) {
 
 void cmdPrint_Click(Editor& editor, Printing& printing) {
     if (printing.Running) return;
-    guarded(editor, "Print Button", [&] {
+    editor.platform.attempt("Print Button", [&] {
         makeCurrent(editor, printing.frmPrinter.cmbPrinters.Text);
         printing.PrintCopies = toShort(printing.frmPrinter.txtCopies.Text);
         printing.PrinterUsed = true;
@@ -139,7 +130,7 @@ void takeShownPrinter(Editor& editor, Printing& printing) {
 }
 
 void cmdPrinter_Click(Editor& editor, Printing& printing) {
-    guarded(editor, "Save Printer for Session", [&] {
+    editor.platform.attempt("Save Printer for Session", [&] {
         takeShownPrinter(editor, printing);
         editor.platform.tell(printing.SessionPrinterName + " saved for current session.");
         printing.frmPrinters.Visible = false;

@@ -82,7 +82,7 @@ void SaveBitmap(Editor& editor, const std::string& folder) {
         editor.platform.shell->open(folder + *name);
     } catch (const Failure& failure) {
         restoreGrid();
-        if (editor.platform.ReportError) editor.platform.ReportError("Save Bitmap", failure);
+        editor.platform.ReportError("Save Bitmap", failure);
     }
 }
 

@@ -138,7 +138,20 @@ struct Platform {
     Locale locale;
 
     // The shared failure report; set by the program at start. Never throws.
-    std::function<void(std::string_view description, const Failure& failure)> ReportError;
+    std::function<void(std::string_view description, const Failure& failure)> ReportError =
+        [](std::string_view, const Failure&) {};
+
+    // Runs a command's steps on its single error path. False if they failed.
+    template <class Steps>
+    bool attempt(std::string_view description, const Steps& steps) const {
+        try {
+            steps();
+            return true;
+        } catch (const Failure& failure) {
+            ReportError(description, failure);
+            return false;
+        }
+    }
 
     // Set by the machine: shows the present state and lets waiting events run. Cheap to call often.
     std::function<void()> LetEventsRun;

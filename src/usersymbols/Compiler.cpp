@@ -405,14 +405,12 @@ void mnuAdminCreateSymbolExportFile_Click(UserSymbols& symbols, Editor& editor) 
     if (!answer || answer->empty()) return;
     const std::string name = *answer + ".txt";
     if (!acceptedAsFileName(platform, name)) return;
-    try {
+    platform.attempt("Create Symbol Export File", [&] {
         if (FileExists(*platform.files, editor.AppFilePath, name))
             return platform.tell("A file with that name already exists. Choose a new name.");
         platform.files->replace(editor.AppFilePath + name, "");
         symbols.compiler.SymbolExportFile = editor.AppFilePath + name;
-    } catch (const Failure& failure) {
-        platform.ReportError("Create Symbol Export File", failure);
-    }
+    });
 }
 
 void appendToExportFile(SymbolCompiler& compiler, Files& files, std::string_view name) {

@@ -181,24 +181,19 @@ void loadManagerSource(LibManager& manager, const UserSymbols& symbols, Editor& 
 }
 
 void mnuLibManageUserLibraries_Click(LibManager& manager, UserSymbols& symbols, Editor& editor) {
-    try {
-        loadForm(manager, symbols, editor);
-    } catch (const Failure& failure) {
-        editor.platform.ReportError("User Symbol Library Manager", failure);
-    }
+    editor.platform.attempt("User Symbol Library Manager",
+                            [&] { loadForm(manager, symbols, editor); });
     manager.Visible = true;
     editor.platform.dialogs->show(Form::frmLibManager);
 }
 
 void frmLibManager_Unload(LibManager& manager, UserSymbols& symbols, Editor& editor) {
     manager = {};
-    try {
+    editor.platform.attempt("User Symbol Library Manager", [&] {
         if (editor.CurrentTool > editor.LastBuiltInButton) resetTool(editor);
         ListUserLibraries(symbols, editor);
         ReloadLibrary(symbols, editor);
-    } catch (const Failure& failure) {
-        editor.platform.ReportError("User Symbol Library Manager", failure);
-    }
+    });
 }
 
 void cmdOpen_Click(LibManager& manager, UserSymbols& symbols, Editor& editor) {
@@ -213,12 +208,10 @@ void cmdOpen_Click(LibManager& manager, UserSymbols& symbols, Editor& editor) {
         manager.cmbSourceLibrary.Text = manager.ManagerSourceFile;
         return;
     }
-    try {
+    editor.platform.attempt("Open User Library", [&] {
         selectManagerSource(manager, editor, editor.BasePath, chosen);
         loadManagerSource(manager, symbols, editor);
-    } catch (const Failure& failure) {
-        editor.platform.ReportError("Open User Library", failure);
-    }
+    });
 }
 
 void frmLibManager_cmdSym_Click(LibManager& manager, Short symbol) {

@@ -28,20 +28,11 @@ bool isSource(const LibManager& manager, const UserSymbols& symbols) {
            equalIgnoringCase(symbols.LibraryFile, manager.ManagerSourceFile);
 }
 
-template <class Steps>
-void guarded(const Editor& editor, std::string_view description, const Steps& steps) {
-    try {
-        steps();
-    } catch (const Failure& failure) {
-        editor.platform.ReportError(description, failure);
-    }
-}
-
 // After a step that may have failed half way the form shows what is on disk.
 template <class Steps>
 void changeSource(LibManager& manager, const UserSymbols& symbols, Editor& editor,
                   std::string_view description, const Steps& steps) {
-    guarded(editor, description, [&] {
+    editor.platform.attempt(description, [&] {
         try {
             steps();
         } catch (const Failure&) {
@@ -180,8 +171,8 @@ void lstDestinationLibrary_Click(LibManager& manager, Editor& editor, int row) {
     manager.ManagerDestName = library.Name;
     manager.ManagerDestFolder = library.symbolFolder(files);
     manager.cmdCopy.Enabled = manager.cmdMove.Enabled = true;
-    guarded(editor, "Destination Library",
-            [&] { manager.ManagerDestLines = readList(files, library); });
+    editor.platform.attempt("Destination Library",
+                            [&] { manager.ManagerDestLines = readList(files, library); });
 }
 
 void cmdCopy_Click(LibManager& manager, UserSymbols& symbols, Editor& editor) {
@@ -202,7 +193,7 @@ void cmdMove_Click(LibManager& manager, UserSymbols& symbols, Editor& editor) {
 }
 
 void mnuFileNew_Click(LibManager& manager, UserSymbols& symbols, Editor& editor) {
-    guarded(editor, "New User Library", [&] {
+    editor.platform.attempt("New User Library", [&] {
         const auto library = makeLibraryByName(editor);
         if (!library) return;
         relist(manager, symbols, editor);
@@ -219,7 +210,7 @@ void mnuFileName_Click(LibManager& manager, UserSymbols& symbols, Editor& editor
         "Changing User Library Name",
         former.substr(0, former.size() - std::min(former.size(), LibrarySuffix.size())));
     if (!answer || answer->empty() || !acceptedAsFileName(platform, *answer)) return;
-    guarded(editor, "Rename User Library", [&] {
+    editor.platform.attempt("Rename User Library", [&] {
         const LibraryPlace library{manager.ManagerParentFolder,
                                    *answer + std::string(LibrarySuffix)};
         if (!nameIsFree(editor, library)) return;

@@ -14,16 +14,6 @@ constexpr std::string_view IllegalName =
     "Action Cancelled. File and Folder Names cannot include\r\n"
     "any of the following characters: / \\ : * ? < > | ";
 
-// Runs a command's steps on its single error path.
-template <class Steps>
-void guarded(const Editor& editor, std::string_view description, const Steps& steps) {
-    try {
-        steps();
-    } catch (const Failure& failure) {
-        editor.platform.ReportError(description, failure);
-    }
-}
-
 bool libraryFolderExists(Editor& editor, const LibraryPlace& library) {
     if (FolderExists(*editor.platform.files, library.Folder, library.Name)) return true;
     editor.platform.tell("Library folder does not exist.");
@@ -169,7 +159,7 @@ void SaveUserSymbol(UserSymbols& symbols, Editor& editor, const std::string& nam
 
 void OpenUserLibrary(UserSymbols& symbols, Editor& editor, const std::string& folder,
                      std::string_view libraryFile) {
-    guarded(editor, "Open User Library", [&] {
+    editor.platform.attempt("Open User Library", [&] {
         if (!libraryFolderExists(editor, libraryPlace(folder, libraryFile))) return;
         resetTool(editor);
         selectLibrary(symbols, editor, folder, libraryFile);
@@ -179,7 +169,7 @@ void OpenUserLibrary(UserSymbols& symbols, Editor& editor, const std::string& fo
 
 void MergeUserLibrary(UserSymbols& symbols, Editor& editor, const std::string& folder,
                       std::string_view libraryFile) {
-    guarded(editor, "Merge User Library", [&] {
+    editor.platform.attempt("Merge User Library", [&] {
         const LibraryPlace source = libraryPlace(folder, libraryFile);
         if (!libraryFolderExists(editor, source) || !mergeFits(symbols, editor, source)) return;
         Files& files = *editor.platform.files;
@@ -222,7 +212,7 @@ std::optional<LibraryPlace> makeLibraryByName(Editor& editor) {
 }
 
 void NewUserLibrary(UserSymbols& symbols, Editor& editor) {
-    guarded(editor, "New User Library", [&] {
+    editor.platform.attempt("New User Library", [&] {
         const auto library = makeLibraryByName(editor);
         if (!library) return;
         resetTool(editor);
@@ -238,7 +228,7 @@ void StepUserLibrary(UserSymbols& symbols, Editor& editor, int step) {
     const auto count = static_cast<int>(symbols.LibraryList.size());
     if (count == 0)
         return editor.platform.tell("User library does not exist in " + editor.BasePath);
-    guarded(editor, "Index User Library", [&] {
+    editor.platform.attempt("Index User Library", [&] {
         const int next = ((symbols.LibraryIndex + step) % count + count) % count;
         symbols.LibraryIndex = static_cast<Short>(next);
         resetTool(editor);
@@ -255,7 +245,7 @@ void DeleteUserSymbol(UserSymbols& symbols, Editor& editor) {
                                          "Preparing to Delete User Button",
                                          Buttons::YesNo) != Answer::Yes)
         return;
-    guarded(editor, "Delete User Button", [&] { removeFromLibrary(symbols, editor, row); });
+    editor.platform.attempt("Delete User Button", [&] { removeFromLibrary(symbols, editor, row); });
 }
 
 void RenameUserSymbol(UserSymbols& symbols, Editor& editor) {
@@ -266,7 +256,7 @@ void RenameUserSymbol(UserSymbols& symbols, Editor& editor) {
     const auto name = platform.dialogs->input("Insert New Name", "Renaming User Button", former);
     if (!name || name->empty() || *name == former) return;
     if (nameIsTaken(symbols, editor, row, *name) || !acceptedAsFileName(platform, *name)) return;
-    guarded(editor, "Rename User Button", [&] {
+    editor.platform.attempt("Rename User Button", [&] {
         renameFiles(symbols, editor, row, *name);
         resetTool(editor);
         ReloadLibrary(symbols, editor);
@@ -277,7 +267,7 @@ void TransferUserSymbol(UserSymbols& symbols, Editor& editor, Transfer kind,
                         const std::string& folder, std::string_view libraryFile) {
     const Short row = contextSymbol(symbols);
     if (row < 0) return;
-    guarded(editor, "Transfer User Button", [&] {
+    editor.platform.attempt("Transfer User Button", [&] {
         Files& files = *editor.platform.files;
         const LibraryPlace target = libraryPlace(folder, libraryFile);
         const std::string name = nameAt(symbols, row);

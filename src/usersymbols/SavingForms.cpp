@@ -89,7 +89,7 @@ void frmUS_cmdSave_Click(UserSymbols& symbols, Editor& editor) {
     const std::string name = form.txtSymbolName.Text;
     if (name.empty()) return;
     if (!acceptedAsFileName(editor.platform, name)) return;
-    try {
+    editor.platform.attempt("Save User Symbol", [&] {
         makeDefaultFolder(editor);
         if (!mayTakeItsPlace(symbols, editor, name)) {
             ++form.txtSymbolName.SelectAllRequests;
@@ -97,9 +97,7 @@ void frmUS_cmdSave_Click(UserSymbols& symbols, Editor& editor) {
         }
         SaveUserSymbol(symbols, editor, name);
         form.Visible = false;
-    } catch (const Failure& failure) {
-        editor.platform.ReportError("Save User Symbol", failure);
-    }
+    });
 }
 
 void frmUS_cmdExit_Click(UserSymbols& symbols, Editor& editor) {

@@ -60,15 +60,13 @@ void cmdSym_DragDrop(UserSymbols& symbols, Editor& editor, Short button) {
 
 void cmdSaveSymbolOrder_Click(UserSymbols& symbols, Editor& editor) {
     symbols.drag = {};
-    try {
+    editor.platform.attempt("Save User Symbol Order", [&] {
         WriteLibraryStructure(symbols, editor);
         editor.Arranging = false;
         symbols.cmdSaveSymbolOrder.Visible = false;
         resetTool(editor);
         ReloadLibrary(symbols, editor);
-    } catch (const Failure& failure) {
-        editor.platform.ReportError("Save User Symbol Order", failure);
-    }
+    });
     ++editor.form.PaletteVersion;
 }
 
