@@ -65,6 +65,9 @@ inline void markOperated(Sheet& sheet, const RunningCircuit& running, const Rela
     sheet.ink = Black;
 }
 
+// From the end of the symbol to the bar of a contact and to a lamp's bulb; half the bar.
+constexpr Single ContactStub = 0.175f, LampStub = 0.075f, ContactHeight = 0.15f;
+
 // How far above its line a device has its name; 0: in its middle.
 inline Single nameHeight(Kind kind) {
     switch (kind) {
@@ -124,8 +127,26 @@ class LadderDrawing {
         const RelayDevice& device = circuit_.devices[static_cast<std::size_t>(edge.device)];
         sheet_.ink = colorOf(shines(edge));
         sheet_.symbol(symbolOf(running_, device), device.at.x, device.at.y);
+        if (view_ == View::Voltage) drawTerminals(edge, device);
         sheet_.centred(device.name, device.at.x + 0.25f, device.at.y - nameHeight(device.kind),
                        device.kind == Kind::Lamp ? TextStyle{7} : Plain);
+    }
+    // An open contact and a lamp part what is live from what is not: each side takes the colour of
+    // its wire, whatever the symbol's is.
+    void drawTerminals(const Edge& edge, const RelayDevice& device) {
+        const bool isContact = device.kind == Kind::ContactNO || device.kind == Kind::ContactNC;
+        if (!isContact && device.kind != Kind::Lamp) return;
+        const Single stub = isContact ? ContactStub : LampStub;
+        for (const Single side : {-1.0f, 1.0f}) {
+            const bool live = running_.live(side < 0 ? edge.from : edge.to);
+            if (live == shines(edge)) continue;
+            sheet_.ink = colorOf(live);
+            const Point middle{device.at.x + 0.25f, device.at.y};
+            const Single end = middle.x + side * 0.25f, inner = end - side * stub;
+            sheet_.wire({{end, middle.y}, {inner, middle.y}}, live ? Heavy : std::string_view());
+            if (!isContact) continue;
+            sheet_.wire({{inner, middle.y - ContactHeight}, {inner, middle.y + ContactHeight}});
+        }
     }
     // Where three or more meet.
     void drawDots() {

@@ -26,6 +26,7 @@ constexpr Single RailTop = 0.5625f, LoadX = 6, SymbolLength = 0.5f;
 constexpr Single TextX = 7.1875f;  // of the remarks beside the rungs
 constexpr Single ConditionX = 3.625f, ChartX = 5.4375f;
 constexpr TextStyle State{11, true}, Reason{9};
+constexpr Long AtRestColor = RGB(176, 176, 176);  // of the present step in the chart
 
 struct Rung {
     Single y;
@@ -147,12 +148,12 @@ Demonstration sealAndNoSeal() {
           "PL1.",
           "Nothing lies in parallel with START 1: let it go, and CR1 drops out."},
          {"Stop1", 3, "STOP 1 is pressed: the upper circuit is interrupted.",
-          "CR1 was not energized, so nothing changes.",
-          "While STOP 1 is held, START 1 could not energize CR1 either."},
+          "STOP 1 is open and cuts START 1 off from L1. CR1 was not energized and stays so.",
+          "While STOP 1 is held, pressing START 1 would not energize CR1 either."},
          {"Start1.CR2.On", 7, "START 1 is pressed: CR1 is energized, CR2 stays sealed in.",
           "CR1 is fed through STOP 1 and START 1, only as long as START 1 is held.",
           "CR2 holds itself through STOP 2 and its own contact."},
-         {"Stop1.CR2.On", 9, "STOP 1 is pressed: the lower circuit does not mind.",
+         {"Stop1.CR2.On", 9, "STOP 1 is pressed: the lower circuit is not affected.",
           "STOP 1 interrupts the upper circuit only.",
           "CR2 holds itself through STOP 2 and its own contact."},
          {"Start2", 5, "START 2 is pressed: CR2 is energized and seals in.",
@@ -160,7 +161,7 @@ Demonstration sealAndNoSeal() {
           "one lights PL2, the other bridges START 2, which may now be released."},
          {"Stop2", 11, "STOP 2 is pressed: the lower circuit is interrupted.",
           "CR2 is de-energized and its sealing contact is open.",
-          "Closing STOP 2 again does not start it: START 2 must be pressed."},
+          "Releasing STOP 2 does not energize it again: START 2 must be pressed."},
          {"CR2.On", 6, "CR2 is sealed in.",
           "START 2 is released, but contact CR2 beside it is closed:",
           "L1 - STOP 2 - contact CR2 - coil CR2 - N is a closed path."}}};
@@ -206,9 +207,9 @@ Demonstration onDelayTimer() {
         withExpiryAfter(2, pressAndRelease({"START 1", "START 1", "STOP 1"})),
         {{"Off", 0, "Everything is at rest.",
           "START 1 and the contacts of CR1 are open: no coil has a closed path from L1 to N.",
-          "T1's timed contacts stand as drawn at rest: PL2's is open, PL1's is closed."},
-         {"Start", 1, "START 1 is pressed: CR1 seals in and T1 begins to time.",
-          "Coil CR1 is energized, its contacts close: one bridges START 1, one feeds T1,",
+          "T1's timed contacts are at rest: the one to PL1 is closed, the one to PL2 is open."},
+         {"Start", 1, "START 1 is pressed: CR1 is sealed in and T1 is timing.",
+          "Coil CR1 is energized and has closed its contacts: one bridges START 1, one feeds T1,",
           "one lights PL1. T1's timed contacts have not moved yet."},
          {"Stop", 6, "STOP 1 is pressed: CR1 and T1 are de-energized.",
           "CR1 opens its seal and T1's supply. T1's contacts are back at rest at once:",
@@ -253,17 +254,17 @@ Demonstration offDelayTimer() {
           "START 1 and the contacts of CR1 are open: no coil has a closed path from L1 to N.",
           "T1 is not timing, so its contact is open and the fan stands still."},
          {"Start", 1, "START 1 is pressed: machine and fan run at once.",
-          "Coil CR1 is energized, its contacts close: one bridges START 1, one feeds T1,",
+          "Coil CR1 is energized and has closed its contacts: one bridges START 1, one feeds T1,",
           "one lights PL1. An off-delay timer does not wait here: T1 closes its contact at once."},
          {"Stop", 3, "STOP 1 is pressed: the machine stops, the fan runs on.",
           "CR1 and T1 are de-energized. T1 times from now on, and its contact is still closed:",
           "PL2 stays lit until the time has passed."},
          {"Stop.Off", 6, "STOP 1 is pressed: nothing was running.",
-          "CR1 and T1 have been de-energized before and T1 has timed out.",
+          "CR1 and T1 were de-energized before, and T1 has timed out.",
           "There is nothing to stop: the timer does not begin to time."},
          {"T1.Started", 2, "Machine and fan are running.",
           "START 1 is released, but CR1 is sealed in by its own contact and keeps T1 energized.",
-          "As long as T1 is energized, its contact is closed and no time runs."},
+          "As long as T1 is energized, its contact is closed and no time is counted."},
          {"T1.Stopped", 4, "T1 is timing: the fan runs on.",
           "CR1 and T1 are de-energized, the machine stands still.",
           "T1's contact stays closed until the time has passed; then the fan stops too."}}};
@@ -349,11 +350,12 @@ class StateSheet {
             sample(LiveColor, Heavy, 0.6875f, "Live: at the voltage of L1");
         else
             sample(CurrentColor, Heavy, 0.6875f, "Current: part of a closed path from L1 to N");
-        sample(Black, {}, 3.75f, "Off");
+        sample(Black, {}, 3.25f, "Off");
         sheet_.ink = OperatedColor;
-        sheet_.disc(4.8125f, y, 0.075f);
+        sheet_.disc(4.1875f, y, 0.075f);
         sheet_.ink = Black;
-        sheet_.from("Operated: pressed, energized, moved, lit", 4.9375f, y, Remark);
+        sheet_.from("Operated: pressed, energized, moved, lit", 4.3125f, y, Remark);
+        sheet_.from("Crossed contact: closed", 6.625f, y, Remark);
     }
 
     std::string_view conditionOf(const std::string& name) const {
@@ -410,9 +412,10 @@ class StateSheet {
             if (i > 0) running.act(demo_.life[i - 1]);
             const Single end =
                 ChartX + Width * static_cast<Single>(i + 1) / static_cast<Single>(steps);
-            const Single level = running.isOperated(*device) ? y - Half : y + Half;
+            const bool operated = running.isOperated(*device);
+            const Single level = operated ? y - Half : y + Half;
             if (i == state_.after) {
-                sheet_.ink = OperatedColor;
+                sheet_.ink = operated ? OperatedColor : AtRestColor;
                 sheet_.disc((pen.x + end) / 2, level, 0.04f);
                 sheet_.ink = Black;
             }

@@ -69,6 +69,7 @@ struct Sheet {
     FakePlatform machine;
     Drawing drawing;
     std::vector<Conductor> conductors;
+    std::vector<Conductor> stubs;  // lines over a symbol, in the colour of one of its sides
     std::vector<Point> lit;
     Point hot, neutral;
 
@@ -81,6 +82,23 @@ struct Sheet {
         EXPECT_TRUE(machine.reports.empty());
         for (Short i = 0; i < drawing.devices.DeviceCount; ++i)
             take(drawing.devices.row(i));
+        const auto first = std::stable_partition(
+            conductors.begin(), conductors.end(),
+            [&](const Conductor& c) { return !c.symbol.empty() || !liesOnSymbol(c.ends[1]); });
+        stubs.assign(first, conductors.end());
+        conductors.erase(first, conductors.end());
+    }
+    bool liesOnSymbol(Point p) const {
+        return std::any_of(conductors.begin(), conductors.end(), [&](const Conductor& c) {
+            return !c.symbol.empty() && p.x > c.ends[0].x + Near && p.x < c.ends[1].x - Near &&
+                   std::fabs(p.y - c.ends[0].y) < 0.16f;
+        });
+    }
+    // What is seen where this end of a symbol meets its wire.
+    Long colorAt(const Conductor& symbol, int end) const {
+        for (const Conductor& stub : stubs)
+            if (same(stub.ends[0], symbol.ends[end])) return stub.color;
+        return symbol.color;
     }
 
     bool isLit(Point at) const {
@@ -196,6 +214,11 @@ TEST_P(StateFile, IsColouredByVoltageAndEnergizesWhatHasAPath) {
         EXPECT_FALSE(Sheet::holds(neutral, c.ends[0]) && Sheet::holds(live, c.ends[0])) << "short";
         const bool hot = Sheet::holds(live, c.ends[0]) && c.closed;
         EXPECT_EQ(c.color, hot ? Live : Black) << c.symbol << c.name << c.ends[0].x << c.ends[0].y;
+        for (const int end : {0, 1}) {
+            if (!c.symbol.starts_with("InsertContact") && c.symbol != "InsertLamp") continue;
+            EXPECT_EQ(sheet.colorAt(c, end), Sheet::holds(live, c.ends[end]) ? Live : Black)
+                << c.symbol << c.name << c.ends[end].x << ' ' << c.ends[end].y;
+        }
         if (c.isLoad()) {
             EXPECT_TRUE(Sheet::holds(neutral, c.ends[1]));
             EXPECT_EQ(hot, GetParam().second.contains(c.name)) << c.name;
