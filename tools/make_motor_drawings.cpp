@@ -92,7 +92,7 @@ class MotorSheet {
 
     void draw() {
         frameAndTitle(
-            sheet_, {11, 8.5f}, forward_ ? "MOTOR RUNNING FORWARD" : "MOTOR RUNNING REVERSE",
+            sheet_, {11, 8.5f}, forward_ ? "MOTOR RUNNING FORWARD" : "MOTOR RUNNING IN REVERSE",
             "Reversing starter with interlocks, power and logic", forward_ ? "FORWARD" : "REVERSE");
         drawSupply();
         drawContactor("F", PhaseX);

@@ -223,6 +223,10 @@ void colorReset(Editor& editor, bool something) {
 }
 
 std::string readyMessage(const Editor& editor) {
+    if (editor.SimulationMode)
+        return "Simulation: press and hold the buttons on the drawing. User Mode, Normal ends "
+               "it. " +
+               zoomScaleText(editor);
     return "Drawing Reset and Ready. Click on a symbol for placement. " + zoomScaleText(editor);
 }
 

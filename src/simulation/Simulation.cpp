@@ -107,8 +107,7 @@ void LoadSimFile(Editor& editor) {
     OpenDrawingQuietly(editor);
     editor.form.pointer.Pointer = pointer;
     editor.form.FocusRequest = focus;
-    editor.form.lblMessage.Caption =
-        "Simulation: press and hold the buttons on the drawing. User Mode, Normal ends it.";
+    editor.form.lblMessage.Caption = readyMessage(editor);
 }
 
 void loadState(Simulation& simulation, Editor& editor, std::string_view file) {

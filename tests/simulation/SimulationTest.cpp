@@ -258,6 +258,7 @@ TEST_F(SimulationTest, ClosesTheEditorWhileItRunsAndOpensItAgain) {
     start(2);
     Form_KeyDown(editor, key::Escape, 0);
     EXPECT_TRUE(editor.SimulationMode) << "Esc does not leave it";
+    EXPECT_TRUE(editor.form.lblMessage.Caption.starts_with("Simulation:")) << "nor says so";
     EXPECT_EQ(visible(), 0);
     EXPECT_FALSE(editor.form.picTop.Visible);
     EXPECT_TRUE(simulation.picSimulation.Visible && simulation.lblSimColor[3].Visible);
