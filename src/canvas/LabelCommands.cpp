@@ -49,6 +49,7 @@ void mnuEditTextCaption_Click(Editor& editor) {
     if (std::count_if(marks.begin(), marks.end(), isMarked) != 1) return;
     const auto only = std::find_if(marks.begin(), marks.end(), isMarked);
     editLabelText(editor, static_cast<Short>(only - marks.begin()));
+    ++editor.form.txtEdit.SelectAllRequests;
 }
 
 void mnuEditTextAlignLeft_Click(Editor& editor) {

@@ -36,7 +36,6 @@ bool editingLabel(const Editor& editor) {
 void openTextBox(Editor& editor, std::string_view text) {
     showPanel(editor, Panel::Text);
     editor.form.txtEdit.Text = text;
-    ++editor.form.txtEdit.SelectAllRequests;
     editor.form.FocusRequest = Focus::TextEdit;
 }
 
@@ -126,6 +125,7 @@ void drawTextGhost(Editor& editor, Single x, Single y, Long color) {
     if (!editor.TextBoxFocused) {
         if (editor.TextBuffer.empty()) editor.TextBuffer = TextToolHint;
         openTextBox(editor, editor.TextBuffer);
+        ++editor.form.txtEdit.SelectAllRequests;
         editor.form.lblMessage.Caption = "Move to desired location and edit as required.";
     }
     finishLabelEdit(editor);

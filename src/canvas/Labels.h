@@ -8,15 +8,15 @@
 namespace ladrix {
 
 // Begins the label of a device just recorded: the label exists from here on with the prefix,
-// centred on (x, y), and is open for editing in txtEdit with its text marked. Leaving it alone
-// keeps the prefix. Does nothing while labels are not attached.
+// centred on (x, y), and is open for editing in txtEdit, where typing goes on behind the prefix.
+// Leaving it alone keeps the prefix. Does nothing while labels are not attached.
 void BeginLabel(Editor& editor, std::string_view prefix, Single x, Single y);
 
 // Records a label centred on (x, y) inches with the default font; an empty text becomes "Type New
 // Text". Returns its index, -1 if it could not be recorded.
 Short recordCentredLabel(Editor& editor, std::string_view text, Single x, Single y, Long color);
 
-// Opens the label in txtEdit with its text marked; it shows each key at once.
+// Opens the label in txtEdit; it shows each key at once.
 void editLabelText(Editor& editor, Short index);
 
 // The font of row i as it stands on paper.

@@ -78,8 +78,8 @@ TEST_F(LabelsTest, ADeviceIsNamedByTypingAndEnter) {
     journey.clickPage(3, 3);
     ASSERT_TRUE(journey.find("txtEdit").hasFocus());
     EXPECT_TRUE(looksSelected(0));
-    Journey::type("1CR");
-    EXPECT_EQ(labels().LabelText.at(0), "1CR") << "the prefix was marked";
+    Journey::type("1");
+    EXPECT_EQ(labels().LabelText.at(0), "CR1") << "typed behind the prefix";
     Journey::key(Qt::Key_Return);
     EXPECT_FALSE(journey.find("txtEdit").isVisible());
     EXPECT_TRUE(journey.page().hasFocus());

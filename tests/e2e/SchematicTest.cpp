@@ -50,6 +50,7 @@ struct SchematicTest : testing::Test {
         for (const Point& point : item.points)
             journey.clickPage(point.x, point.y + below);
         if (*item.name != '\0') {
+            Journey::key(Qt::Key_A, Qt::ControlModifier);
             Journey::type(item.name);
             Journey::key(Qt::Key_Return);
         }
