@@ -23,17 +23,6 @@ constexpr double PixelsPerNotch = 96;  // an inch of the screen
 constexpr int OverlayRoom = 2;         // logical pixels that an overlay's pen takes around it
 constexpr QColor CrossHair{0x7D, 0x93, 0xB2};
 
-Short buttonNumber(Qt::MouseButton button) {
-    if (button == Qt::LeftButton) return LeftButton;
-    if (button == Qt::RightButton) return RightButton;
-    return button == Qt::MiddleButton ? Short{4} : Short{0};
-}
-
-Short heldButton(Qt::MouseButtons buttons) {
-    if (buttons & Qt::LeftButton) return LeftButton;
-    return buttons & Qt::RightButton ? Short{RightButton} : Short{0};
-}
-
 // What a length of the frame leaves for the page between its margins.
 Single innerTwips(int pixels) {
     return static_cast<Single>(std::max(1, pixels - 2 * QtCanvas::Margin)) * TwipsPerPixel;
@@ -238,7 +227,7 @@ void CanvasWidget::lookUnder(QPointF at) {
 
 void CanvasWidget::press(const QMouseEvent& event) {
     Editor& editor = program_.editor;
-    const Short button = buttonNumber(event.button());
+    const Short button = classicButton(event.button());
     const Single x = canvas_.inchesX(event.position().x());
     const Single y = canvas_.inchesY(event.position().y());
     pressed_ = targetAt(event.position());
@@ -264,13 +253,13 @@ void CanvasWidget::release(const QMouseEvent& event) {
         return;
     }
     if (pressed_ == Target::Picture && left) return img_MouseUp(editor);
-    picLX_MouseUp(editor, buttonNumber(event.button()), classicShift(event.modifiers()),
+    picLX_MouseUp(editor, classicButton(event.button()), classicShift(event.modifiers()),
                   canvas_.inchesX(event.position().x()), canvas_.inchesY(event.position().y()));
 }
 
 void CanvasWidget::mousePressEvent(QMouseEvent* event) {
     if (event->button() == Qt::MiddleButton) return startPan(event->position());
-    if (pan_) return;
+    if (pan_ || classicButton(event->button()) == 0) return;
     press(*event);
     lookUnder(event->position());
     emit handled();
@@ -289,7 +278,7 @@ void CanvasWidget::movePointer(QPointF at, Qt::MouseButtons buttons,
                                Qt::KeyboardModifiers modifiers) {
     const Single x = canvas_.inchesX(at.x());
     const Single y = canvas_.inchesY(at.y());
-    const Short held = heldButton(buttons);
+    const Short held = classicButton(buttons);
     if (held == 0 || pressed_ == Target::Canvas)
         picLX_MouseMove(program_.editor, held, classicShift(modifiers), x, y);
     else if (pressed_ == Target::Label)
@@ -301,6 +290,7 @@ void CanvasWidget::movePointer(QPointF at, Qt::MouseButtons buttons,
 
 void CanvasWidget::mouseReleaseEvent(QMouseEvent* event) {
     if (event->button() == Qt::MiddleButton) return endPan();
+    if (classicButton(event->button()) == 0) return;
     release(*event);
     lookUnder(event->position());
     emit handled();

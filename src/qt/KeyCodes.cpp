@@ -1,6 +1,7 @@
 #include "qt/KeyCodes.h"
 
 #include "canvas/Keys.h"
+#include "canvas/Pointer.h"
 
 namespace ladrix {
 
@@ -10,6 +11,11 @@ Short classicShift(Qt::KeyboardModifiers modifiers) {
     if (modifiers & Qt::ControlModifier) shift |= ControlKey;
     if (modifiers & Qt::AltModifier) shift |= 4;
     return static_cast<Short>(shift);
+}
+
+Short classicButton(Qt::MouseButtons buttons) {
+    if (buttons & Qt::LeftButton) return LeftButton;
+    return buttons & Qt::RightButton ? Short{RightButton} : Short{0};
 }
 
 Short classicKeyCode(const QKeyEvent& event) {

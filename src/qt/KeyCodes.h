@@ -1,4 +1,4 @@
-// Keys and modifiers as the core's handlers know them.
+// Keys, modifiers and mouse buttons as the core's handlers know them.
 #pragma once
 
 #include <QKeyEvent>
@@ -12,5 +12,8 @@ Short classicKeyCode(const QKeyEvent& event);
 
 // 1 Shift, 2 Ctrl, 4 Alt, added up.
 Short classicShift(Qt::KeyboardModifiers modifiers);
+
+// 1 left, 2 right, of both the left; 0 where it is neither.
+Short classicButton(Qt::MouseButtons buttons);
 
 }  // namespace ladrix

@@ -3,8 +3,8 @@
 #include <QMouseEvent>
 #include <QPainter>
 
-#include "canvas/Pointer.h"
 #include "canvas/Stretch.h"
+#include "qt/KeyCodes.h"
 #include "qt/Theme.h"
 
 namespace ladrix {
@@ -13,10 +13,6 @@ namespace {
 
 constexpr int TwipsPerPixel = 15;
 constexpr int DotPitch = 6, DotSize = 2;  // logical pixels
-
-Short buttonHeld(Qt::MouseButtons buttons) {
-    return buttons & Qt::LeftButton ? Short{LeftButton} : Short{0};
-}
 
 }  // namespace
 
@@ -48,12 +44,12 @@ void StretchHandle::paintEvent(QPaintEvent*) {
 }
 
 void StretchHandle::mousePressEvent(QMouseEvent* event) {
-    picFrame_MouseDown(program_.editor, buttonHeld(event->button()), frameX(*event));
+    picFrame_MouseDown(program_.editor, classicButton(event->button()), frameX(*event));
     emit handled();
 }
 
 void StretchHandle::mouseMoveEvent(QMouseEvent* event) {
-    picFrame_MouseMove(program_.editor, buttonHeld(event->buttons()), frameX(*event));
+    picFrame_MouseMove(program_.editor, classicButton(event->buttons()), frameX(*event));
     emit handled();
 }
 

@@ -495,7 +495,7 @@ TEST_F(WindowTest, TheWheelScrollsTheOtherWayWithShiftAndZoomsWithCtrl) {
     EXPECT_EQ(editor().CurrentTool, ContactButton);
 }
 
-TEST_F(WindowTest, TheMiddleButtonDragsThePageAndMeansNothingElse) {
+TEST_F(WindowTest, TheMiddleButtonDragsThePageAndTheSideButtonsDoNothing) {
     open(900, 620);
     window->findChild<QAction*>("mnuLayoutLargeLandscape")->trigger();
     settle();
@@ -517,6 +517,8 @@ TEST_F(WindowTest, TheMiddleButtonDragsThePageAndMeansNothingElse) {
     move(picLX(), from);
     EXPECT_NEAR(editor().ScaleLeft, 1.5, 1e-4) << "the page is let go";
     clickPage(4, 4);
+    for (const auto button : {Qt::BackButton, Qt::ForwardButton})
+        click(picLX(), at(4.5, 4), button);
     EXPECT_EQ(editor().drawing.devices.DeviceCount, 1);
 }
 
