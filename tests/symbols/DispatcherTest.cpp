@@ -434,28 +434,5 @@ TEST(Row, IsDrawnInTheGivenColourAndTheFlagsComeBack) {
     EXPECT_EQ(bench.drawing.devices.DeviceCount, 0);
 }
 
-TEST(Generations, OfOneSymbolAreDrawnByTheirOwnRoutines) {
-    DispatcherBench bench;
-    struct Pair {
-        const char* first;
-        const char* second;
-    };
-    for (const Pair& pair : {Pair{"InsertCrystal", "InsertCrystal2"},
-                             {"InsertDiac", "InsertDiac2"},
-                             {"InsertTriac", "InsertTriacH"},
-                             {"InsertNPNTransistor", "InsertNPNTransistorH"},
-                             {"InsertPNPTransistor", "InsertPNPTransistorH"},
-                             {"InsertResistor", "InsertResistorHorz"},
-                             {"InsertCoilWithDiodeLeft", "InsertCoilDiodeLeft"},
-                             {"InsertCoilWithSuppressor", "InsertCoilSuppressor"},
-                             {"InsertDiode", "InsertPhotoDiode"},
-                             {"InsertReferenceSmall", "InsertReference"}}) {
-        RecordingPage first, second;
-        EXPECT_NE(drawnOn(bench, first, first.primitives, deviceOf(pair.first, 0, 2, 2)),
-                  drawnOn(bench, second, second.primitives, deviceOf(pair.second, 0, 2, 2)))
-            << pair.first;
-    }
-}
-
 }  // namespace
 }  // namespace ladrix::test
