@@ -4,12 +4,14 @@
 #include <sstream>
 #include <stdexcept>
 
+#include "canvas/DrawingCommands.h"
 #include "canvas/Keys.h"
 #include "canvas/Labels.h"
 #include "canvas/PaletteButtons.h"
 #include "canvas/Pointer.h"
 #include "canvas/Redraw.h"
 #include "canvas/Tools.h"
+#include "document/Records.h"
 
 namespace ladrix::test {
 
@@ -92,6 +94,20 @@ std::vector<std::string> Bench::labels() const {
     return linesOf(drawing.LabelString);
 }
 
+std::vector<std::string> Bench::boxes() const {
+    std::vector<std::string> texts;
+    for (const FakeDialogs::Box& box : machine.dialogs.boxes)
+        texts.push_back(box.text);
+    return texts;
+}
+
+std::vector<int> Bench::reports() const {
+    std::vector<int> numbers;
+    for (const FakePlatform::Report& report : machine.reports)
+        numbers.push_back(report.number);
+    return numbers;
+}
+
 Short Bench::buttonOf(std::string_view tag) const {
     const auto& places = editor.form.cmdSym;
     const auto found = std::find_if(places.begin(), places.end(),
@@ -104,6 +120,23 @@ PaletteButton& Bench::button(std::string_view tag) {
     return editor.form.cmdSym[static_cast<std::size_t>(buttonOf(tag))];
 }
 
+void Bench::load(std::string_view devices, std::string_view labels) {
+    drawing.DeviceString = devices;
+    drawing.LabelString = labels;
+    ParseDeviceString(drawing, machine.platform);
+    ParseLabelString(drawing, machine.platform);
+    RedrawDrawing(editor);
+    canvas.persistent.clear();
+    canvas.persistentCls = 0;
+}
+
+void Bench::addPicture(const PictureRow& row) {
+    drawing.PictureTable.push_back(row);
+    ++drawing.PictureCount;
+    editor.img.push_back(std::make_shared<FakePicture>(10, 20));
+    RebuildPictureString(drawing, machine.platform);
+}
+
 void Bench::fillDevices(Short count) {
     drawing.devices.resize(count);
     std::fill(drawing.devices.DeviceName.begin(), drawing.devices.DeviceName.end(), "InsertGround");
@@ -113,6 +146,16 @@ void Bench::fillDevices(Short count) {
 
 std::string Bench::document(std::string_view name) const {
     return "documents/" + std::string(name);
+}
+
+void Bench::open(const std::string& name) {
+    drawing.CurrentFileName = name;
+    OpenDrawing(editor);
+}
+
+void Bench::save(const std::string& name) {
+    drawing.CurrentFileName = name;
+    SaveDrawing(editor);
 }
 
 void Bench::writeDocument(const std::string& name, std::string_view devices,

@@ -2,34 +2,23 @@
 // one step of the history.
 #include "canvas/Colors.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include "Bench.h"
 #include "canvas/RadiusFields.h"
 #include "canvas/Redraw.h"
 #include "canvas/Selection.h"
 #include "canvas/Undo.h"
-#include "document/Records.h"
 
 namespace ladrix::test {
 namespace {
 
-using testing::ElementsAre;
-
 // One device of each kind, all selected but the last; and two labels, the first selected.
 struct RestyleBench : Bench {
     RestyleBench() {
-        drawing.DeviceString =
-            line("InsertSavedLine|1|1|2|1|0|0") + line("InsertSavedSquare|1|2|2|3|0|3") +
-            line("InsertCircle|3|1|0.25|0||1") + line("InsertSolidCircle|4|1|0.25|0||1") +
-            line("InsertSemiCircle|5|1|0.25|1|0|") + line("InsertArc|6|1|0.25|1|0||1|2|1") +
-            line("InsertLamp|7|1|0||1|1|0|False") + line("InsertCircle|3|3|0.5|0||1");
-        drawing.LabelString =
-            line("a|5|5|7|Arial|8|False|False") + line("b|6|6|7|Arial|8|False|False");
-        ParseDeviceString(drawing, machine.platform);
-        ParseLabelString(drawing, machine.platform);
-        RedrawDrawing(editor);
+        load(line("InsertSavedLine|1|1|2|1|0|0") + line("InsertSavedSquare|1|2|2|3|0|3") +
+                 line("InsertCircle|3|1|0.25|0||1") + line("InsertSolidCircle|4|1|0.25|0||1") +
+                 line("InsertSemiCircle|5|1|0.25|1|0|") + line("InsertArc|6|1|0.25|1|0||1|2|1") +
+                 line("InsertLamp|7|1|0||1|1|0|False") + line("InsertCircle|3|3|0.5|0||1"),
+             line("a|5|5|7|Arial|8|False|False") + line("b|6|6|7|Arial|8|False|False"));
         drawing.TakeUndoSnapshot = [this] { TakeUndoSnapshot(editor); };
         ClearHistory(editor);
         drawing.devices.DeviceSelected = {1, 1, 1, 1, 1, 1, 1, 0};
@@ -39,20 +28,22 @@ struct RestyleBench : Bench {
         start = text();
     }
     std::string text() const { return drawing.DeviceString + drawing.LabelString; }
-    void expectOneStepSince(const std::string& before) {
+    void expectOneStep() {
         const std::string after = text();
-        EXPECT_NE(after, before);
+        EXPECT_NE(after, start);
         EXPECT_TRUE(drawing.DrawingChanged);
         EXPECT_EQ(editor.UndoTop, 1);
         EXPECT_EQ(canvas.persistentCls, 1) << "one redraw";
         mnuEditUndo_Click(editor);
-        EXPECT_EQ(text(), before);
+        EXPECT_EQ(text(), start);
         EXPECT_FALSE(editor.form.picRadius.Visible) << "its figures were of the selection";
         mnuEditRedo_Click(editor);
         EXPECT_EQ(text(), after);
     }
     std::string start;
 };
+
+struct ColorsTest : testing::Test, RestyleBench {};
 
 TEST(Colour, GoesToTheSelectedDevicesAndToLabelsWhenTheyTakeColour) {
     for (const bool labelsToo : {false, true}) {
@@ -70,33 +61,29 @@ TEST(Colour, GoesToTheSelectedDevicesAndToLabelsWhenTheyTakeColour) {
         const auto& colors = bench.drawing.devices.DeviceColor;
         EXPECT_THAT(colors, ElementsAre(Blue, Blue, Blue, Blue, Blue, Blue, Blue, Black));
         EXPECT_THAT(bench.drawing.labels.LabelColor, ElementsAre(labelsToo ? Blue : 7, 7));
-        bench.expectOneStepSince(bench.start);
+        bench.expectOneStep();
     }
 }
 
-TEST(Colour, WithoutASelectionIsThatOfNewItemsOnly) {
-    RestyleBench bench;
-    ResetEditor(bench.editor);
-    bench.play("key 82 6");  // Ctrl+Alt+R
-    lblColor_Click(bench.editor, 1000);
-    EXPECT_EQ(bench.editor.CurrentColor, Red);
-    EXPECT_EQ(bench.text(), bench.start);
-    EXPECT_EQ(bench.editor.UndoTop, 0);
+TEST_F(ColorsTest, ColourWithoutASelectionIsThatOfNewItemsOnly) {
+    ResetEditor(editor);
+    play("key 82 6");  // Ctrl+Alt+R
+    lblColor_Click(editor, 1000);
+    EXPECT_EQ(editor.CurrentColor, Red);
+    EXPECT_EQ(text(), start);
+    EXPECT_EQ(editor.UndoTop, 0);
 }
 
 TEST(SelectionColour, IsTheNextColourChosenUnlessAResetComesFirst) {
     for (const bool reset : {false, true}) {
-        RestyleBench bench;
-        ResetEditor(bench.editor);
+        Bench bench;
         mnuOptChangeSelectionColor_Click(bench.editor);
         EXPECT_TRUE(bench.editor.form.picColors.Visible);
         if (reset) bench.play("key 27 0");
         bench.editor.form.picSelectedColor.BackColor = Blue;
         picSelectedColor_Click(bench.editor);
-        EXPECT_EQ(bench.editor.SelectionColor, reset ? Magenta : Blue);
         bench.play("key 82 6");
         EXPECT_EQ(bench.editor.SelectionColor, reset ? Magenta : Blue) << "once only";
-        EXPECT_EQ(bench.editor.UndoTop, 0);
     }
 }
 
@@ -110,7 +97,7 @@ TEST(Width, ALineFollowsItsButtonAllElseOnlyWithThickSymbols) {
         EXPECT_THAT(tags, ElementsAre("DrawWidth=2", other, other, other, other, other, other, ""));
         EXPECT_EQ(bench.editor.form.cmdDrawWidth[0].BackColor, Cyan);
         EXPECT_EQ(bench.editor.form.cmdDrawWidth[1].BackColor, ButtonFace);
-        bench.expectOneStepSince(bench.start);
+        bench.expectOneStep();
         mnuEditSelectAll_Click(bench.editor);
         cmdDrawWidth_Click(bench.editor, 1);
         EXPECT_THAT(tags, testing::Each(""));
@@ -126,9 +113,7 @@ TEST(ApplyRadius, GoesToSelectedCirclesAndArcsTheAnglesToArcs) {
         Single circle, arc;
         const char* shown;
     };
-    for (const Case& c : {Case{"0,75", 0.75f, 0.75f, "0.75"},
-                          {"", 0.0375f, 0.125f, "0.125"},
-                          {".,", 0.0375f, 0.125f, "0.125"}}) {
+    for (const Case& c : {Case{"0,75", 0.75f, 0.75f, "0.75"}, {".,", 0.0375f, 0.125f, "0.125"}}) {
         RestyleBench bench;
         FormLX& form = bench.editor.form;
         form.picRadius.Visible = true;
@@ -148,22 +133,18 @@ TEST(ApplyRadius, GoesToSelectedCirclesAndArcsTheAnglesToArcs) {
         EXPECT_EQ(form.txtRadius.Text, c.shown) << "of the last one";
         EXPECT_EQ(form.FocusRequest, Focus::Canvas);
         EXPECT_EQ(bench.editor.SelectedCount, 8) << "the selection stays for the next try";
-        bench.expectOneStepSince(bench.start);
+        bench.expectOneStep();
     }
-    RestyleBench none;
-    ResetEditor(none.editor);
-    none.editor.form.txtRadius.Text = "2";
-    cmdCircle_Click(none.editor);
-    EXPECT_EQ(none.editor.UndoTop, 0);
-    EXPECT_EQ(none.editor.CircleRadius, 2);
 }
 
-TEST(ApplyRadius, EnterInTheStartAngleLeadsToTheEndAngle) {
-    Bench bench;
-    txtCircleStart_KeyDown(bench.editor, '5');
-    EXPECT_EQ(bench.editor.form.FocusRequest, Focus::None);
-    txtCircleStart_KeyDown(bench.editor, 13);
-    EXPECT_EQ(bench.editor.form.FocusRequest, Focus::CircleEnd);
+TEST_F(ColorsTest, ApplyRadiusWithoutASelectionIsForNewCircles) {
+    ResetEditor(editor);
+    editor.form.txtRadius.Text = "2";
+    cmdCircle_Click(editor);
+    EXPECT_EQ(editor.UndoTop, 0);
+    EXPECT_EQ(editor.CircleRadius, 2);
+    txtCircleStart_KeyDown(editor, 13);
+    EXPECT_EQ(editor.form.FocusRequest, Focus::CircleEnd) << "Enter leads on";
 }
 
 }  // namespace

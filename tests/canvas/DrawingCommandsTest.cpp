@@ -1,9 +1,6 @@
 // New, open, save and the prompt before each; templates, the crash copy and the description.
 #include "canvas/DrawingCommands.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <filesystem>
 
 #include "Bench.h"
@@ -11,12 +8,7 @@
 namespace ladrix::test {
 namespace {
 
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
-
-constexpr const char* Ground = "InsertGround|1|1|0||1|1|0|False";
-constexpr const char* Lamp = "InsertLamp|2|2|0||1|1|0|False";
+using namespace std::string_literals;
 
 struct CommandBench : Bench {
     CommandBench() {
@@ -31,17 +23,14 @@ struct CommandBench : Bench {
 
     // A drawing of one device that has not been saved yet.
     void drawGround() { play("tool Ground; click 1 1; key 27 0"); }
-    void open(const char* name) {
-        drawing.CurrentFileName = name;
-        OpenDrawing(editor);
-    }
     bool hasFile(const char* name) const { return machine.folder.has(document(name)); }
-    std::string file(const char* name) const { return machine.folder.read(document(name)); }
 
     // What the person does in the browser's save mode: "" cancels it.
     std::string nameInBrowser;
     int saveBrowsers = 0, openBrowsers = 0;
 };
+
+struct DrawingCommandsTest : testing::Test, CommandBench {};
 
 enum class Command { New, Open, Exit };
 
@@ -108,28 +97,16 @@ TEST(SavePrompt, IsLeftOutForAnUnchangedDrawingAndForTheDemos) {
         CommandBench unchanged;
         unchanged.drawing.CurrentFileName = "Mine.els";
         EXPECT_TRUE(run(unchanged, command));
-        EXPECT_THAT(unchanged.machine.dialogs.boxes, IsEmpty());
+        EXPECT_THAT(unchanged.boxes(), IsEmpty());
 
         CommandBench demo;
         demo.drawing.CurrentFileName = "Demo2.els";
         demo.drawGround();
         EXPECT_TRUE(run(demo, command));
-        EXPECT_THAT(demo.machine.dialogs.boxes, IsEmpty());
+        EXPECT_THAT(demo.boxes(), IsEmpty());
         EXPECT_FALSE(demo.drawing.DrawingChanged);
         EXPECT_FALSE(demo.hasFile("Demo2.els"));
     }
-}
-
-TEST(SavePrompt, ACancelOfLongAgoDoesNotKeepTheWindowOpen) {
-    CommandBench bench;
-    bench.drawGround();
-    bench.drawing.CurrentFileName = "Mine.els";
-    bench.machine.dialogs.answers = {Answer::Cancel};
-    mnuFileOpen_Click(bench.editor);
-    bench.drawing.OpenAfterSave = false;
-    mnuFileSave_Click(bench.editor);
-    EXPECT_TRUE(Form_QueryUnload(bench.editor));
-    EXPECT_EQ(bench.machine.dialogs.boxes.size(), 1u);
 }
 
 TEST(SavePrompt, AnExitAskedForStandsUntilTheNextNewOrOpen) {
@@ -146,93 +123,69 @@ TEST(SavePrompt, AnExitAskedForStandsUntilTheNextNewOrOpen) {
     }
 }
 
-TEST(New, ARecordedDeviceForgetsTheNewDrawingAskedFor) {
-    CommandBench bench;
-    bench.drawGround();
-    bench.drawing.CurrentFileName = "Mine.els";
-    bench.machine.dialogs.answers = {Answer::Cancel};
-    mnuFileNew_Click(bench.editor);
-    bench.play("tool Lamp; click 2 2; key 27 0");
-    mnuFileSave_Click(bench.editor);
-    EXPECT_THAT(bench.devices(), ElementsAre(Ground, Lamp));
-    EXPECT_EQ(bench.drawing.CurrentFileName, "Mine.els");
-}
-
-TEST(New, EmptiesEverythingAndIsUntitled) {
-    CommandBench bench;
-    bench.writeDocument("A.els", line(Ground), line("Motor|1|2|0|Arial|8|False|False"));
-    bench.open("A.els");
-    bench.drawing.FileDescription = "Old";
-    bench.editor.ZoomFactor = 2;
+TEST_F(DrawingCommandsTest, NewEmptiesEverythingAndIsUntitled) {
+    writeDocument("A.els", line(Ground), line("Motor|1|2|0|Arial|8|False|False"));
+    open("A.els");
+    drawing.FileDescription = "Old";
+    editor.ZoomFactor = 2;
     int cleared = 0;
-    bench.editor.ClearHistory = [&] { ++cleared; };
-    mnuFileNew_Click(bench.editor);
-    EXPECT_EQ(bench.drawing.DeviceString + bench.drawing.LabelString, "");
-    EXPECT_EQ(bench.drawing.FileDescription, "");
-    EXPECT_THAT(bench.editor.form.lbl, IsEmpty());
-    EXPECT_THAT(bench.canvas.persistent, IsEmpty());
-    EXPECT_EQ(bench.editor.ZoomFactor, 1);
+    editor.ClearHistory = [&] { ++cleared; };
+    mnuFileNew_Click(editor);
+    EXPECT_EQ(drawing.DeviceString + drawing.LabelString + drawing.FileDescription, "");
+    EXPECT_THAT(editor.form.lbl, IsEmpty());
+    EXPECT_THAT(canvas.persistent, IsEmpty());
+    EXPECT_EQ(editor.ZoomFactor, 1);
     EXPECT_EQ(cleared, 1);
-    EXPECT_EQ(bench.drawing.TitleState, 0);
-    EXPECT_EQ(bench.editor.form.Caption,
-              "Ladrix - Current Library: User Symbols - File Name: Untitled");
+    EXPECT_EQ(drawing.TitleState, 0);
+    EXPECT_EQ(editor.form.Caption, "Ladrix - Current Library: User Symbols - File Name: Untitled");
 }
 
-TEST(New, IsRefusedWhileACopyWaitsForItsPoint) {
-    CommandBench bench;
-    bench.drawGround();
-    bench.drawing.CurrentFileName = "Mine.els";
-    bench.drawing.DrawingChanged = false;
-    bench.editor.CopyStage = 1;
-    mnuFileNew_Click(bench.editor);
-    ASSERT_EQ(bench.machine.dialogs.boxes.size(), 1u);
-    EXPECT_EQ(bench.machine.dialogs.boxes[0].text,
-              "New drawing not possible. Copy point not selected.");
-    EXPECT_THAT(bench.devices(), ElementsAre(Ground));
-    EXPECT_EQ(bench.drawing.CurrentFileName, "Mine.els");
+TEST_F(DrawingCommandsTest, NewIsRefusedWhileACopyWaitsForItsPoint) {
+    drawGround();
+    drawing.CurrentFileName = "Mine.els";
+    drawing.DrawingChanged = false;
+    editor.CopyStage = 1;
+    mnuFileNew_Click(editor);
+    EXPECT_THAT(boxes(), ElementsAre("New drawing not possible. Copy point not selected."));
+    EXPECT_THAT(devices(), ElementsAre(Ground));
+    EXPECT_EQ(drawing.CurrentFileName, "Mine.els");
 }
 
-TEST(Save, WritesTheDrawingAndSaysSo) {
-    CommandBench bench;
-    bench.drawGround();
-    bench.drawing.FileDescription = "Conveyor start circuit";
-    bench.drawing.PageLayoutKey = "11x17Landscape";
-    bench.drawing.LabelString = line("Motor|1|2|0|Arial|8|False|False");
-    bench.drawing.CurrentFileName = "Mine.els";
-    mnuFileSave_Click(bench.editor);
+TEST_F(DrawingCommandsTest, SaveWritesTheDrawingAndSaysSo) {
+    drawGround();
+    drawing.FileDescription = "Conveyor start circuit";
+    drawing.PageLayoutKey = "11x17Landscape";
+    drawing.LabelString = line("Motor|1|2|0|Arial|8|False|False");
+    drawing.CurrentFileName = "Mine.els";
+    mnuFileSave_Click(editor);
     const std::string text =
         "///File Description///\r\nConveyor start circuit\r\n"
         "///End File Description///\r\n11x17Landscape\r\n\r\n" +
         line(Ground) + "\r\n" + line("Motor|1|2|0|Arial|8|False|False") + "///Picture Files///\r\n";
-    EXPECT_EQ(bench.file("Mine.els"), text);
-    EXPECT_EQ(bench.message(), "File saved.");
-    EXPECT_FALSE(bench.drawing.DrawingChanged);
-    EXPECT_EQ(bench.drawing.TitleState, 1);
-    EXPECT_THAT(bench.editor.form.Caption, HasSubstr("File Name: Mine.els"));
-    EXPECT_EQ(bench.machine.folder.entries("documents"), (std::vector<std::string>{"Mine.els"}));
+    EXPECT_EQ(file("Mine.els"), text);
+    EXPECT_EQ(message(), "File saved.");
+    EXPECT_FALSE(drawing.DrawingChanged);
+    EXPECT_EQ(drawing.TitleState, 1);
+    EXPECT_THAT(editor.form.Caption, HasSubstr("File Name: Mine.els"));
+    EXPECT_THAT(machine.folder.entries("documents"), ElementsAre("Mine.els"));
 
-    CommandBench second;
-    second.machine.folder.write(second.document("Mine.els"), text);
-    second.open("Mine.els");
-    EXPECT_EQ(second.drawing.FileDescription, "Conveyor start circuit");
-    EXPECT_EQ(second.editor.PageWidth, 17);
-    second.drawing.CurrentFileName = "Again.els";
-    mnuFileSave_Click(second.editor);
-    EXPECT_EQ(second.file("Again.els"), text) << "the same bytes";
+    mnuFileNew_Click(editor);
+    open("Mine.els");
+    EXPECT_EQ(drawing.FileDescription, "Conveyor start circuit");
+    EXPECT_EQ(editor.PageWidth, 17);
+    drawing.CurrentFileName = "Again.els";
+    mnuFileSave_Click(editor);
+    EXPECT_EQ(file("Again.els"), text) << "the same bytes";
 }
 
-TEST(Save, AnUntitledDrawingAsksForItsNameInTheBrowser) {
-    CommandBench bench;
-    bench.drawGround();
-    mnuFileSave_Click(bench.editor);
-    EXPECT_EQ(bench.saveBrowsers, 1);
-    EXPECT_TRUE(bench.drawing.DrawingChanged);
-    bench.drawing.CurrentFileName = "Mine.els";
-    bench.nameInBrowser = "Other.els";
-    mnuFileSaveAs_Click(bench.editor);
-    EXPECT_EQ(bench.saveBrowsers, 2);
-    EXPECT_TRUE(bench.hasFile("Other.els"));
-    EXPECT_FALSE(bench.drawing.SaveInProgress);
+TEST_F(DrawingCommandsTest, SaveAsAsksForANameInTheBrowser) {
+    drawGround();
+    drawing.CurrentFileName = "Mine.els";
+    nameInBrowser = "Other.els";
+    mnuFileSaveAs_Click(editor);
+    EXPECT_EQ(saveBrowsers, 1);
+    EXPECT_TRUE(hasFile("Other.els"));
+    EXPECT_FALSE(hasFile("Mine.els") || drawing.SaveInProgress);
 }
 
 TEST(Save, RefusesTheDemosAndTheSymbolFolders) {
@@ -248,56 +201,39 @@ TEST(Save, RefusesTheDemosAndTheSymbolFolders) {
           Case{"A.els", "buttons/",
                "Files cannot be saved to the User Buttons Folder. Select a different folder."}}) {
         CommandBench bench;
-        bench.machine.folder.makeFolder("symbols");
-        bench.machine.folder.makeFolder("buttons");
+        bench.machine.folder.makeFolder(c.folder);
         bench.drawGround();
-        bench.drawing.CurrentFileName = c.name;
         bench.drawing.CurrentFolder = bench.machine.folder / c.folder;
-        mnuFileSave_Click(bench.editor);
-        ASSERT_EQ(bench.machine.dialogs.boxes.size(), 1u) << c.text;
-        EXPECT_EQ(bench.machine.dialogs.boxes[0].text, c.text);
+        bench.save(c.name);
+        EXPECT_THAT(bench.boxes(), ElementsAre(c.text));
         EXPECT_THAT(bench.machine.folder.entries(c.folder), IsEmpty());
         EXPECT_TRUE(bench.drawing.DrawingChanged);
     }
     CommandBench author;
     author.editor.LoggedIn = true;
     author.drawGround();
-    author.drawing.CurrentFileName = "Demo1.els";
-    mnuFileSave_Click(author.editor);
+    author.save("Demo1.els");
     EXPECT_TRUE(author.hasFile("Demo1.els"));
 }
 
 TEST(Save, AFailureLeavesTheOldFileTheNameAndTheMark) {
-    struct Case {
-        Failure failure;
-        Command command;
-    };
-    for (const Case& c : {Case{{failure::DiskFull, "No space left on device"}, Command::New},
-                          Case{{failure::PermissionDenied, "Permission denied"}, Command::Open},
-                          Case{{failure::DeviceIO, "Input/output error"}, Command::Exit}}) {
+    for (const Command command : {Command::New, Command::Open, Command::Exit}) {
         CommandBench bench;
         bench.machine.folder.write(bench.document("Mine.els"), "old");
         bench.drawGround();
         bench.drawing.CurrentFileName = "Mine.els";
-        bench.machine.files.fail(Operation::Replace, c.failure, "Mine.els");
+        const Failure full{failure::DiskFull, "No space left on device"};
+        bench.machine.files.fail(Operation::Replace, full, "Mine.els");
         bench.machine.dialogs.answers = {Answer::Yes};
-        EXPECT_EQ(run(bench, c.command), c.command != Command::Exit);
-        ASSERT_EQ(bench.machine.reports.size(), 1u) << c.failure.text;
-        EXPECT_EQ(bench.machine.reports[0].number, c.failure.number);
-        EXPECT_EQ(bench.machine.reports[0].text, c.failure.text);
+        EXPECT_EQ(run(bench, command), command != Command::Exit);
+        EXPECT_THAT(bench.reports(), ElementsAre(full.number));
         EXPECT_EQ(bench.file("Mine.els"), "old");
         EXPECT_EQ(bench.drawing.CurrentFileName, "Mine.els");
         EXPECT_TRUE(bench.drawing.DrawingChanged);
         EXPECT_THAT(bench.devices(), ElementsAre(Ground)) << "nothing is given up";
         EXPECT_EQ(bench.openBrowsers, 0);
         EXPECT_FALSE(bench.machine.shell.ended);
-        EXPECT_EQ(bench.message(), "The drawing was not saved. " + c.failure.text);
-        bench.machine.files.heal();
-        bench.drawing.NewAfterSave = bench.drawing.OpenAfterSave = bench.drawing.ExitAfterSave =
-            false;
-        mnuFileSave_Click(bench.editor);
-        EXPECT_THAT(bench.file("Mine.els"), HasSubstr("InsertGround"));
-        EXPECT_FALSE(bench.drawing.DrawingChanged);
+        EXPECT_EQ(bench.message(), "The drawing was not saved. " + full.text);
     }
 }
 
@@ -305,130 +241,76 @@ TEST(Open, OfAFileThatCannotBeReadReportsOnceAndLeavesItAlone) {
     struct Case {
         const char* name;
         int number;
+        int devices;  // shown all the same
     };
-    for (const Case& c : {Case{"Missing.els", failure::FileNotFound}, Case{"Locked.els", 70}}) {
+    for (const Case& c : {Case{"Missing.els", failure::FileNotFound, 0},
+                          Case{"Locked.els", failure::PermissionDenied, 0},
+                          Case{"Damaged.els", failure::TypeMismatch, 1}}) {
+        SCOPED_TRACE(c.name);
         CommandBench bench;
         bench.writeDocument("Locked.els", line(Lamp));
+        bench.writeDocument("Damaged.els",
+                            line(Ground) + line("InsertLamp|two|2|0||1|1|0|False") + line(Lamp));
         bench.machine.folder.write("program/Temp_Drawing.els", "crash copy");
         bench.machine.files.fail(Operation::Read, {70, "Permission denied"}, "Locked");
+        const auto content = [&] { return bench.hasFile(c.name) ? bench.file(c.name) : ""; };
+        const std::string before = content();
         bench.open(c.name);
-        ASSERT_EQ(bench.machine.reports.size(), 1u) << c.name;
-        EXPECT_EQ(bench.machine.reports[0].number, c.number);
+        EXPECT_THAT(bench.reports(), ElementsAre(c.number));
+        EXPECT_EQ(bench.drawing.devices.DeviceCount, c.devices);
         EXPECT_FALSE(bench.drawing.Reading);
-        EXPECT_TRUE(bench.machine.folder.has("program/Temp_Drawing.els"));
-        const std::string before = bench.file("Locked.els");
+        EXPECT_EQ(bench.machine.folder.has("program/Temp_Drawing.els"), c.devices == 0);
+        EXPECT_THAT(bench.editor.form.Caption, HasSubstr("Untitled"));
         mnuFileSave_Click(bench.editor);
         EXPECT_EQ(bench.saveBrowsers, 1) << "no name that a save could go to";
-        EXPECT_EQ(bench.file("Locked.els"), before);
-        EXPECT_THAT(bench.editor.form.Caption, HasSubstr("Untitled"));
+        EXPECT_EQ(content(), before);
     }
 }
 
-TEST(Open, OfADamagedFileShowsItsStartWithoutAName) {
-    CommandBench bench;
-    bench.writeDocument("damaged.els",
-                        line(Ground) + line("InsertLamp|two|2|0||1|1|0|False") + line(Lamp));
-    const std::string text = bench.file("damaged.els");
-    bench.open("damaged.els");
-    EXPECT_EQ(bench.drawing.devices.DeviceCount, 1);
-    EXPECT_EQ(bench.machine.reports.size(), 1u);
-    EXPECT_EQ(bench.drawing.CurrentFileName, "");
-    EXPECT_THAT(bench.editor.form.lblMessage.Caption, HasSubstr("damaged.els"));
-    SaveDrawing(bench.editor);
-    EXPECT_EQ(bench.saveBrowsers, 1);
-    EXPECT_EQ(bench.file("damaged.els"), text);
-}
-
-TEST(Open, ReplacesTheDrawingAndStartsItsHistory) {
-    CommandBench bench;
-    bench.drawGround();
-    bench.writeDocument("B.els", line(Lamp), line("Motor|1|2|0|Arial|8|False|False"),
-                        "11x17Landscape");
+TEST_F(DrawingCommandsTest, OpenReplacesTheDrawingAndStartsItsHistory) {
+    drawGround();
+    writeDocument("B.els", line(Lamp), line("Motor|1|2|0|Arial|8|False|False"), "11x17Landscape");
     std::string first;
-    bench.editor.ClearHistory = [&] { first = bench.drawing.DeviceString; };
-    bench.drawing.OpenAfterSave = true;
-    bench.open("B.els");
-    EXPECT_THAT(bench.devices(), ElementsAre(Lamp));
+    editor.ClearHistory = [&] { first = drawing.DeviceString; };
+    drawing.OpenAfterSave = true;
+    open("B.els");
+    EXPECT_THAT(devices(), ElementsAre(Lamp));
     EXPECT_EQ(first, line(Lamp)) << "the opened drawing is the first state";
-    EXPECT_EQ(bench.editor.form.lbl.size(), 1u);
-    EXPECT_EQ(bench.editor.PageWidth, 17);
-    EXPECT_FALSE(bench.drawing.DrawingChanged || bench.drawing.OpenAfterSave ||
-                 bench.drawing.Reading);
-    EXPECT_THAT(bench.editor.form.Caption, HasSubstr("File Name: B.els"));
-    EXPECT_FALSE(bench.canvas.persistent.empty());
+    EXPECT_EQ(editor.form.lbl.size(), 1u);
+    EXPECT_EQ(editor.PageWidth, 17);
+    EXPECT_FALSE(drawing.DrawingChanged || drawing.OpenAfterSave || drawing.Reading);
+    EXPECT_THAT(editor.form.Caption, HasSubstr("File Name: B.els"));
+    EXPECT_FALSE(canvas.persistent.empty());
 }
 
-TEST(Open, ADemoComesFromTheProgramsFolder) {
-    CommandBench bench;
-    bench.machine.folder.write("program/Demo2.els", "8.5x11Portrait\r\n\r\n" + line(Lamp) + "\r\n");
-    bench.drawGround();
-    bench.machine.dialogs.answers = {Answer::Cancel};
-    mnuHelpDemo_Click(bench.editor, 2);
-    EXPECT_THAT(bench.devices(), ElementsAre(Ground));
-    bench.machine.dialogs.answers = {Answer::No};
-    mnuHelpDemo_Click(bench.editor, 2);
-    EXPECT_THAT(bench.devices(), ElementsAre(Lamp));
-    EXPECT_EQ(bench.drawing.CurrentFileName, "Demo2.els");
-}
-
-TEST(Preview, GivesUpTheTablesAndReadsDevicesOnly) {
-    CommandBench bench;
-    bench.drawGround();
-    bench.machine.folder.write(
-        bench.document("B.els"),
-        "///File Description///\r\nTwo lines\r\nof text\r\n///End File Description///\r\n"
-        "11x17Landscape\r\n\r\n" +
-            line(Lamp) + "\r\n" + line("Motor|1|2|0|Arial|8|False|False"));
-    const auto read = ReadPreview(bench.editor, bench.drawing.CurrentFolder, "B.els");
-    ASSERT_TRUE(read);
-    EXPECT_EQ(read->pageKey, "11x17Landscape");
-    EXPECT_EQ(read->description, "Two lines\r\nof text");
-    EXPECT_THAT(bench.devices(), ElementsAre(Lamp));
-    EXPECT_EQ(bench.drawing.labels.LabelCount, 0);
-    EXPECT_FALSE(bench.drawing.DrawingChanged);
-}
-
-TEST(Preview, TellsOfWhatCannotBeReadInItsOwnBoxEachTime) {
-    CommandBench bench;
-    bench.writeDocument("Damaged.els", line(Lamp) + line("InsertLamp|two|2|0||1|1|0|False"));
-    for (const char* name : {"Missing.els", "Damaged.els", "Damaged.els"}) {
-        bench.machine.dialogs.boxes.clear();
-        EXPECT_FALSE(ReadPreview(bench.editor, bench.drawing.CurrentFolder, name));
-        ASSERT_EQ(bench.machine.dialogs.boxes.size(), 1u);
-        EXPECT_EQ(bench.machine.dialogs.boxes[0].text,
-                  "File structure corrupted and cannot be read.");
-        EXPECT_EQ(bench.machine.dialogs.boxes[0].title, "Bad File Structure");
-        EXPECT_THAT(bench.machine.reports, IsEmpty());
+TEST_F(DrawingCommandsTest, OpenADemoComesFromTheProgramsFolder) {
+    machine.folder.write("program/Demo2.els", "8.5x11Portrait\r\n\r\n" + line(Lamp) + "\r\n");
+    drawGround();
+    for (const auto& [answer, shown] : {std::pair{Answer::Cancel, Ground}, {Answer::No, Lamp}}) {
+        machine.dialogs.answers = {answer};
+        mnuHelpDemo_Click(editor, 2);
+        EXPECT_THAT(devices(), ElementsAre(shown));
     }
+    EXPECT_EQ(drawing.CurrentFileName, "Demo2.els");
 }
 
-TEST(Template, ComesBeforeTheNextFileOnceOnly) {
-    CommandBench bench;
-    bench.writeDocument("Frame.tpl", line(Ground), line("Title|1|2|0|Arial|8|False|False"));
-    bench.writeDocument("B.els", line(Lamp), line("Motor|3|4|0|Arial|8|False|False"));
-    bench.open("Frame.tpl");
-    EXPECT_TRUE(bench.drawing.TemplateActive);
-    bench.open("B.els");
-    EXPECT_THAT(bench.devices(), ElementsAre(Ground, Lamp));
-    EXPECT_THAT(bench.drawing.labels.LabelText, ElementsAre("Title", "Motor"));
-    EXPECT_EQ(bench.editor.form.lbl.size(), 2u);
-    EXPECT_FALSE(bench.drawing.TemplateActive);
-    bench.open("B.els");
-    EXPECT_THAT(bench.devices(), ElementsAre(Lamp));
-}
-
-TEST(Template, SavedUnderItsExtensionIsInForceTooAndTwoAddUp) {
-    CommandBench bench;
-    bench.drawGround();
-    bench.drawing.CurrentFileName = "Frame.TPL";
-    mnuFileSave_Click(bench.editor);
-    EXPECT_TRUE(bench.drawing.TemplateActive);
-    bench.writeDocument("Second.tpl", line(Lamp));
-    bench.writeDocument("C.els", line("InsertFuse|3|3|0||1|1|0|False"));
-    bench.open("Second.tpl");
-    EXPECT_TRUE(bench.drawing.TemplateActive);
-    bench.open("C.els");
-    EXPECT_THAT(bench.devices(), ElementsAre(Ground, Lamp, "InsertFuse|3|3|0||1|1|0|False"));
+TEST_F(DrawingCommandsTest, TemplatesSavedAndOpenedAddUpAndComeBeforeTheNextFileOnce) {
+    drawGround();
+    drawing.CurrentFileName = "Frame.TPL";
+    mnuFileSave_Click(editor);
+    EXPECT_TRUE(drawing.TemplateActive);
+    writeDocument("Second.tpl", line(Lamp), line("Title|1|2|0|Arial|8|False|False"));
+    writeDocument("C.els", line("InsertFuse|3|3|0||1|1|0|False"),
+                  line("Motor|3|4|0|Arial|8|False|False"));
+    open("Second.tpl");
+    EXPECT_TRUE(drawing.TemplateActive);
+    open("C.els");
+    EXPECT_THAT(devices(), ElementsAre(Ground, Lamp, "InsertFuse|3|3|0||1|1|0|False"));
+    EXPECT_THAT(drawing.labels.LabelText, ElementsAre("Title", "Motor"));
+    EXPECT_EQ(editor.form.lbl.size(), 2u);
+    EXPECT_FALSE(drawing.TemplateActive);
+    open("C.els");
+    EXPECT_EQ(drawing.devices.DeviceCount, 1);
 }
 
 TEST(CrashCopy, ComesBackUntitledAndIsGoneAfterwards) {
@@ -456,72 +338,65 @@ TEST(CrashCopy, ComesBackUntitledAndIsGoneAfterwards) {
     EXPECT_EQ(next.devices().size(), 2u);
 }
 
-TEST(CrashCopy, IsDeletedByAnOpenSoThatNothingIsRestored) {
-    CommandBench bench;
-    bench.drawGround();
-    bench.writeDocument("B.els", line(Lamp));
-    bench.open("B.els");
-    EXPECT_FALSE(bench.machine.folder.has("program/Temp_Drawing.els"));
-    mnuFileRestore_Click(bench.editor);
-    EXPECT_THAT(bench.devices(), IsEmpty()) << "a new drawing stays";
-    EXPECT_EQ(bench.drawing.CurrentFileName, "");
+TEST_F(DrawingCommandsTest, CrashCopyIsDeletedByAnOpenAndStaysWhereItCannotBeRead) {
+    drawGround();
+    machine.files.fail(Operation::Read, {failure::DeviceIO, "Input/output error"});
+    machine.dialogs.answers = {Answer::No};
+    mnuFileRestore_Click(editor);
+    EXPECT_THAT(reports(), ElementsAre(failure::DeviceIO));
+    EXPECT_TRUE(machine.folder.has("program/Temp_Drawing.els"));
+    machine.files.heal();
+    writeDocument("B.els", line(Lamp));
+    open("B.els");
+    EXPECT_FALSE(machine.folder.has("program/Temp_Drawing.els"));
+    mnuFileRestore_Click(editor);
+    EXPECT_THAT(devices(), IsEmpty()) << "a new drawing stays";
+    EXPECT_EQ(drawing.CurrentFileName, "");
 }
 
-TEST(CrashCopy, RestoringAsksFirstAndHoldsItsTemplateAlready) {
-    CommandBench bench;
-    bench.writeDocument("Frame.tpl", line(Ground));
-    bench.open("Frame.tpl");
-    bench.play("tool Lamp; click 2 2; click 3 3; key 27 0");
-    bench.machine.dialogs.answers = {Answer::Cancel};
-    mnuFileRestore_Click(bench.editor);
-    EXPECT_EQ(bench.devices().size(), 3u);
-    EXPECT_TRUE(bench.machine.folder.has("program/Temp_Drawing.els"));
-    bench.machine.dialogs.answers = {Answer::No};
-    mnuFileRestore_Click(bench.editor);
-    EXPECT_THAT(bench.devices(), ElementsAre(Ground, Lamp));
+TEST_F(DrawingCommandsTest, CrashCopyRestoringAsksFirstAndHoldsItsTemplateAlready) {
+    writeDocument("Frame.tpl", line(Ground));
+    open("Frame.tpl");
+    play("tool Lamp; click 2 2; click 3 3; key 27 0");
+    machine.dialogs.answers = {Answer::Cancel};
+    mnuFileRestore_Click(editor);
+    EXPECT_EQ(devices().size(), 3u);
+    EXPECT_TRUE(machine.folder.has("program/Temp_Drawing.els"));
+    machine.dialogs.answers = {Answer::No};
+    mnuFileRestore_Click(editor);
+    EXPECT_THAT(devices(), ElementsAre(Ground, Lamp));
 }
 
-TEST(CrashCopy, ThatCannotBeReadStaysWhereItIs) {
-    CommandBench bench;
-    bench.machine.folder.write("program/Temp_Drawing.els", "8.5x11Portrait\r\n\r\n" + line(Lamp));
-    bench.machine.files.fail(Operation::Read, {failure::DeviceIO, "Input/output error"});
-    mnuFileRestore_Click(bench.editor);
-    EXPECT_EQ(bench.machine.reports.size(), 1u);
-    EXPECT_TRUE(bench.machine.folder.has("program/Temp_Drawing.els"));
-}
-
-TEST(Description, IsEditedInItsOwnDialog) {
-    CommandBench bench;
-    bench.drawing.FileDescription = "Old";
-    mnuEditFileDescription_Click(bench.editor);
-    EXPECT_THAT(bench.machine.dialogs.forms, ElementsAre(Form::frmDesc));
-    EXPECT_EQ(bench.editor.frmDesc.txtDescription, "Old");
-    bench.editor.frmDesc.txtDescription = "New";
-    frmDesc_cmdExit_Click(bench.editor);
-    EXPECT_EQ(bench.drawing.FileDescription, "Old");
-    EXPECT_FALSE(bench.editor.frmDesc.Visible || bench.drawing.DrawingChanged);
-    frmDesc_cmdSave_Click(bench.editor);
-    EXPECT_EQ(bench.drawing.FileDescription, "New");
-    EXPECT_TRUE(bench.drawing.DrawingChanged);
+TEST_F(DrawingCommandsTest, DescriptionIsEditedInItsOwnDialog) {
+    drawing.FileDescription = "Old";
+    mnuEditFileDescription_Click(editor);
+    EXPECT_THAT(machine.dialogs.forms, ElementsAre(Form::frmDesc));
+    EXPECT_EQ(editor.frmDesc.txtDescription, "Old");
+    editor.frmDesc.txtDescription = "New";
+    frmDesc_cmdExit_Click(editor);
+    EXPECT_EQ(drawing.FileDescription, "Old");
+    EXPECT_FALSE(editor.frmDesc.Visible || drawing.DrawingChanged);
+    frmDesc_cmdSave_Click(editor);
+    EXPECT_EQ(drawing.FileDescription, "New");
+    EXPECT_TRUE(drawing.DrawingChanged);
 }
 
 TEST(OpenDrawing, ShowsTheWholeWidthOfTheProgramsMotorDrawings) {
-    for (const bool programs : {true, false})
-        for (const std::string name : {"Motor Forward Power And Logic.els",
-                                       "Motor Reverse Power And Logic.els", "Mine.els"}) {
-            CommandBench bench;
-            bench.editor.form.FrameWidth = 18.2f * TwipsPerInch;
-            if (programs) bench.drawing.CurrentFolder = bench.editor.AppFilePath;
-            bench.machine.folder.write((programs ? "program/" : "documents/") + name,
-                                       "8.5x11Portrait\r\n\r\n" + line(Ground) + "\r\n");
-            bench.open(name.c_str());
-            ASSERT_EQ(bench.drawing.devices.DeviceCount, 1);
-            const bool whole = programs && name != "Mine.els";
-            EXPECT_EQ(bench.editor.ZoomStepCount, whole ? 3 : 0) << name;
-            EXPECT_GE(bench.editor.VisibleWidth, bench.editor.PageWidth);
-            EXPECT_EQ(bench.editor.ScaleTop, 0);
-            EXPECT_FALSE(bench.editor.SimulationMode) << "it can be edited";
-        }
+    const std::string motor = "Motor Reverse Power And Logic.els";
+    for (const std::string& path :
+         {"program/" + motor, "program/Mine.els"s, "documents/" + motor}) {
+        CommandBench bench;
+        const std::size_t name = path.find('/') + 1;
+        bench.editor.form.FrameWidth = 18.2f * TwipsPerInch;
+        bench.drawing.CurrentFolder = bench.machine.folder / path.substr(0, name);
+        bench.machine.folder.write(path, "8.5x11Portrait\r\n\r\n" + line(Ground) + "\r\n");
+        bench.open(path.substr(name));
+        ASSERT_EQ(bench.drawing.devices.DeviceCount, 1);
+        EXPECT_EQ(bench.editor.ZoomStepCount, path == "program/" + motor ? 3 : 0) << path;
+        EXPECT_GE(bench.editor.VisibleWidth, bench.editor.PageWidth);
+        EXPECT_EQ(bench.editor.ScaleTop, 0);
+        EXPECT_FALSE(bench.editor.SimulationMode) << "it can be edited";
+    }
 }
 
 }  // namespace

@@ -1,9 +1,6 @@
 // What the keys mean, on the form and on the canvas.
 #include "canvas/Keys.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include "Bench.h"
 #include "canvas/View.h"
 #include "document/Records.h"
@@ -11,32 +8,31 @@
 namespace ladrix::test {
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
+using KeysTest = BenchTest;
 
 TEST(Escape, LeavesEveryStateTheSameWay) {
     for (const char* script :
          {"tool Ground; move 1 1", "tool Line; click 1 1; click 2 1", "tool Square; click 1 1",
           "tool Text; move 1 1", "press 1 1; drag 2 2"}) {
+        SCOPED_TRACE(script);
         Bench bench;
-        bench.editor.ZoomInPending = bench.editor.TextAlignPending = true;
+        Editor& editor = bench.editor;
+        editor.ZoomInPending = editor.TextAlignPending = true;
         bench.play(script);
-        bench.editor.CopyArmed = bench.editor.MoveMode = true;
-        bench.editor.CopyStage = 2;
+        editor.CopyArmed = editor.MoveMode = true;
+        editor.CopyStage = 2;
         bench.play("key 27 0");
-        const Editor& editor = bench.editor;
-        EXPECT_EQ(editor.CurrentTool, -1) << script;
-        EXPECT_FALSE(editor.ToolActive || editor.ToolCursor || editor.ToolBlocksBand) << script;
-        EXPECT_FALSE(editor.ZoomInPending || editor.TextAlignPending) << script;
-        EXPECT_FALSE(editor.CopyArmed || editor.MoveMode || editor.CopyStage != 0) << script;
-        EXPECT_FALSE(editor.SquareStarted || editor.BandArmed || editor.MouseIsDown) << script;
-        EXPECT_EQ(editor.LineStartX, NoPoint) << script;
-        EXPECT_THAT(bench.canvas.temporary, IsEmpty()) << script;
-        EXPECT_FALSE(editor.form.picText.Visible || editor.form.picRadius.Visible) << script;
+        EXPECT_EQ(editor.CurrentTool, -1);
+        EXPECT_FALSE(editor.ToolActive || editor.ToolCursor || editor.ToolBlocksBand);
+        EXPECT_FALSE(editor.ZoomInPending || editor.TextAlignPending);
+        EXPECT_FALSE(editor.CopyArmed || editor.MoveMode || editor.CopyStage != 0);
+        EXPECT_FALSE(editor.SquareStarted || editor.BandArmed || editor.MouseIsDown);
+        EXPECT_EQ(editor.LineStartX, NoPoint);
+        EXPECT_THAT(bench.canvas.temporary, IsEmpty());
+        EXPECT_FALSE(editor.form.picText.Visible || editor.form.picRadius.Visible);
     }
     EXPECT_FALSE(Form_KeyPress(key::Escape)) << "its character reaches no text box";
     EXPECT_TRUE(Form_KeyPress('a'));
-    EXPECT_TRUE(Form_KeyPress(key::Enter));
 }
 
 TEST(PageKeys, StepByTheVisibleHeightAndStopAtTheEnds) {
@@ -71,31 +67,17 @@ TEST(PageKeys, StepByTheVisibleHeightAndStopAtTheEnds) {
     }
 }
 
-TEST(ControlKeys, HalveAndDoubleTheSnapWithoutLimit) {
-    Bench bench;
-    bench.play("key 37 2; key 37 2");
-    EXPECT_EQ(bench.editor.SnapStep, 0.0625f);
-    EXPECT_EQ(bench.editor.form.cmdSnap.Caption, "Snap: 0.0625");
-    EXPECT_EQ(bench.canvas.persistentCls, 0) << "the grid does not follow";
-    bench.editor.GridFollowsSnap = bench.editor.GridOn = true;
-    bench.play("key 39 2");
-    EXPECT_EQ(bench.editor.SnapStep, 0.125f);
-    EXPECT_EQ(bench.editor.form.cmdSnap.Caption, "Snap: 0.125");
-    EXPECT_GT(bench.canvas.persistentCls, 0);
-    EXPECT_FLOAT_EQ(bench.canvas.persistent.at(0).x1, 0.25f) << "a line at every second step";
-    for (int i = 0; i < 20; ++i)
-        bench.play("key 39 2");
-    EXPECT_EQ(bench.editor.SnapStep, 0.125f * 1048576);
-}
-
-TEST(ColourKeys, NeedControlAndAltTogether) {
-    Bench bench;
-    bench.editor.CurrentColor = 77;
-    Form_KeyDown(bench.editor, 'R', ControlKey);
-    Form_KeyDown(bench.editor, 'R', NoShift);
-    EXPECT_EQ(bench.editor.CurrentColor, 77);
-    Form_KeyDown(bench.editor, 'R', ControlAlt);
-    EXPECT_EQ(bench.editor.form.picSelectedColor.BackColor, Red);
+TEST_F(KeysTest, ControlKeysHalveAndDoubleTheSnapWithoutLimit) {
+    play("key 37 2; key 37 2");
+    EXPECT_EQ(editor.SnapStep, 0.0625f);
+    EXPECT_EQ(editor.form.cmdSnap.Caption, "Snap: 0.0625");
+    EXPECT_EQ(canvas.persistentCls, 0) << "the grid does not follow";
+    editor.GridFollowsSnap = editor.GridOn = true;
+    play("key 39 2");
+    EXPECT_EQ(editor.SnapStep, 0.125f);
+    EXPECT_EQ(editor.form.cmdSnap.Caption, "Snap: 0.125");
+    EXPECT_GT(canvas.persistentCls, 0);
+    EXPECT_FLOAT_EQ(canvas.persistent.at(0).x1, 0.25f) << "a line at every second step";
 }
 
 TEST(PaletteWalk, MovesByOneAndByARowWithinTheButtons) {
@@ -120,21 +102,20 @@ TEST(PaletteWalk, MovesByOneAndByARowWithinTheButtons) {
     }
 }
 
-TEST(PaletteWalk, NeedsAToolAndAFreeKeyboardAndStopsAtAnEmptyPlace) {
-    Bench bench;
-    bench.play("key 40 0");
-    EXPECT_EQ(bench.editor.CurrentTool, -1);
-    bench.play("tool Ground; key 38 1");
-    EXPECT_EQ(bench.editor.CurrentTool, bench.buttonOf("Ground"));
-    bench.editor.TextBoxFocused = true;
-    bench.play("key 38 0");
-    EXPECT_EQ(bench.editor.CurrentTool, bench.buttonOf("Ground"));
-    bench.editor.TextBoxFocused = false;
-    bench.button("Screw Terminal") = {};
-    bench.play("key 37 0");
-    EXPECT_EQ(bench.editor.CurrentTool, bench.buttonOf("Ground"));
-    bench.play("key 38 0");
-    EXPECT_EQ(bench.editor.CurrentTool, bench.buttonOf("Ground") - 4);
+TEST_F(KeysTest, PaletteWalkNeedsAToolAndAFreeKeyboardAndStopsAtAnEmptyPlace) {
+    play("key 40 0");
+    EXPECT_EQ(editor.CurrentTool, -1);
+    play("tool Ground; key 38 1");
+    EXPECT_EQ(editor.CurrentTool, buttonOf("Ground"));
+    editor.TextBoxFocused = true;
+    play("key 38 0");
+    EXPECT_EQ(editor.CurrentTool, buttonOf("Ground"));
+    editor.TextBoxFocused = false;
+    button("Screw Terminal") = {};
+    play("key 37 0");
+    EXPECT_EQ(editor.CurrentTool, buttonOf("Ground"));
+    play("key 38 0");
+    EXPECT_EQ(editor.CurrentTool, buttonOf("Ground") - 4);
 }
 
 // Devices, a label and a picture, all selected as a pick would leave them.
@@ -149,68 +130,60 @@ void selectAll(Bench& bench) {
 }
 
 TEST(ArrowKeys, StretchLinesAlongTheirAxisAndSquaresBothWays) {
+    const std::string across = "tool Line; click 1 1; click 3 1";
+    const std::string down = "tool Line; click 1 1; click 1 3";
+    const std::string square = "tool Square; click 1 1; click 2 3";
     struct Case {
-        const char* shape;
+        std::string shape;
         const char* key;
         const char* device;
     };
     const Case cases[] = {
-        {"tool Line; click 1 1; click 3 1", "key 39 0", "InsertSavedLine|1|1|3.25|1|0|0"},
-        {"tool Line; click 1 1; click 3 1", "key 37 0", "InsertSavedLine|1|1|2.75|1|0|0"},
-        {"tool Line; click 1 1; click 3 1", "key 40 0", "InsertSavedLine|1|1|3|1|0|0"},
-        {"tool Line; click 1 1; click 1 3", "key 40 0", "InsertSavedLine|1|1|1|3.25|0|0"},
-        {"tool Line; click 1 1; click 1 3", "key 38 0", "InsertSavedLine|1|1|1|2.75|0|0"},
-        {"tool Line; click 1 1; click 1 3", "key 39 0", "InsertSavedLine|1|1|1|3|0|0"},
+        {across, "key 39 0", "InsertSavedLine|1|1|3.25|1|0|0"},
+        {across, "key 37 0", "InsertSavedLine|1|1|2.75|1|0|0"},
+        {across, "key 40 0", "InsertSavedLine|1|1|3|1|0|0"},
+        {down, "key 40 0", "InsertSavedLine|1|1|1|3.25|0|0"},
+        {down, "key 38 0", "InsertSavedLine|1|1|1|2.75|0|0"},
+        {down, "key 39 0", "InsertSavedLine|1|1|1|3|0|0"},
         {"tool Line; click 1 1; click 2 3", "key 39 0", "InsertSavedLine|1|1|2|3|0|0"},
-        {"tool Square; click 1 1; click 2 3", "key 39 0", "InsertSavedSquare|1|1|2.25|3|0|0"},
-        {"tool Square; click 1 1; click 2 3", "key 38 0", "InsertSavedSquare|1|1|2|2.75|0|0"},
-        {"tool Ground; click 1 1", "key 39 0", "InsertGround|1|1|0||1|1|0|False"},
+        {square, "key 39 0", "InsertSavedSquare|1|1|2.25|3|0|0"},
+        {square, "key 38 0", "InsertSavedSquare|1|1|2|2.75|0|0"},
+        {"tool Ground; click 1 1", "key 39 0", Ground},
     };
     for (const Case& c : cases) {
+        SCOPED_TRACE(c.shape + ", " + c.key);
         Bench bench;
-        bench.play(std::string(c.shape) + "; key 27 0");
+        bench.play(c.shape + "; key 27 0");
         const std::string before = bench.devices().at(0);
         selectAll(bench);
         bench.play(c.key);
-        EXPECT_THAT(bench.devices(), ElementsAre(c.device)) << c.shape << ", " << c.key;
+        EXPECT_THAT(bench.devices(), ElementsAre(c.device));
         const bool changed = before != c.device;
-        EXPECT_EQ(bench.drawing.DrawingChanged, changed) << c.shape << ", " << c.key;
-        EXPECT_EQ(bench.snapshots, changed ? 1 : 0) << c.shape << ", " << c.key;
+        EXPECT_EQ(bench.drawing.DrawingChanged, changed);
+        EXPECT_EQ(bench.snapshots, changed ? 1 : 0);
         EXPECT_THAT(bench.labels(), ElementsAre("Motor|1|2|0|Arial|8|False|False"));
     }
 }
 
-TEST(ArrowKeys, MoveAllThatIsSelectedWithShift) {
-    Bench bench;
-    bench.play("tool Line; click 1 1; click 2 3; tool Lamp; click 4 4; tool Square; click 1 5");
-    bench.play("click 2 6; key 27 0");
-    bench.drawing.PictureTable = {{1, 1, 2, 1, "a.png", "", true}};
-    bench.drawing.PictureCount = 1;
-    selectAll(bench);
-    bench.play("key 39 1; key 38 1");
-    EXPECT_THAT(bench.devices(), ElementsAre("InsertSavedLine|1.25|0.75|2.25|2.75|0|0",
-                                             "InsertLamp|4.25|3.75|0||1|1|0|False",
-                                             "InsertSavedSquare|1.25|4.75|2.25|5.75|0|0"));
-    EXPECT_THAT(bench.labels(), ElementsAre("Motor|1.25|1.75|0|Arial|8|False|False"));
-    EXPECT_FLOAT_EQ(bench.drawing.PictureTable[0].Left, 1.25f);
-    EXPECT_EQ(bench.drawing.PictureString, line("a.png|1.25|0.75|2|1"));
-    EXPECT_TRUE(bench.drawing.DrawingChanged);
-    EXPECT_TRUE(bench.editor.form.menu[Menu::mnuEditUndo].Enabled);
-}
-
-TEST(ArrowKeys, OtherShiftsAndUnselectedItemsStay) {
-    Bench bench;
-    bench.play("tool Lamp; click 4 4; click 5 4; key 27 0");
-    selectAll(bench);
-    bench.drawing.devices.DeviceSelected[1] = 0;
-    bench.play("key 39 3; key 39 4; key 65 1");
-    EXPECT_FALSE(bench.drawing.DrawingChanged);
-    bench.play("key 39 1");
-    EXPECT_THAT(bench.devices(),
-                ElementsAre("InsertLamp|4.25|4|0||1|1|0|False", "InsertLamp|5|4|0||1|1|0|False"));
-    bench.editor.SelectedCount = 0;
-    bench.play("key 39 1");
-    EXPECT_FLOAT_EQ(bench.drawing.devices.DeviceX[0], 4.25f);
+TEST_F(KeysTest, ArrowKeysMoveAllThatIsSelectedWithShift) {
+    play("tool Line; click 1 1; click 2 3; tool Lamp; click 4 4; tool Square; click 1 5");
+    play("click 2 6; tool Lamp; click 5 4; key 27 0");
+    addPicture({1, 1, 2, 1, "a.png", "", true});
+    selectAll(*this);
+    drawing.devices.DeviceSelected[3] = 0;
+    play("key 39 3; key 39 4; key 65 1");
+    EXPECT_FALSE(drawing.DrawingChanged) << "other keys and other shifts";
+    play("key 39 1; key 38 1");
+    EXPECT_THAT(devices(), ElementsAre("InsertSavedLine|1.25|0.75|2.25|2.75|0|0",
+                                       "InsertLamp|4.25|3.75|0||1|1|0|False",
+                                       "InsertSavedSquare|1.25|4.75|2.25|5.75|0|0",
+                                       "InsertLamp|5|4|0||1|1|0|False"));
+    EXPECT_THAT(labels(), ElementsAre("Motor|1.25|1.75|0|Arial|8|False|False"));
+    EXPECT_EQ(drawing.PictureString, line("a.png|1.25|0.75|2|1"));
+    EXPECT_TRUE(drawing.DrawingChanged && enabled(Menu::mnuEditUndo));
+    editor.SelectedCount = 0;
+    play("key 39 1");
+    EXPECT_FLOAT_EQ(drawing.devices.DeviceX[1], 4.25f);
 }
 
 }  // namespace

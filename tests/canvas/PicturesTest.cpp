@@ -1,65 +1,45 @@
 #include "canvas/Pictures.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include "canvas/Bench.h"
-#include "canvas/DrawingCommands.h"
+#include "Bench.h"
 #include "canvas/Undo.h"
 
-namespace ladrix {
+namespace ladrix::test {
 namespace {
 
-using test::Bench;
-using testing::IsEmpty;
-
-class PicturesTest : public testing::Test {
-  protected:
+struct PicturesTest : BenchTest {
     PicturesTest() {
-        bench.drawing.CurrentFolder = bench.machine.folder / "documents/";
-        bench.drawing.TakeUndoSnapshot = [this] { TakeUndoSnapshot(bench.editor); };
-        bench.editor.ClearHistory = [this] { ClearHistory(bench.editor); };
-        ClearHistory(bench.editor);
+        drawing.TakeUndoSnapshot = [this] { TakeUndoSnapshot(editor); };
+        editor.ClearHistory = [this] { ClearHistory(editor); };
+        ClearHistory(editor);
         for (const char* folder : {"a", "b"})
-            bench.machine.folder.write(std::string(folder) + "/logo.bmp", folder);
+            machine.folder.write(std::string(folder) + "/logo.bmp", folder);
     }
 
     void insert(const std::string& folder, const std::string& file = "logo.bmp") {
-        InsertPicture(bench.editor, bench.machine.folder / (folder + "/"), file);
+        InsertPicture(editor, machine.folder / (folder + "/"), file);
     }
-    const PictureRow& row(std::size_t i) { return bench.drawing.PictureTable.at(i); }
-
-    Bench bench;
+    const PictureRow& row(std::size_t i) { return drawing.PictureTable.at(i); }
 };
 
 TEST_F(PicturesTest, StandsInItsOwnSizeInSightAndUndoTakesItAway) {
-    bench.machine.images.sizes["logo.bmp"] = {192, 48};
-    bench.editor.ScaleTop = 3;
+    machine.images.sizes["logo.bmp"] = {192, 48};
+    editor.ScaleTop = 3;
     insert("a");
-    ASSERT_EQ(bench.drawing.PictureCount, 1);
-    EXPECT_EQ(row(0).Width, 2);
-    EXPECT_EQ(row(0).Height, 0.5f);
-    EXPECT_EQ(row(0).Left, 0.25f);
-    EXPECT_EQ(row(0).Top, 3.25f);
-    EXPECT_EQ(row(0).FullPath, bench.machine.folder / "a/logo.bmp");
-    EXPECT_TRUE(bench.drawing.DrawingChanged);
-    EXPECT_EQ(bench.drawing.PictureString,
-              "logo.bmp\xFF"
-              "0.25\xFF"
-              "3.25\xFF"
-              "2\xFF"
-              "0.5\r\n");
-    mnuEditUndo_Click(bench.editor);
-    EXPECT_EQ(bench.drawing.PictureCount, 0);
-    EXPECT_THAT(bench.editor.img, IsEmpty());
-    mnuEditRedo_Click(bench.editor);
-    ASSERT_EQ(bench.drawing.PictureCount, 1);
-    EXPECT_TRUE(bench.editor.img.at(0));
+    ASSERT_EQ(drawing.PictureCount, 1);
+    EXPECT_EQ(row(0).FullPath, machine.folder / "a/logo.bmp");
+    EXPECT_TRUE(drawing.DrawingChanged);
+    EXPECT_EQ(drawing.PictureString, line("logo.bmp|0.25|3.25|2|0.5"));
+    mnuEditUndo_Click(editor);
+    EXPECT_EQ(drawing.PictureCount, 0);
+    EXPECT_THAT(editor.img, IsEmpty());
+    mnuEditRedo_Click(editor);
+    ASSERT_EQ(drawing.PictureCount, 1);
+    EXPECT_TRUE(editor.img.at(0));
     EXPECT_EQ(row(0).Top, 3.25f);
 }
 
 TEST_F(PicturesTest, LargerThanThePageIsShrunkToIt) {
-    bench.machine.images.sizes["logo.bmp"] = {9600, 1200};
+    machine.images.sizes["logo.bmp"] = {9600, 1200};
     insert("a");
     EXPECT_FLOAT_EQ(row(0).Width, 8.5f);
     EXPECT_FLOAT_EQ(row(0).Height, 8.5f / 8);
@@ -67,9 +47,9 @@ TEST_F(PicturesTest, LargerThanThePageIsShrunkToIt) {
 }
 
 TEST_F(PicturesTest, OfOneNameFromTwoFoldersKeepTheirContentsInTheFile) {
-    bench.drawing.CurrentFileName = "Plant.els";
-    bench.machine.folder.write("documents/Plant/other.bmp", "kept from a former save");
-    bench.machine.folder.write("a/other.bmp", "other");
+    drawing.CurrentFileName = "Plant.els";
+    machine.folder.write("documents/Plant/other.bmp", "kept from a former save");
+    machine.folder.write("a/other.bmp", "other");
     insert("a");
     insert("b");
     insert("a");
@@ -77,49 +57,46 @@ TEST_F(PicturesTest, OfOneNameFromTwoFoldersKeepTheirContentsInTheFile) {
     EXPECT_EQ(row(0).FileName, "logo.bmp");
     EXPECT_EQ(row(1).FileName, "logo (2).bmp");
     EXPECT_EQ(row(2).FileName, "logo.bmp") << "the same file is kept once";
-    SaveDrawing(bench.editor);
-    EXPECT_EQ(bench.machine.folder.read("documents/Plant/logo.bmp"), "a");
-    EXPECT_EQ(bench.machine.folder.read("documents/Plant/logo (2).bmp"), "b");
-    EXPECT_EQ(bench.machine.folder.read("documents/Plant/other (2).bmp"), "other");
-    OpenDrawing(bench.editor);
-    EXPECT_EQ(bench.drawing.PictureCount, 4);
-    EXPECT_THAT(bench.machine.dialogs.boxes, IsEmpty());
+    save("Plant.els");
+    EXPECT_EQ(machine.folder.read("documents/Plant/logo.bmp"), "a");
+    EXPECT_EQ(machine.folder.read("documents/Plant/logo (2).bmp"), "b");
+    EXPECT_EQ(machine.folder.read("documents/Plant/other (2).bmp"), "other");
+    open("Plant.els");
+    EXPECT_EQ(drawing.PictureCount, 4);
+    EXPECT_THAT(boxes(), IsEmpty());
 }
 
 TEST_F(PicturesTest, ANameThatNoRecordCanHoldComesBackFromTheFile) {
-    bench.machine.folder.write("a/na\xEFve \xFF.bmp", "x");
+    machine.folder.write("a/na\xEFve \xFF.bmp", "x");
     insert("a", "na\xEFve \xFF.bmp");
-    bench.drawing.CurrentFileName = "Plant.els";
-    SaveDrawing(bench.editor);
-    OpenDrawing(bench.editor);
-    ASSERT_EQ(bench.drawing.PictureCount, 1);
+    save("Plant.els");
+    open("Plant.els");
+    ASSERT_EQ(drawing.PictureCount, 1);
     EXPECT_EQ(row(0).FileName, "na\xEFve _.bmp");
 }
 
 TEST_F(PicturesTest, AFileThatCannotBeReadLeavesTheDrawingAsItWas) {
-    bench.machine.images.damaged = {"logo.bmp"};
+    machine.images.damaged = {"logo.bmp"};
     EXPECT_THROW(insert("a"), Failure);
     EXPECT_THROW(insert("a", "gone.bmp"), Failure);
-    bench.machine.images.damaged.clear();
-    bench.drawing.PictureTable.resize(32767);
-    bench.drawing.PictureCount = 32767;
+    machine.images.damaged.clear();
+    drawing.PictureTable.resize(32767);
+    drawing.PictureCount = 32767;
     EXPECT_THROW(insert("a"), Failure);
-    EXPECT_EQ(bench.drawing.PictureTable.size(), 32767u);
-    EXPECT_FALSE(bench.drawing.DrawingChanged);
+    EXPECT_EQ(drawing.PictureTable.size(), 32767u);
+    EXPECT_FALSE(drawing.DrawingChanged);
 }
 
 TEST_F(PicturesTest, AreRefusedOnAZoomedPageOnly) {
-    EXPECT_TRUE(makeReadyForPicture(bench.editor));
-    bench.editor.ZoomFactor = 1.00004f;  // 100.00 in fixed point
-    EXPECT_TRUE(makeReadyForPicture(bench.editor));
-    EXPECT_THAT(bench.machine.dialogs.boxes, IsEmpty());
-    bench.editor.ZoomFactor = 1.1f;
-    EXPECT_FALSE(makeReadyForPicture(bench.editor));
-    ASSERT_EQ(bench.machine.dialogs.boxes.size(), 1u);
-    EXPECT_EQ(bench.machine.dialogs.boxes[0].text,
-              "Picture files cannot be inserted when the drawing is\r\n"
-              "zoomed in or out. Change the zoom scale back to 100 %");
+    EXPECT_TRUE(makeReadyForPicture(editor));
+    editor.ZoomFactor = 1.00004f;  // 100.00 in fixed point
+    EXPECT_TRUE(makeReadyForPicture(editor));
+    EXPECT_THAT(boxes(), IsEmpty());
+    editor.ZoomFactor = 1.1f;
+    EXPECT_FALSE(makeReadyForPicture(editor));
+    EXPECT_THAT(boxes(), ElementsAre("Picture files cannot be inserted when the drawing is\r\n"
+                                     "zoomed in or out. Change the zoom scale back to 100 %"));
 }
 
 }  // namespace
-}  // namespace ladrix
+}  // namespace ladrix::test

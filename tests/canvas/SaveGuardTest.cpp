@@ -2,9 +2,6 @@
 // drawing's place.
 #include "canvas/SaveGuard.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <filesystem>
 
 #include "Bench.h"
@@ -13,13 +10,6 @@
 
 namespace ladrix::test {
 namespace {
-
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
-
-constexpr const char* Ground = "InsertGround|1|1|0||1|1|0|False";
-constexpr const char* Lamp = "InsertLamp|2|2|0||1|1|0|False";
 
 // "Mine.els", opened with a ground in it, and a lamp placed since.
 struct SaveBench : Bench {
@@ -30,12 +20,8 @@ struct SaveBench : Bench {
         open("Mine.els");
         play("tool Lamp; click 2 2; key 27 0");
     }
-    void open(const char* name) {
-        drawing.CurrentFileName = name;
-        OpenDrawing(editor);
-    }
     void change(const char* text) { machine.folder.write(document("Mine.els"), text); }
-    std::string file() const { return machine.folder.read(document("Mine.els")); }
+    std::string file() const { return Bench::file("Mine.els"); }
     bool isSaved() const { return file().find("InsertLamp") != std::string::npos; }
     std::string backups() const {
         return BackupsOfDrawing(editor).substr(machine.folder.path().size());
@@ -48,11 +34,11 @@ struct SaveBench : Bench {
         return texts;
     }
     std::string firstLine() const {
-        if (machine.dialogs.boxes.empty()) return {};
-        const std::string& text = machine.dialogs.boxes[0].text;
-        return text.substr(0, text.find('\r'));
+        return boxes().empty() ? "" : boxes()[0].substr(0, boxes()[0].find('\r'));
     }
 };
+
+struct SaveGuardTest : testing::Test, SaveBench {};
 
 enum class Meanwhile { Nothing, Touched, Edited, Deleted, SameAsOurs };
 
@@ -112,20 +98,19 @@ TEST(ASave, AsksBeforeItReplacesWhatThisRunDoesNotKnow) {
     }
 }
 
-TEST(ASave, KeepsTheFormerTextAndNothingWhereItChangesNothing) {
-    SaveBench bench;
-    const std::string former = bench.file();
-    mnuFileSave_Click(bench.editor);
-    EXPECT_THAT(bench.copies(), ElementsAre(former));
-    mnuFileSave_Click(bench.editor);
-    EXPECT_THAT(bench.copies(), ElementsAre(former));
+TEST_F(SaveGuardTest, ASaveKeepsTheFormerTextAndNothingWhereItChangesNothing) {
+    const std::string former = file();
+    mnuFileSave_Click(editor);
+    EXPECT_THAT(copies(), ElementsAre(former));
+    mnuFileSave_Click(editor);
+    EXPECT_THAT(copies(), ElementsAre(former));
     // What a cancelled preview leaves may be saved under the drawing's name.
-    const std::string saved = bench.file();
-    bench.writeDocument("Other.els", line(Ground));
-    ASSERT_TRUE(ReadPreview(bench.editor, bench.drawing.CurrentFolder, "Other.els"));
-    mnuFileSave_Click(bench.editor);
-    EXPECT_FALSE(bench.isSaved());
-    EXPECT_THAT(bench.copies(), testing::UnorderedElementsAre(former, saved));
+    const std::string saved = file();
+    writeDocument("Other.els", line(Ground));
+    ASSERT_TRUE(ReadPreview(editor, drawing.CurrentFolder, "Other.els"));
+    mnuFileSave_Click(editor);
+    EXPECT_FALSE(isSaved());
+    EXPECT_THAT(copies(), testing::UnorderedElementsAre(former, saved));
 }
 
 TEST(ASave, WithoutABackupIsMadeOnlyWhenTheUserSaysSo) {
@@ -137,9 +122,8 @@ TEST(ASave, WithoutABackupIsMadeOnlyWhenTheUserSaysSo) {
             bench.machine.files.fail(fault, {failure::DiskFull, "No space left on device"}, part);
             bench.machine.dialogs.answers = {answer};
             mnuFileSave_Click(bench.editor);
-            ASSERT_EQ(bench.machine.dialogs.boxes.size(), 1u);
-            EXPECT_THAT(bench.machine.dialogs.boxes[0].text,
-                        HasSubstr("No backup copy of Mine.els could be made:\r\nNo space left"));
+            EXPECT_THAT(bench.boxes(), ElementsAre(HasSubstr("No backup copy of Mine.els could be "
+                                                             "made:\r\nNo space left")));
             bench.machine.files.heal();
             EXPECT_EQ(bench.isSaved(), answer == Answer::Yes);
             EXPECT_EQ(bench.drawing.DrawingChanged, answer == Answer::No);
@@ -148,56 +132,44 @@ TEST(ASave, WithoutABackupIsMadeOnlyWhenTheUserSaysSo) {
     }
 }
 
-TEST(ASave, ThatCannotTellWhatStandsThereReportsIt) {
-    SaveBench bench;
-    bench.machine.files.fail(Operation::Status, {failure::PermissionDenied, "Permission denied"},
-                             "Mine.els");
-    mnuFileSave_Click(bench.editor);
-    ASSERT_EQ(bench.machine.reports.size(), 1u);
-    EXPECT_EQ(bench.machine.reports[0].text, "Permission denied");
-    EXPECT_TRUE(bench.drawing.DrawingChanged);
-}
-
-TEST(ABackup, TakesTheDrawingsPlaceUnderItsNameUntilItIsSaved) {
-    SaveBench bench;
-    const std::string former = bench.file();
-    mnuFileSave_Click(bench.editor);
-    const std::string saved = bench.file();
-    const std::string copy = bench.machine.folder.entries(bench.backups()).at(0);
-    const std::string home = bench.drawing.CurrentFolder;
+TEST_F(SaveGuardTest, ABackupTakesTheDrawingsPlaceUnderItsNameUntilItIsSaved) {
+    const std::string former = file();
+    mnuFileSave_Click(editor);
+    const std::string saved = file();
+    const std::string copy = machine.folder.entries(backups()).at(0);
+    const std::string home = drawing.CurrentFolder;
     // A template in force is no part of a copy.
-    bench.drawing.TemplateActive = true;
-    bench.drawing.TemplateDevices = line("InsertFuse|3|3|0||1|1|0|False");
-    bench.editor.backups.offered = bench.drawing.CurrentFolder = BackupsOfDrawing(bench.editor);
-    bench.editor.backups.CurrentFolder = home;
-    bench.editor.backups.CurrentFileName = "Mine.els";
-    bench.open(copy.c_str());
-    EXPECT_THAT(bench.devices(), ElementsAre(Ground));
-    EXPECT_EQ(bench.drawing.CurrentFolder + bench.drawing.CurrentFileName, home + "Mine.els");
-    EXPECT_TRUE(bench.drawing.DrawingChanged);
-    EXPECT_TRUE(bench.drawing.TemplateActive);
+    drawing.TemplateActive = true;
+    drawing.TemplateDevices = line("InsertFuse|3|3|0||1|1|0|False");
+    editor.backups.offered = drawing.CurrentFolder = BackupsOfDrawing(editor);
+    editor.backups.CurrentFolder = home;
+    editor.backups.CurrentFileName = "Mine.els";
+    open(copy.c_str());
+    EXPECT_THAT(devices(), ElementsAre(Ground));
+    EXPECT_EQ(drawing.CurrentFolder + drawing.CurrentFileName, home + "Mine.els");
+    EXPECT_TRUE(drawing.DrawingChanged);
+    EXPECT_TRUE(drawing.TemplateActive);
     const std::string date = copy.substr(0, copy.size() - 4);
-    EXPECT_THAT(bench.editor.form.Caption, HasSubstr("Mine.els (backup of " + date + ")"));
-    EXPECT_EQ(bench.file(), saved) << "nothing is written yet";
+    EXPECT_THAT(editor.form.Caption, HasSubstr("Mine.els (backup of " + date + ")"));
+    EXPECT_EQ(file(), saved) << "nothing is written yet";
 
-    bench.editor.backups.offered.clear();
-    mnuFileSave_Click(bench.editor);
-    EXPECT_EQ(bench.file(), former + "///Picture Files///\r\n");
-    EXPECT_THAT(bench.copies(), testing::UnorderedElementsAre(former, saved));
-    EXPECT_TRUE(bench.editor.form.Caption.ends_with("File Name: Mine.els"));
-    EXPECT_THAT(bench.machine.dialogs.boxes, IsEmpty());
+    editor.backups.offered.clear();
+    mnuFileSave_Click(editor);
+    EXPECT_EQ(file(), former + "///Picture Files///\r\n");
+    EXPECT_THAT(copies(), testing::UnorderedElementsAre(former, saved));
+    EXPECT_TRUE(editor.form.Caption.ends_with("File Name: Mine.els"));
+    EXPECT_THAT(boxes(), IsEmpty());
 }
 
-TEST(ABackup, ThatCannotBeReadLeavesTheDrawing) {
-    SaveBench bench;
-    mnuFileSave_Click(bench.editor);
-    const std::string home = bench.drawing.CurrentFolder;
-    bench.editor.backups = {BackupsOfDrawing(bench.editor), home, "Mine.els", ""};
-    bench.drawing.CurrentFolder = bench.editor.backups.offered;
-    bench.open("2026-01-01 00-00-00.els");
-    EXPECT_EQ(bench.machine.reports.size(), 1u);
-    EXPECT_THAT(bench.devices(), ElementsAre(Ground, Lamp));
-    EXPECT_EQ(bench.drawing.CurrentFolder + bench.drawing.CurrentFileName, home + "Mine.els");
+TEST_F(SaveGuardTest, ABackupThatCannotBeReadLeavesTheDrawing) {
+    mnuFileSave_Click(editor);
+    const std::string home = drawing.CurrentFolder;
+    editor.backups = {BackupsOfDrawing(editor), home, "Mine.els", ""};
+    drawing.CurrentFolder = editor.backups.offered;
+    open("2026-01-01 00-00-00.els");
+    EXPECT_EQ(machine.reports.size(), 1u);
+    EXPECT_THAT(devices(), ElementsAre(Ground, Lamp));
+    EXPECT_EQ(drawing.CurrentFolder + drawing.CurrentFileName, home + "Mine.els");
 }
 
 }  // namespace

@@ -1,19 +1,16 @@
 // The snap pitch, typed and by its buttons, and the grid's options.
 #include "canvas/Snap.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include "Bench.h"
 #include "canvas/Pointer.h"
 
 namespace ladrix::test {
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
 using Box = FakeDialogs::Box;
 using InputBox = FakeDialogs::InputBox;
+
+using SnapTest = BenchTest;
 
 TEST(SnapInput, TakesNumbersInEitherMarkAndRefusesTheRest) {
     struct Case {
@@ -42,31 +39,33 @@ TEST(SnapInput, TakesNumbersInEitherMarkAndRefusesTheRest) {
                         ElementsAre(Box{"Expected a numeric value.", "Ladrix"}))
                 << typed;
         else
-            EXPECT_THAT(bench.machine.dialogs.boxes, IsEmpty()) << typed;
+            EXPECT_THAT(bench.boxes(), IsEmpty()) << typed;
         EXPECT_EQ(bench.editor.form.FocusRequest == Focus::Canvas, c.step != 2) << typed;
     }
 }
 
-TEST(SnapInput, OffersAndTellsThePitchInTheUsersMark) {
-    Bench bench;
-    bench.machine.platform.locale.decimalMark = ',';
-    bench.machine.dialogs.inputAnswers = {"0.75"};
-    cmdSnap_Click(bench.editor);
-    EXPECT_EQ(bench.machine.dialogs.inputBoxes[0].value, "0,25");
-    EXPECT_EQ(bench.editor.form.cmdSnap.Caption, "Snap: 0,75");
-}
-
-TEST(SnapButtons, DoubleHalveAndGoBackToTheDefault) {
-    Bench bench;
-    cmdSnapLower_Click(bench.editor);
-    EXPECT_EQ(bench.editor.form.cmdSnap.Caption, "Snap: 0.125");
-    cmdSnapHigher_Click(bench.editor);
-    cmdSnapHigher_Click(bench.editor);
-    EXPECT_EQ(bench.editor.SnapStep, 0.5f);
-    cmdSnap_MouseDown(bench.editor, LeftButton);
-    EXPECT_EQ(bench.editor.SnapStep, 0.5f);
-    cmdSnap_MouseDown(bench.editor, RightButton);
-    EXPECT_EQ(bench.editor.form.cmdSnap.Caption, "Snap: 0.25");
+TEST_F(SnapTest, ThePitchIsToldInTheUsersMarkDoubledHalvedAndPutBackToTheDefault) {
+    machine.platform.locale.decimalMark = ',';
+    machine.dialogs.inputAnswers = {"0.75"};
+    cmdSnap_Click(editor);
+    EXPECT_EQ(machine.dialogs.inputBoxes[0].value, "0,25");
+    EXPECT_EQ(editor.form.cmdSnap.Caption, "Snap: 0,75");
+    play("tool Lamp; move 1 1");
+    cmdSnapHigher_Click(editor);
+    EXPECT_EQ(editor.SnapStep, 1.5f);
+    cmdSnapLower_Click(editor);
+    EXPECT_EQ(editor.form.cmdSnap.Caption, "Snap: 0,75");
+    cmdSnap_MouseDown(editor, LeftButton);
+    EXPECT_EQ(editor.SnapStep, 0.75f);
+    cmdSnap_MouseDown(editor, RightButton);
+    EXPECT_EQ(editor.form.cmdSnap.Caption, "Snap: 0,25");
+    EXPECT_NE(editor.CurrentTool, -1);
+    EXPECT_EQ(canvas.persistentCls, 0) << "nothing to repaint";
+    editor.GridOn = editor.GridFollowsSnap = true;
+    cmdSnapHigher_Click(editor);
+    EXPECT_EQ(editor.CurrentTool, -1);
+    EXPECT_EQ(canvas.persistentCls, 1);
+    EXPECT_FLOAT_EQ(canvas.persistent.at(0).x1, 1) << "a line at every second step";
 }
 
 TEST(SnapButtons, AtTheEndsOfAllNumbersThePitchStaysAndTheEditorWorks) {
@@ -85,38 +84,24 @@ TEST(SnapButtons, AtTheEndsOfAllNumbersThePitchStaysAndTheEditorWorks) {
     }
 }
 
-TEST(SnapPitch, WithAGridThatFollowsResetsAndPaintsOnce) {
-    Bench bench;
-    bench.play("tool Lamp; move 1 1");
-    cmdSnapHigher_Click(bench.editor);
-    EXPECT_NE(bench.editor.CurrentTool, -1);
-    EXPECT_EQ(bench.canvas.persistentCls, 0) << "nothing to repaint";
-    bench.editor.GridOn = bench.editor.GridFollowsSnap = true;
-    cmdSnapHigher_Click(bench.editor);
-    EXPECT_EQ(bench.editor.CurrentTool, -1);
-    EXPECT_EQ(bench.canvas.persistentCls, 1);
-    EXPECT_FLOAT_EQ(bench.canvas.persistent.at(0).x1, 2) << "a line at every second step";
-}
-
-TEST(GridOptions, ShowTheGridAndLetItFollowTheSnap) {
-    Bench bench;
-    const auto shown = [&] { return bench.canvas.persistent.size(); };
-    const auto checked = [&](Menu entry) { return bench.editor.form.menu[entry].Checked; };
-    bench.editor.SnapStep = 1;
-    mnuOptionGrid_Click(bench.editor);
-    EXPECT_TRUE(checked(Menu::mnuOptionGrid));
-    EXPECT_EQ(shown(), 33u + 43u) << "a line at every quarter of an inch";
-    mnuOptMatchGridToSnap_Click(bench.editor);
-    EXPECT_TRUE(checked(Menu::mnuOptMatchGridToSnap));
-    EXPECT_EQ(shown(), 4u + 5u);
-    mnuOptMatchGridToSnap_Click(bench.editor);
-    EXPECT_FALSE(checked(Menu::mnuOptMatchGridToSnap));
-    EXPECT_EQ(shown(), 33u + 43u);
-    mnuOptionGrid_Click(bench.editor);
-    EXPECT_FALSE(checked(Menu::mnuOptionGrid));
-    EXPECT_EQ(shown(), 0u);
-    EXPECT_FALSE(bench.drawing.DrawingChanged);
-    EXPECT_EQ(bench.drawing.DeviceString, "");
+TEST_F(SnapTest, GridOptionsShowTheGridAndLetItFollowTheSnap) {
+    editor.SnapStep = 1;
+    struct Case {
+        void (*toggle)(Editor&);
+        bool grid, follows;
+        std::size_t lines;
+    };
+    for (const Case& c : {Case{mnuOptionGrid_Click, true, false, 33 + 43},
+                          {mnuOptMatchGridToSnap_Click, true, true, 4 + 5},
+                          {mnuOptMatchGridToSnap_Click, true, false, 33 + 43},
+                          {mnuOptionGrid_Click, false, false, 0}}) {
+        c.toggle(editor);
+        EXPECT_EQ(checked(Menu::mnuOptionGrid), c.grid);
+        EXPECT_EQ(checked(Menu::mnuOptMatchGridToSnap), c.follows);
+        EXPECT_THAT(canvas.persistent, SizeIs(c.lines));
+    }
+    EXPECT_FALSE(drawing.DrawingChanged);
+    EXPECT_EQ(drawing.DeviceString, "");
 }
 
 }  // namespace

@@ -1,8 +1,6 @@
 // The view made narrower and wider by its right margin.
 #include "canvas/Stretch.h"
 
-#include <gtest/gtest.h>
-
 #include "Bench.h"
 #include "canvas/Pointer.h"
 #include "canvas/View.h"
@@ -10,9 +8,7 @@
 namespace ladrix::test {
 namespace {
 
-struct StretchTest : testing::Test {
-    Bench bench;
-    Editor& editor = bench.editor;
+struct StretchTest : BenchTest {
     FormLX& form = editor.form;
 
     void SetUp() override {
@@ -27,17 +23,12 @@ struct StretchTest : testing::Test {
 };
 
 TEST_F(StretchTest, TellsHowOnlyTheFirstTimeAndHidesTheBar) {
-    ASSERT_TRUE(form.VScroll1.Visible);
-    mnuEditStretch_Click(editor);
-    EXPECT_FALSE(form.VScroll1.Visible);
-    EXPECT_TRUE(form.menu[Menu::mnuEditStretch].Checked);
-    ASSERT_EQ(bench.machine.dialogs.boxes.size(), 1u);
-    EXPECT_TRUE(bench.machine.dialogs.boxes[0].text.starts_with("Place the mouse inside"));
-    mnuEditStretch_Click(editor);
-    EXPECT_TRUE(form.VScroll1.Visible);
-    EXPECT_FALSE(form.menu[Menu::mnuEditStretch].Checked);
-    mnuEditStretch_Click(editor);
-    EXPECT_EQ(bench.machine.dialogs.boxes.size(), 1u);
+    for (const bool on : {true, false, true}) {
+        mnuEditStretch_Click(editor);
+        EXPECT_EQ(form.VScroll1.Visible, !on);
+        EXPECT_EQ(checked(Menu::mnuEditStretch), on);
+        EXPECT_THAT(boxes(), ElementsAre(testing::StartsWith("Place the mouse inside")));
+    }
 }
 
 TEST_F(StretchTest, FollowsThePointersWayWhileTheButtonIsHeld) {

@@ -1,9 +1,6 @@
 // frmTextProps: what it shows, what it applies, and what it refuses.
 #include "canvas/TextProperties.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include "Bench.h"
 #include "canvas/Keys.h"
 #include "canvas/Redraw.h"
@@ -12,20 +9,12 @@
 namespace ladrix::test {
 namespace {
 
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
-
 struct PropertiesBench : Bench {
     TextProperties form;
 
     PropertiesBench() {
-        RecordLabel(drawing, machine.platform, {"K1", 1, 1, 7, "Arial", 10, false, false});
-        RecordLabel(drawing, machine.platform, {"K2", 2, 2, 8, "Gone Sans", 12.5f, true, true});
-        RecordLabel(drawing, machine.platform, {"K3", 3, 3, 9, "Symbol", 8, false, true});
-        RedrawDrawing(editor);
-        drawing.DrawingChanged = false;
-        snapshots = 0;
+        load("", line("K1|1|1|7|Arial|10|False|False") + line("K2|2|2|8|Gone Sans|12.5|True|True") +
+                     line("K3|3|3|9|Symbol|8|False|True"));
     }
     void open(std::initializer_list<std::size_t> selected) {
         for (const std::size_t i : selected)
@@ -35,14 +24,14 @@ struct PropertiesBench : Bench {
     }
 };
 
-TEST(TextProperties, ShowOneLabelWithItsTextAndOfSeveralTheLast) {
-    PropertiesBench bench;
-    TextProperties& form = bench.form;
-    bench.machine.fonts.names.push_back("Bad\xFFName");
-    bench.open({});
-    EXPECT_THAT(bench.machine.dialogs.forms, IsEmpty());
-    bench.open({1});
-    EXPECT_THAT(bench.machine.dialogs.forms, ElementsAre(Form::frmTextProps));
+struct TextPropertiesTest : testing::Test, PropertiesBench {};
+
+TEST_F(TextPropertiesTest, TextPropertiesShowOneLabelWithItsTextAndOfSeveralTheLast) {
+    machine.fonts.names.push_back("Bad\xFFName");
+    open({});
+    EXPECT_THAT(machine.dialogs.forms, IsEmpty());
+    open({1});
+    EXPECT_THAT(machine.dialogs.forms, ElementsAre(Form::frmTextProps));
     EXPECT_THAT(form.cmbFonts.List,
                 ElementsAre("Gone Sans", "Arial", "Courier New", "Symbol", "Times New Roman"))
         << "the label's own though it is not installed, none that a record cannot hold";
@@ -54,70 +43,68 @@ TEST(TextProperties, ShowOneLabelWithItsTextAndOfSeveralTheLast) {
     EXPECT_TRUE(form.txtCaption.Visible);
     EXPECT_EQ(form.txtCaption.Text, "K2");
     EXPECT_EQ(form.txtCaption.SelectAllRequests, 1);
-    bench.open({2});
+    open({2});
     EXPECT_FALSE(form.txtCaption.Visible) << "they share no text";
     EXPECT_EQ(form.cmbFonts.Text, "Symbol");
     EXPECT_EQ(form.cmbFontSize.Text, "8");
     form.cmbFonts.Text = "Courier New";
-    cmbFonts_Click(form, bench.editor);
+    cmbFonts_Click(form, editor);
     EXPECT_EQ(form.cmbFontSize.List.size(), 8u) << "of a fixed width";
 }
 
-TEST(TextProperties, AreAppliedToWhatIsSelectedInOneStepAndEndTheSelection) {
-    PropertiesBench bench;
-    bench.open({0, 2});
-    bench.form.cmbFonts.Text = "Courier New";
-    cmbFontSize_Change(bench.form, "10,5");
-    bench.form.chkFontStyle[0].Value = true;
-    bench.form.txtCaption.Text = "not theirs";
-    cmdOKTextProps_Click(bench.form, bench.editor);
-    EXPECT_THAT(bench.labels(), ElementsAre("K1|1|1|7|Courier New|10.5|True|True",
-                                            "K2|2|2|8|Gone Sans|12.5|True|True",
-                                            "K3|3|3|9|Courier New|10.5|True|True"));
-    EXPECT_FALSE(bench.form.Visible);
-    EXPECT_EQ(bench.snapshots, 1);
-    EXPECT_TRUE(bench.drawing.DrawingChanged);
-    EXPECT_EQ(bench.editor.SelectedCount, 0);
-    EXPECT_THAT(bench.drawing.labels.LabelSelected, ElementsAre(0, 0, 0));
-    EXPECT_EQ(bench.editor.form.lbl[0].Font.name, "Courier New");
+TEST_F(TextPropertiesTest, TextPropertiesAreAppliedToWhatIsSelectedInOneStepAndEndTheSelection) {
+    open({0, 2});
+    form.cmbFonts.Text = "Courier New";
+    cmbFontSize_Change(form, "10,5");
+    form.chkFontStyle[0].Value = true;
+    form.txtCaption.Text = "not theirs";
+    cmdOKTextProps_Click(form, editor);
+    EXPECT_THAT(labels(), ElementsAre("K1|1|1|7|Courier New|10.5|True|True",
+                                      "K2|2|2|8|Gone Sans|12.5|True|True",
+                                      "K3|3|3|9|Courier New|10.5|True|True"));
+    EXPECT_FALSE(form.Visible);
+    EXPECT_EQ(snapshots, 1);
+    EXPECT_TRUE(drawing.DrawingChanged);
+    EXPECT_EQ(editor.SelectedCount, 0);
+    EXPECT_THAT(drawing.labels.LabelSelected, ElementsAre(0, 0, 0));
+    EXPECT_EQ(editor.form.lbl[0].Font.name, "Courier New");
 
-    bench.open({1});
-    txtCaption_Change(bench.form, "M");
-    txtCaption_KeyDown(bench.form, bench.editor, 'M');
-    EXPECT_EQ(bench.drawing.labels.LabelText[1], "K2") << "taken only when applied";
-    txtCaption_KeyDown(bench.form, bench.editor, key::Enter);
-    EXPECT_EQ(bench.labels()[1], "M|2|2|8|Gone Sans|12.5|True|True");
-    bench.open({1});
-    txtCaption_Change(bench.form, "lost");
-    frmTextProps_Cancel(bench.form);
-    EXPECT_EQ(bench.drawing.labels.LabelText[1], "M");
+    open({1});
+    txtCaption_Change(form, "M");
+    txtCaption_KeyDown(form, editor, 'M');
+    EXPECT_EQ(drawing.labels.LabelText[1], "K2") << "taken only when applied";
+    txtCaption_KeyDown(form, editor, key::Enter);
+    EXPECT_EQ(labels()[1], "M|2|2|8|Gone Sans|12.5|True|True");
+    open({1});
+    txtCaption_Change(form, "lost");
+    frmTextProps_Cancel(form);
+    EXPECT_EQ(drawing.labels.LabelText[1], "M");
 }
 
-TEST(TextProperties, MakeTheDefaultFontAndChangeNoLabel) {
-    PropertiesBench bench;
-    bench.open({1});
-    const std::string before = bench.drawing.LabelString;
-    cmdSet_Click(bench.form, bench.editor);
-    EXPECT_EQ(bench.drawing.DefaultFontName, "Gone Sans");
-    EXPECT_EQ(bench.drawing.DefaultFontSize, 12);
-    EXPECT_TRUE(bench.drawing.DefaultFontBold && bench.drawing.DefaultFontItalic);
-    EXPECT_TRUE(bench.form.Visible);
-    EXPECT_EQ(bench.drawing.LabelString, before);
-    EXPECT_FALSE(bench.drawing.DrawingChanged);
+TEST_F(TextPropertiesTest, TextPropertiesMakeTheDefaultFontAndChangeNoLabel) {
+    open({1});
+    const std::string before = drawing.LabelString;
+    cmdSet_Click(form, editor);
+    EXPECT_EQ(drawing.DefaultFontName, "Gone Sans");
+    EXPECT_EQ(drawing.DefaultFontSize, 12);
+    EXPECT_TRUE(drawing.DefaultFontBold && drawing.DefaultFontItalic);
+    EXPECT_TRUE(form.Visible);
+    EXPECT_EQ(drawing.LabelString, before);
+    EXPECT_FALSE(drawing.DrawingChanged);
 }
 
 TEST(TextProperties, RefuseASizeThatIsNone) {
-    for (const char* size :
-         {"", "big", "0", "-8", "0.99", "400.1", "1e30", "1e99", "nan", "1.2.3"}) {
+    for (const char* size : {"", "big", "0", "-8", "0.99", "400.1", "1e99", "nan"}) {
+        SCOPED_TRACE(size);
         PropertiesBench bench;
         bench.open({0});
         const std::string before = bench.drawing.LabelString;
         cmbFontSize_Change(bench.form, size);
         SaveAndExit(bench.form, bench.editor);
         cmdSet_Click(bench.form, bench.editor);
-        ASSERT_EQ(bench.machine.reports.size(), 2u) << size;
-        EXPECT_THAT(bench.machine.reports[0].text, HasSubstr("from 1 to 400")) << size;
-        EXPECT_THAT(bench.form.lblNote.Caption, HasSubstr("from 1 to 400")) << size;
+        ASSERT_EQ(bench.machine.reports.size(), 2u);
+        EXPECT_THAT(bench.machine.reports[0].text, HasSubstr("from 1 to 400"));
+        EXPECT_THAT(bench.form.lblNote.Caption, HasSubstr("from 1 to 400"));
         EXPECT_TRUE(bench.form.Visible);
         EXPECT_EQ(bench.drawing.LabelString, before);
         EXPECT_EQ(bench.editor.SelectedLabelCount, 1);

@@ -1,9 +1,6 @@
 // Zooming at a point: by pressed button, by menu and key, and by the wheel.
 #include "canvas/Zoom.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <cmath>
 
 #include "Bench.h"
@@ -14,15 +11,10 @@
 namespace ladrix::test {
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
 using Box = FakeDialogs::Box;
 
 // A frame of 5 by 5 inches over a letter page.
-struct ZoomTest : testing::Test {
-    Bench bench;
-    Editor& editor = bench.editor;
-
+struct ZoomTest : BenchTest {
     void SetUp() override { Form_Resize(editor, 5 * TwipsPerInch, 5 * TwipsPerInch); }
 
     // Where a point of the page stands in the frame, inches of the screen.
@@ -34,53 +26,38 @@ struct ZoomTest : testing::Test {
     }
 };
 
-TEST_F(ZoomTest, RunsFromMinusFiveToFourteenStepsAndRefusesTheNextWithAReset) {
+TEST_F(ZoomTest, RunsFromMinusFiveToFourteenStepsAndBackAndRefusesTheNextWithAReset) {
     struct Case {
-        void (*handler)(Editor&);
+        void (*there)(Editor&);
+        void (*back)(Editor&);
         int steps;
         double factor;
         const char* refusal;
     };
-    for (const Case& c : {Case{&mnuEditZoomIn_Click, 14, 1.25, "Cannot zoom in further."},
-                          Case{&mnuEditZoomOut_Click, 5, 0.8, "Cannot zoom out further."}}) {
-        ResetZoom(editor);
-        bench.machine.dialogs.boxes.clear();
-        repeat(c.handler, c.steps);
-        EXPECT_THAT(bench.machine.dialogs.boxes, IsEmpty());
+    for (const Case& c :
+         {Case{mnuEditZoomIn_Click, mnuEditZoomOut_Click, 14, 1.25, "Cannot zoom in further."},
+          Case{mnuEditZoomOut_Click, mnuEditZoomIn_Click, 5, 0.8, "Cannot zoom out further."}}) {
+        machine.dialogs.boxes.clear();
+        repeat(c.there, c.steps);
+        EXPECT_THAT(boxes(), IsEmpty());
         const Single last = editor.ZoomFactor;
         EXPECT_NEAR(last, std::pow(c.factor, c.steps), 1e-5 * last);
-        bench.play("tool Lamp");
-        c.handler(editor);
-        EXPECT_THAT(bench.machine.dialogs.boxes, ElementsAre(Box{c.refusal, "Ladrix"}));
+        EXPECT_FLOAT_EQ(editor.VisibleWidth, 5 / last);
+        EXPECT_FLOAT_EQ(editor.CanvasScaleHeight, 11 / last);
+        play("tool Lamp");
+        c.there(editor);
+        EXPECT_THAT(machine.dialogs.boxes, ElementsAre(Box{c.refusal, "Ladrix"}));
         EXPECT_EQ(editor.ZoomFactor, last);
         EXPECT_EQ(std::abs(editor.ZoomStepCount), c.steps);
         EXPECT_EQ(editor.CurrentTool, -1) << "reset";
-        EXPECT_EQ(bench.canvas.scaleZoom, last);
-    }
-}
-
-TEST_F(ZoomTest, AsManyStepsBackGiveTheFullSizeExactly) {
-    for (const auto& [there, back, steps] :
-         {std::tuple{&ZoomIn, &ZoomOut, 14}, std::tuple{&ZoomOut, &ZoomIn, 5}}) {
-        repeat(there, steps);
-        repeat(back, steps);
-        EXPECT_EQ(editor.ZoomFactor, 1);
-        EXPECT_EQ(editor.CanvasScaleWidth, 8.5f);
+        EXPECT_EQ(canvas.scaleZoom, last);
+        repeat(c.back, c.steps);
+        EXPECT_EQ(editor.ZoomFactor, 1) << "exactly";
         EXPECT_EQ(editor.VisibleHeight, 5);
     }
-}
-
-TEST_F(ZoomTest, MeasuresAndMessageFollowTheFactor) {
-    ZoomIn(editor);
-    EXPECT_FLOAT_EQ(editor.VisibleWidth, 4);
-    EXPECT_FLOAT_EQ(editor.CanvasScaleWidth, 6.8f);
-    EXPECT_FLOAT_EQ(editor.CanvasScaleHeight, 8.8f);
-    EXPECT_EQ(bench.message(),
-              "Drawing Reset and Ready. Click on a symbol for placement. Current Zoom Scale = "
-              "125%");
-    bench.machine.platform.locale.decimalMark = ',';
-    ZoomIn(editor);
-    EXPECT_THAT(bench.message(), testing::EndsWith("Current Zoom Scale = 156,25%"));
+    machine.platform.locale.decimalMark = ',';
+    repeat(&ZoomIn, 2);
+    EXPECT_THAT(message(), testing::EndsWith("Current Zoom Scale = 156,25%"));
 }
 
 TEST_F(ZoomTest, APressedPointStaysWhereItIsOnTheScreen) {
@@ -88,96 +65,95 @@ TEST_F(ZoomTest, APressedPointStaysWhereItIsOnTheScreen) {
     VScroll1_Change(editor);
     cmdZoomIn_Click(editor);
     const Single x = onScreenX(4), y = onScreenY(6);
-    bench.play("click 4 6");
+    play("click 4 6");
     EXPECT_FLOAT_EQ(editor.ZoomFactor, 1.25f);
     EXPECT_NEAR(onScreenX(4), x, 0.01);
     EXPECT_NEAR(onScreenY(6), y, 0.01);
     EXPECT_EQ(editor.form.HScroll1.Value, 80);  // 4 - 0.8 of the 4 inches that are visible
     EXPECT_EQ(editor.form.VScroll1.Value, 360);
-    EXPECT_FLOAT_EQ(bench.canvas.scaleTop, 3.6f);
-    bench.play("click 4 6; click 4 6");
+    EXPECT_FLOAT_EQ(canvas.scaleTop, 3.6f);
+    play("click 4 6; click 4 6");
     EXPECT_NEAR(onScreenX(4), x, 0.02);
     EXPECT_NEAR(onScreenY(6), y, 0.02);
 }
 
 TEST_F(ZoomTest, TheShareOfTheViewIsKeptFromTheStepThatLeftFullSize) {
     cmdZoomIn_Click(editor);
-    bench.play("click 2.5 1");  // half across, a fifth down
-    bench.play("click 4 6");
+    play("click 2.5 1");  // half across, a fifth down
+    play("click 4 6");
     EXPECT_NEAR(onScreenX(4), 2.5, 0.02) << "another point comes to the same place";
     EXPECT_NEAR(onScreenY(6), 1, 0.02);
-    ZoomOut(editor);
-    ZoomOut(editor);
-    bench.play("click 3 7");
+    repeat(&ZoomOut, 2);
+    play("click 3 7");
     EXPECT_NEAR(onScreenX(3), 1.5, 0.02) << "taken anew";
     EXPECT_NEAR(onScreenY(7), 2, 0.02);
 }
 
 TEST_F(ZoomTest, ATargetIsHeldWithinThePageAndIsZeroWhereThePageFits) {
     cmdZoomIn_Click(editor);
-    bench.play("click 0 0; click 0 0");
+    play("click 0 0; click 0 0");
     EXPECT_EQ(editor.form.HScroll1.Value, 0);
     editor.ZoomPointX = editor.ZoomPointY = 90;
     ZoomIn(editor);
     EXPECT_EQ(editor.form.HScroll1.Value, editor.form.HScroll1.Max);
     EXPECT_EQ(editor.form.VScroll1.Value, editor.form.VScroll1.Max);
-    EXPECT_FLOAT_EQ(bench.canvas.scaleTop + editor.VisibleHeight, 11);
+    EXPECT_FLOAT_EQ(canvas.scaleTop + editor.VisibleHeight, 11);
     repeat(&ZoomOut, 8);
     EXPECT_FALSE(editor.form.HScroll1.Visible || editor.form.VScroll1.Visible);
     EXPECT_EQ(editor.form.HScroll1.Value, 0);
     EXPECT_EQ(editor.form.VScroll1.Value, 0);
-    EXPECT_EQ(bench.canvas.scaleTop, 0);
+    EXPECT_EQ(canvas.scaleTop, 0);
 }
 
 TEST_F(ZoomTest, EveryStepCostsOneRedraw) {
-    bench.play("tool Ground; click 2 2; key 27 0");
+    play("tool Ground; click 2 2; key 27 0");
     cmdZoomIn_Click(editor);
     for (const char* script : {"press 4 4", "press 4 4; release", "key 187 2", "key 189 2"}) {
-        const int redraws = bench.canvas.persistentCls;
-        bench.play(script);
-        EXPECT_EQ(bench.canvas.persistentCls, redraws + 1) << script;
+        const int redraws = canvas.persistentCls;
+        play(script);
+        EXPECT_EQ(canvas.persistentCls, redraws + 1) << script;
     }
-    const int redraws = bench.canvas.persistentCls;
+    const int redraws = canvas.persistentCls;
     zoomByWheel(editor, ZoomStep::Out, 3, 3);
-    EXPECT_EQ(bench.canvas.persistentCls, redraws + 1);
+    EXPECT_EQ(canvas.persistentCls, redraws + 1);
 }
 
 TEST_F(ZoomTest, StaysPendingUntilResetOrATool) {
-    bench.play("tool Line; click 1 1");
+    play("tool Line; click 1 1");
     cmdZoomIn_Click(editor);
     EXPECT_EQ(editor.CurrentTool, -1) << "a tool in hand is put away";
     EXPECT_EQ(editor.form.cmdZoomIn.BackColor, Cyan);
-    bench.play("click 1 1; right 1 1; release");
+    play("click 1 1; right 1 1; release");
     EXPECT_EQ(editor.ZoomStepCount, 2) << "with either button";
-    EXPECT_THAT(bench.machine.dialogs.popUps, IsEmpty());
+    EXPECT_THAT(machine.dialogs.popUps, IsEmpty());
     cmdZoomOut_Click(editor);
     EXPECT_EQ(editor.form.cmdZoomIn.BackColor, ButtonFace);
     EXPECT_EQ(editor.form.cmdZoomOut.BackColor, Cyan);
-    bench.play("click 1 1");
+    play("click 1 1");
     EXPECT_EQ(editor.ZoomStepCount, 1);
     for (const char* end : {"key 27 0", "tool Ground"}) {
         cmdZoomOut_Click(editor);
-        bench.play(std::string(end) + "; click 3 3; key 27 0");
+        play(std::string(end) + "; click 3 3; key 27 0");
         EXPECT_EQ(editor.ZoomStepCount, 1) << end;
         EXPECT_EQ(editor.form.cmdZoomOut.BackColor, ButtonFace) << end;
     }
-    EXPECT_EQ(bench.devices().size(), 1u) << "the tool's click placed again";
+    EXPECT_EQ(devices().size(), 1u) << "the tool's click placed again";
 }
 
 TEST_F(ZoomTest, KeysZoomAtTheLastPlacement) {
-    bench.play("tool Ground; click 3 4; key 187 2");
+    play("tool Ground; click 3 4; key 187 2");
     EXPECT_EQ(editor.ZoomStepCount, 1);
-    EXPECT_EQ(editor.CurrentTool, bench.buttonOf("Ground")) << "the tool stays in hand";
+    EXPECT_EQ(editor.CurrentTool, buttonOf("Ground")) << "the tool stays in hand";
     EXPECT_NEAR(onScreenX(3), 3, 0.01);
     EXPECT_NEAR(onScreenY(4), 4, 0.01);
-    bench.play("key 187 3; key 189 2; key 189 2; key 189 2");
+    play("key 187 3; key 189 2; key 189 2; key 189 2");
     EXPECT_EQ(editor.ZoomStepCount, -1);
-    bench.play("key 187 0; key 189 1; key 187 6");
+    play("key 187 0; key 189 1; key 187 6");
     EXPECT_EQ(editor.ZoomStepCount, -1) << "without Ctrl they are no zoom";
 }
 
 TEST_F(ZoomTest, TheWheelKeepsThePointUnderThePointerAtEveryStep) {
-    bench.play("tool Line; click 2 2; move 3 3");
+    play("tool Line; click 2 2; move 3 3");
     ScrollTo(editor, 1.2f, 2.5f);
     for (const Single at : {3.1f, 4.7f, 2.9f}) {
         const Single x = onScreenX(at), y = onScreenY(at + 1);
@@ -187,16 +163,16 @@ TEST_F(ZoomTest, TheWheelKeepsThePointUnderThePointerAtEveryStep) {
     }
     EXPECT_EQ(editor.ZoomStepCount, 3);
     EXPECT_NE(editor.LineStartX, NoPoint) << "the line under way goes on";
-    EXPECT_EQ(bench.message(), "Current Zoom Scale = 195.3125%");
+    EXPECT_EQ(message(), "Current Zoom Scale = 195.3125%");
     for (int i = 0; i < 20; ++i)
         zoomByWheel(editor, ZoomStep::In, 4, 4);
     EXPECT_EQ(editor.ZoomStepCount, 14);
-    EXPECT_EQ(bench.message(), "Cannot zoom in further.");
-    EXPECT_THAT(bench.machine.dialogs.boxes, IsEmpty());
+    EXPECT_EQ(message(), "Cannot zoom in further.");
+    EXPECT_THAT(boxes(), IsEmpty());
     for (int i = 0; i < 30; ++i)
         zoomByWheel(editor, ZoomStep::Out, 4, 4);
     EXPECT_EQ(editor.ZoomStepCount, -5);
-    EXPECT_EQ(bench.canvas.scaleLeft, 0) << "the page fits";
+    EXPECT_EQ(canvas.scaleLeft, 0) << "the page fits";
 }
 
 }  // namespace
