@@ -164,7 +164,10 @@ std::string linkTarget(std::string native, const std::string& path) {
     constexpr int mostLinks = 40;
     for (int links = 0;; ++links) {
         struct stat info {};
-        if (lstat(native.c_str(), &info) != 0 || !S_ISLNK(info.st_mode)) return native;
+        const bool exists = lstat(native.c_str(), &info) == 0;
+        // A link that cannot be told from a file must not be replaced by one.
+        if (!exists && errno != ENOENT) refuse(path, errno);
+        if (!exists || !S_ISLNK(info.st_mode)) return native;
         if (links == mostLinks) refuse(path, ELOOP);
         std::string target(4096, '\0');
         const ssize_t length = readlink(native.c_str(), target.data(), target.size());
@@ -187,9 +190,19 @@ bool isLeftOver(const std::string& name, const struct stat& info) {
            errno == ESRCH;
 }
 
+using OpenFolder = std::unique_ptr<DIR, int (*)(DIR*)>;
+
+// Empty if it failed.
+OpenFolder openFolder(const std::string& native) {
+    DIR* open = opendir(native.c_str());
+    while (!open && errno == EINTR)
+        open = opendir(native.c_str());
+    return {open, closedir};
+}
+
 // What a killed run could not finish. Where it cannot be removed it harms nobody.
 void removeLeftOvers(const std::string& folder) {
-    const std::unique_ptr<DIR, int (*)(DIR*)> open(opendir(folder.c_str()), closedir);
+    const OpenFolder open = openFolder(folder);
     if (!open) return;
     while (const dirent* const next = readdir(open.get())) {
         struct stat info {};
@@ -301,8 +314,7 @@ char DiskFiles::separator() const {
 }
 
 std::vector<FileEntry> DiskFiles::list(const std::string& folder) {
-    const std::string native = nativePath(folder);
-    const std::unique_ptr<DIR, int (*)(DIR*)> open(opendir(native.c_str()), closedir);
+    const OpenFolder open = openFolder(nativePath(folder));
     if (!open) {
         // A folder is a path, never a file that was not found.
         if (errno == ENOENT) refuse(folder, failure::PathNotFound, "No such folder");
