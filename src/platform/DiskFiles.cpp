@@ -137,10 +137,8 @@ struct stat regularFile(const Descriptor& file, const std::string& path) {
     return info;
 }
 
-void writeAll(const SystemCallHook& hook, const Descriptor& file, std::string_view content,
-              const std::string& path) {
+void writeAll(const Descriptor& file, std::string_view content, const std::string& path) {
     while (!content.empty()) {
-        hook("write");
         const ssize_t written =
             uninterrupted([&] { return write(file.number(), content.data(), content.size()); });
         if (written < 0) refuse(path, errno);
@@ -149,13 +147,11 @@ void writeAll(const SystemCallHook& hook, const Descriptor& file, std::string_vi
     }
 }
 
-void flush(const SystemCallHook& hook, const Descriptor& file, const std::string& path) {
-    hook("fsync");
+void flush(const Descriptor& file, const std::string& path) {
     if (uninterrupted([&] { return fsync(file.number()); }) != 0) refuse(path, errno);
 }
 
-void closeChecked(const SystemCallHook& hook, Descriptor& file, const std::string& path) {
-    hook("close");
+void closeChecked(Descriptor& file, const std::string& path) {
     if (!file.close()) refuse(path, errno);
 }
 
@@ -216,15 +212,12 @@ void removeLeftOvers(const std::string& folder) {
 // A new file beside the target that becomes the target, or is gone again at the end of the scope.
 class Temporary {
   public:
-    Temporary(const SystemCallHook& hook, const std::string& target, mode_t mode,
-              const std::string& path)
-        : file(-1) {
+    Temporary(const std::string& target, mode_t mode, const std::string& path) : file(-1) {
         static std::atomic<unsigned> counter = 0;
         constexpr int attempts = 100;
         for (int attempt = 0; attempt < attempts && !file; ++attempt) {
             native_ = folderOf(target) + std::string(TemporaryStart) + std::to_string(getpid()) +
                       '-' + std::to_string(counter++) + std::string(TemporaryEnd);
-            hook("open");
             file.take(uninterrupted([&] {
                 return open(native_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode);
             }));
@@ -238,8 +231,7 @@ class Temporary {
     Temporary(const Temporary&) = delete;
     Temporary& operator=(const Temporary&) = delete;
 
-    void becomes(const SystemCallHook& hook, const std::string& target, const std::string& path) {
-        hook("rename");
+    void becomes(const std::string& target, const std::string& path) {
         if (::rename(native_.c_str(), target.c_str()) != 0) refuse(path, errno);
         native_.clear();
     }
@@ -251,33 +243,29 @@ class Temporary {
 };
 
 // Mode and group of the file that is replaced, to be given to the new one.
-void takeOver(const SystemCallHook& hook, const Descriptor& file, const struct stat& old,
-              mode_t mode, const std::string& path) {
+void takeOver(const Descriptor& file, const struct stat& old, mode_t mode,
+              const std::string& path) {
     struct stat made {};
     if (fstat(file.number(), &made) != 0) refuse(path, errno);
     if (made.st_gid != old.st_gid) {
-        hook("fchown");
         // Only a member of the group may; the file is as good without.
         [[maybe_unused]] const int done = fchown(file.number(), static_cast<uid_t>(-1), old.st_gid);
     }
     // File systems without modes show the same one for both, and refuse to change it.
     if ((made.st_mode & Permissions) == mode) return;
-    hook("fchmod");
     if (fchmod(file.number(), mode) != 0) refuse(path, errno);
 }
 
 // So that a power cut after this cannot bring the old name back. The content is whole either way.
-void flushFolder(const SystemCallHook& hook, const std::string& target, const std::string& path) {
-    hook("open");
+void flushFolder(const std::string& target, const std::string& path) {
     Descriptor folder = openExisting(folderOf(target), O_RDONLY | O_DIRECTORY);
     if (!folder && errno == EACCES) return;  // may be entered and written, not read
     if (!folder) refuse(path, errno);
-    hook("fsync");
     if (uninterrupted([&] { return fsync(folder.number()); }) != 0) {
         const bool unsupported = errno == EINVAL || errno == ENOTSUP || errno == ENOSYS;
         if (!unsupported) refuse(path, errno);
     }
-    closeChecked(hook, folder, path);
+    closeChecked(folder, path);
 }
 
 std::string sizeText(std::uintmax_t bytes) {
@@ -304,10 +292,6 @@ FileEntry entryOf(std::string name, const struct stat& info) {
 }
 
 }  // namespace
-
-DiskFiles::DiskFiles(SystemCallHook hook) : hook_(std::move(hook)) {
-    if (!hook_) hook_ = [](std::string_view) {};
-}
 
 char DiskFiles::separator() const {
     return Separator;
@@ -380,16 +364,16 @@ void DiskFiles::replace(const std::string& path, std::string_view content, bool 
     if (lastPart(target).empty()) refuse(path, EISDIR);
 
     const bool isPrivate = exists || ownerOnly;
-    Temporary temporary(hook_, target, isPrivate ? S_IRUSR | S_IWUSR : PermissionsOfNew, path);
-    writeAll(hook_, temporary.file, content, path);
+    Temporary temporary(target, isPrivate ? S_IRUSR | S_IWUSR : PermissionsOfNew, path);
+    writeAll(temporary.file, content, path);
     if (exists) {
         const mode_t mode = (old.st_mode & Permissions) | S_IWUSR;
-        takeOver(hook_, temporary.file, old, ownerOnly ? mode & OwnerOnly : mode, path);
+        takeOver(temporary.file, old, ownerOnly ? mode & OwnerOnly : mode, path);
     }
-    flush(hook_, temporary.file, path);
-    closeChecked(hook_, temporary.file, path);
-    temporary.becomes(hook_, target, path);
-    flushFolder(hook_, target, path);
+    flush(temporary.file, path);
+    closeChecked(temporary.file, path);
+    temporary.becomes(target, path);
+    flushFolder(target, path);
     removeLeftOvers(folderOf(target));
 }
 
@@ -397,10 +381,8 @@ void DiskFiles::append(const std::string& path, std::string_view content) {
     const std::string native = nativePath(path);
     struct stat old {};
     if (stat(native.c_str(), &old) == 0 && S_ISREG(old.st_mode) && !(old.st_mode & S_IWUSR)) {
-        hook_("chmod");
         if (chmod(native.c_str(), (old.st_mode & Permissions) | S_IWUSR) != 0) refuse(path, errno);
     }
-    hook_("open");
     Descriptor file(uninterrupted([&] {
         return open(native.c_str(), O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC | O_NONBLOCK,
                     PermissionsOfNew);
@@ -408,8 +390,8 @@ void DiskFiles::append(const std::string& path, std::string_view content) {
     if (!file) refuse(path, errno);
     const off_t length = regularFile(file, path).st_size;
     try {
-        writeAll(hook_, file, content, path);
-        closeChecked(hook_, file, path);
+        writeAll(file, content, path);
+        closeChecked(file, path);
     } catch (const Failure&) {
         // Half an entry is worse than none.
         if (file) {
@@ -430,7 +412,6 @@ void DiskFiles::remove(const std::string& path) {
     if (lstat(native.c_str(), &info) != 0) refuse(path, errno);
     if (S_ISDIR(info.st_mode)) refuse(path, EISDIR);
     // The mode of a file does not protect its name here, so that there is no mark to clear.
-    hook_("unlink");
     if (unlink(native.c_str()) != 0) refuse(path, errno);
 }
 
@@ -439,7 +420,6 @@ void DiskFiles::rename(const std::string& from, const std::string& to) {
     struct stat info {};
     if (lstat(nativeFrom.c_str(), &info) != 0) refuse(from, errno);
     if (lstat(nativeTo.c_str(), &info) == 0) refuse(to, EEXIST);
-    hook_("rename");
     if (renameat2(AT_FDCWD, nativeFrom.c_str(), AT_FDCWD, nativeTo.c_str(), RENAME_NOREPLACE) ==
         0) {
         return;
@@ -449,12 +429,10 @@ void DiskFiles::rename(const std::string& from, const std::string& to) {
 }
 
 void DiskFiles::makeFolder(const std::string& path) {
-    hook_("mkdir");
     if (mkdir(nativePath(path).c_str(), Permissions) != 0) refuse(path, errno);
 }
 
 void DiskFiles::removeFolder(const std::string& path) {
-    hook_("rmdir");
     if (rmdir(nativePath(path).c_str()) != 0) refuse(path, errno);
 }
 
