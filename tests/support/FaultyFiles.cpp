@@ -5,6 +5,15 @@
 
 namespace ladrix::test {
 
+namespace {
+
+bool changesTheDisk(Operation operation) {
+    return operation != Operation::List && operation != Operation::Status &&
+           operation != Operation::Read && operation != Operation::Writable;
+}
+
+}  // namespace
+
 void FaultyFiles::fail(Operation operation, Failure failure, std::string part) {
     faults_.push_back({operation, std::move(failure), std::move(part), 0, true});
 }
@@ -24,6 +33,7 @@ int FaultyFiles::count(Operation operation) const {
 
 void FaultyFiles::enter(Operation operation, const std::string& path) {
     calls.push_back({operation, path});
+    if (beforeChange && changesTheDisk(operation)) beforeChange();
     for (auto fault = faults_.begin(); fault != faults_.end(); ++fault) {
         if (fault->operation != operation || path.find(fault->part) == std::string::npos) continue;
         if (fault->passed-- > 0) continue;

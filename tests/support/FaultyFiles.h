@@ -2,6 +2,7 @@
 // Failure instead of being done.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -38,6 +39,9 @@ class FaultyFiles final : public Files {
     // The same, for one call alone, after `passed` calls that it lets through.
     void failOnce(Operation operation, Failure failure, int passed = 0);
     void heal();
+
+    // Called before each operation that changes the disk; may throw in its place.
+    std::function<void()> beforeChange;
 
     // Every operation so far in order, failed ones too.
     std::vector<Call> calls;

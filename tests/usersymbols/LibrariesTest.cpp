@@ -3,10 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <map>
-#include <set>
 
 #include "SymbolBench.h"
 #include "platform/Encoding.h"
+#include "support/FaultyFiles.h"
 
 namespace ladrix {
 namespace {
@@ -370,15 +370,13 @@ Outcome runBroken(const Change& change, int at, bool kill) {
     ReloadLibrary(bench.symbols, bench.editor);
     int calls = 0;
     Outcome outcome{true, 0, {}, {}};
-    // The calls that leave something else on disk; between them nothing is seen to change.
-    static const std::set<std::string_view> Changing = {"open", "rename", "unlink", "mkdir",
-                                                        "rmdir"};
-    DiskFiles files([&](std::string_view call) {
-        if (!Changing.contains(call) || calls++ != at) return;
+    test::FaultyFiles files;
+    files.beforeChange = [&] {
+        if (calls++ != at) return;
         outcome.finished = false;
         if (kill) throw Killed{};
         throw Failure{failure::DiskFull, "No space"};
-    });
+    };
     bench.machine.platform.files = &files;
     try {
         change.run(bench);
