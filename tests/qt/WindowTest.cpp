@@ -264,11 +264,9 @@ TEST_F(WindowTest, PlacesASymbolWithItsLabel) {
     auto& txtEdit = find<QLineEdit>("txtEdit");
     ASSERT_TRUE(txtEdit.isVisible());
     EXPECT_TRUE(txtEdit.hasFocus());
-    EXPECT_EQ(txtEdit.selectedText(), txtEdit.text());
-    for (const QChar letter : QString("7CR"))
-        press(txtEdit, 0, letter);
-    EXPECT_EQ(editor().form.lbl[0].Caption, "7CR");
-    EXPECT_EQ(editor().drawing.labels.LabelText[0], "7CR");
+    press(txtEdit, Qt::Key_7, "7");
+    EXPECT_EQ(editor().form.lbl[0].Caption, "CR7") << "typed on behind the prefix";
+    EXPECT_EQ(editor().drawing.labels.LabelText[0], "CR7");
     press(txtEdit, Qt::Key_Return, "\r");
     EXPECT_FALSE(txtEdit.isVisible());
     EXPECT_TRUE(picLX().hasFocus());
