@@ -175,7 +175,10 @@ TEST_F(LabelsTest, TheDialogSetsTextAndFont) {
     });
     Journey::click(journey.page(), on(0), Qt::RightButton);
     chooseFrom(openMenu(), "mnuEditTextProps");
-    ASSERT_TRUE(waitFor([&] { return journey.dialogsLeft() == 0 && selected() == 0; }));
+    // The keyboard comes back to the window a moment after the dialog has gone.
+    ASSERT_TRUE(waitFor([&] {
+        return journey.dialogsLeft() == 0 && selected() == 0 && journey.window().isActiveWindow();
+    }));
     EXPECT_EQ(labels().LabelText.at(0), "M2");
     EXPECT_EQ(labels().LabelFontSize.at(0), 13.5f);
     EXPECT_TRUE(labels().LabelBold.at(0));
