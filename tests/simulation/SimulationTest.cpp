@@ -124,20 +124,6 @@ TEST_F(SimulationTest, FollowsItsTablesFromEveryStateInBothViews) {
     EXPECT_TRUE(machine.reports.empty());
 }
 
-TEST_F(SimulationTest, OpensEveryDrawingThatATableNames) {
-    std::size_t files = 0;
-    for (Short circuit = 0; circuit < SimCircuitCount; ++circuit)
-        for (const char* view : {"Voltage", "Current"})
-            for (const SimRow& row : simulationTable()) {
-                if (row.circuit != circuit) continue;
-                const std::string name =
-                    std::string(simulationPrefix(circuit, view)) + std::string(row.file);
-                EXPECT_TRUE(FileExists(machine.files, LADRIX_DATA "/Simulation Files/", name));
-                ++files;
-            }
-    EXPECT_EQ(files, 2 * simulationTable().size());
-}
-
 TEST_F(SimulationTest, FindsTheDevicesAtTheBoundsOfTheirPlaces) {
     struct {
         Short circuit;

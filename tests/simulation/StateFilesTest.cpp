@@ -15,7 +15,6 @@
 #include "document/DrawingFile.h"
 #include "document/Records.h"
 #include "support/FakePlatform.h"
-#include "symbols/DrawDevice.h"
 
 namespace ladrix::test {
 namespace {
@@ -245,39 +244,6 @@ TEST_P(StateFile, HasCurrentInClosedPathsOnly) {
             EXPECT_GE(sheet.meeting(end, Carrying), 2) << c.name << end.x << ' ' << end.y;
         }
     }
-}
-
-Extent inkOf(Sheet& sheet, Short row) {
-    RecordingPage page;
-    Symbols symbols;
-    drawRow(symbols, sheet.drawing, sheet.machine.platform, page, sheet.drawing.devices, row,
-            Black);
-    Extent extent;
-    for (const Primitive& p : page.primitives) {
-        const bool line = p.kind == Primitive::Kind::Line;
-        extent.add(p.x1 - (line ? 0 : p.radius), p.y1 - (line ? 0 : p.radius));
-        extent.add(line ? p.x2 : p.x1 + p.radius, line ? p.y2 : p.y1 + p.radius);
-    }
-    return extent;
-}
-
-TEST_P(StateFile, HasItsButtonsWhereThePointerFindsThem) {
-    Sheet sheet("V_Demo_" + GetParam().first + ".els");
-    const Single start = GetParam().first.starts_with("1") ? 4.5f : 4;
-    int buttons = 0;
-    for (Short i = 0; i < sheet.drawing.devices.DeviceCount; ++i) {
-        const Device device = sheet.drawing.devices.row(i);
-        if (!device.name.starts_with("InsertPB")) continue;
-        const Extent extent = inkOf(sheet, i);
-        const Single left = device.name.starts_with("InsertPBNC") ? 2 : start;
-        const Single top = device.y > 2 ? 3.0f : 0.5f;
-        EXPECT_GE(extent.left, left - Near);
-        EXPECT_LE(extent.right, left + 0.5f + Near);
-        EXPECT_GE(extent.top, top - Near);
-        EXPECT_LE(extent.bottom, top + 0.5f + Near);
-        ++buttons;
-    }
-    EXPECT_EQ(buttons, GetParam().first.starts_with("1") ? 4 : 2);
 }
 
 }  // namespace
