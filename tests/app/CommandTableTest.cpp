@@ -29,23 +29,11 @@ TEST_F(CommandTableTest, EveryEntryStandsOnceUnderAMenuThatComesBeforeIt) {
 }
 
 TEST_F(CommandTableTest, NoTwoShortcutsClashAndNoneTakesAKeyOfTheCanvas) {
-    // The form's own keys: colours, snap and zoom.
-    std::map<std::string_view, std::string_view> owners{{"Ctrl+B", "black"},
-                                                        {"Ctrl+Left", "finer snap"},
-                                                        {"Ctrl+Right", "coarser snap"},
-                                                        {"Ctrl+=", "zoom in"},
-                                                        {"Ctrl+-", "zoom out"},
-                                                        {"Ctrl+Alt+B", "black"},
-                                                        {"Ctrl+Alt+R", "red"},
-                                                        {"Ctrl+Alt+G", "green"},
-                                                        {"Ctrl+Alt+Y", "yellow"},
-                                                        {"Ctrl+Alt+C", "cyan"},
-                                                        {"Ctrl+Alt+M", "magenta"},
-                                                        {"Ctrl+Alt+U", "blue"},
-                                                        {"Ctrl+Alt+V", "violet"},
-                                                        {"Esc", "reset"},
-                                                        {"PgUp", "page up"},
-                                                        {"PgDown", "page down"}};
+    std::map<std::string_view, std::string_view> owners;
+    for (const char* key : {"Ctrl+B", "Ctrl+Left", "Ctrl+Right", "Ctrl+=", "Ctrl+-", "Ctrl+Alt+B",
+                            "Ctrl+Alt+R", "Ctrl+Alt+G", "Ctrl+Alt+Y", "Ctrl+Alt+C", "Ctrl+Alt+M",
+                            "Ctrl+Alt+U", "Ctrl+Alt+V", "Esc", "PgUp", "PgDown"})
+        owners[key] = "the form's own: colours, snap, zoom";
     for (const Command& row : commandTable()) {
         EXPECT_TRUE(row.shortcut.empty() || row.handler != nullptr) << row.name;
         for (std::string_view rest = row.shortcut; !rest.empty();) {
@@ -66,13 +54,6 @@ TEST_F(CommandTableTest, AnEntryWithoutActionIsDisabledAndRunsNothing) {
     EXPECT_TRUE(isEnabled(program, command(Menu::mnuFileSave)));
 }
 
-TEST_F(CommandTableTest, PagesAreChosenFromTheMenu) {
-    runCommand(program, Menu::mnuLayoutLargeLandscape);
-    EXPECT_EQ(program.editor.drawing.PageLayoutKey, "11x17Landscape");
-    EXPECT_FLOAT_EQ(program.editor.PageWidth, 17);
-    EXPECT_FLOAT_EQ(program.editor.PageHeight, 11);
-}
-
 TEST_F(CommandTableTest, OnlyTheRightPasswordShowsTheAdminMenu) {
     fake.dialogs.inputAnswers = {"Gravlock", std::nullopt, "gravlock"};
     runCommand(program, Menu::mnuHelpAdmin);
@@ -90,16 +71,6 @@ TEST_F(CommandTableTest, WebPagesAreOpenedOnYesAlone) {
     runCommand(program, Menu::mnuHelpSupport);
     ASSERT_EQ(fake.shell.opened.size(), 1u);
     EXPECT_TRUE(fake.shell.opened[0].starts_with("https://"));
-}
-
-TEST_F(CommandTableTest, ExitAsksAboutChangesAndCancelKeepsTheProgram) {
-    program.editor.drawing.DrawingChanged = true;
-    fake.dialogs.answers = {Answer::Cancel, Answer::No};
-    runCommand(program, Menu::mnuExit);
-    EXPECT_FALSE(fake.shell.ended);
-    EXPECT_TRUE(program.editor.drawing.DrawingChanged);
-    runCommand(program, Menu::mnuExit);
-    EXPECT_TRUE(fake.shell.ended);
 }
 
 }  // namespace

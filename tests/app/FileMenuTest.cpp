@@ -78,14 +78,6 @@ TEST_F(FileMenuTest, RecentDrawingsAreShownNewestFirstWithoutDoublesAndComeBack)
     EXPECT_EQ(recent()[8], "&9 3.els");
 }
 
-TEST_F(FileMenuTest, ASavedDrawingIsARecentOne) {
-    start();
-    drawing().CurrentFileName = "New.els";
-    drawing().FileDescription = "something to save";
-    SaveDrawing(program->editor);
-    EXPECT_THAT(recent(), ElementsAre("&1 New.els"));
-}
-
 TEST_F(FileMenuTest, ADamagedListIsReadAsFarAsItGoesAndAHugeOneNotAtAll) {
     const std::string path = fake.folder / "documents/Ladrix/A.els";
     const std::string noise("\0\xFF\x81\n\n\r\r\n..\nA.els\n/\n", 19);
@@ -107,22 +99,22 @@ TEST_F(FileMenuTest, ADamagedListIsReadAsFarAsItGoesAndAHugeOneNotAtAll) {
 
 TEST_F(FileMenuTest, LongPathsAreCutBetweenFoldersAndNeverInACharacter) {
     start();
-    struct Case {
-        std::string path, caption;
+    const std::string longName = std::string(55, 'x'), longFolder = std::string(90, 'x');
+    const std::pair<std::string, std::string> cases[] = {
+        {"/srv/A.els", "&1 A.els\t/srv"},
+        {"/A.els", "&1 A.els\t/"},
+        {"/srv/projects/customers/north/line four/pumping station/A.els",
+         "&1 A.els\t\x85/customers/north/line four/pumping station"},
+        {"/" + longFolder + "/A.els", "&1 A.els\t\x85/" + longFolder.substr(0, 44) + "\x85"},
+        {"/srv/" + longName +
+             "\x81"
+             "d0\x81"
+             "96.els",
+         "&1 " + longName + "\x85.els\t/srv"},
     };
-    const std::string parts = "/srv/projects/customers/north/line four/pumping station";
-    for (const Case& c :
-         {Case{"/srv/A.els", "&1 A.els\t/srv"}, Case{"/A.els", "&1 A.els\t/"},
-          Case{parts + "/A.els", "&1 A.els\t\x85/customers/north/line four/pumping station"},
-          Case{"/" + std::string(90, 'x') + "/A.els",
-               "&1 A.els\t\x85/" + std::string(44, 'x') + "\x85"},
-          Case{"/srv/" + std::string(55, 'x') +
-                   "\x81"
-                   "d0\x81"
-                   "96.els",
-               "&1 " + std::string(55, 'x') + "\x85.els\t/srv"}}) {
-        program->recentFiles.paths = {c.path};
-        EXPECT_EQ(recentCaption(*program, 0), c.caption);
+    for (const auto& [path, caption] : cases) {
+        program->recentFiles.paths = {path};
+        EXPECT_EQ(recentCaption(*program, 0), caption);
     }
 }
 

@@ -40,10 +40,10 @@ TEST_F(LibraryCommandsTest, TheStartLoadsTheDefaultLibraryBehindTheBuiltInButton
     write("documents/Ladrix/User Symbols", {"Ground", "Motor"});
     fake.folder.makeFolder("documents/Ladrix/Data Files");
     std::string preferences;
-    for (int line = 10; line < 35; ++line)
-        preferences += "Reserve Bit " + std::to_string(line) + ":\r\n";
-    preferences += "Reserve Bit 25:30\r\n";
-    fake.folder.write("documents/Ladrix/Data Files/UserPreferences.upf", preferences);
+    for (int line = 0; line < 25; ++line)
+        preferences += "Reserve Bit 00:\r\n";
+    fake.folder.write("documents/Ladrix/Data Files/UserPreferences.upf",
+                      preferences + "Reserve Bit 25:30\r\n");
     ASSERT_TRUE(startProgram(program));
     EXPECT_EQ(program.usersymbols.MaxSymbolsPerLibrary, 30 * 23);
     EXPECT_EQ(program.editor.form.cmdSym[93].Tag, "Motor");

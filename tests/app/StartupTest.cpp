@@ -41,17 +41,26 @@ TEST_F(StartTest, AFirstRunMakesTheTreeSeedsItAndOpensWithoutAnyBox) {
               "Ladrix - Current Library: User Symbols - File Name: Untitled");
 }
 
-TEST_F(StartTest, ASecondStartCopiesNothingAndMakesOnlyWhatIsMissing) {
+TEST_F(StartTest, ASecondStartMakesOnlyWhatIsMissingAndReadsThePreferences) {
+    std::string lines;
+    for (int i = 10; i < 36; ++i)
+        lines += "Reserve Bit 00:\r\n";
+    fake.platform.locale.decimalMark = ',';
     disk().write("program/Demo1.els", "one");
-    disk().makeFolder(documents("Drawings"));
+    disk().write("program/UserPreferences.upf", "Reserve Bit 00:\r\n");
     disk().write(documents("Drawings/mine.els"), "mine");
+    disk().write(documents("Data Files/UserPreferences.upf"), lines + "Reserve Bit 26:0,2\r\n");
 
     ASSERT_TRUE(startProgram(program));
 
     EXPECT_FALSE(program.paths.FirstRun);
     EXPECT_EQ(disk().entries(documents("Drawings")), (std::vector<std::string>{"mine.els"}));
     EXPECT_TRUE(disk().has(documents("Bitmaps")));
-    EXPECT_TRUE(disk().has(documents("Data Files")));
+    EXPECT_FLOAT_EQ(program.editor.DashSpacing, 0.2f);
+    EXPECT_EQ(program.UserPrefs.size(), 27u);
+    EXPECT_EQ(program.editor.form.cmbScale.Text, "1,00") << "the mark of the locale";
+    EXPECT_EQ(program.editor.form.cmbScale.List.front(), "0,25");
+    EXPECT_EQ(program.editor.form.cmdSnap.Caption, "Snap: 0,25");
 }
 
 TEST_F(StartTest, AnotherInstanceEndsTheStartAfterItsMessage) {
@@ -79,24 +88,12 @@ TEST_F(StartTest, TheScreensWidthEndsTheProgramAndItsHeightChoosesThePalette) {
     ASSERT_EQ(fake.dialogs.boxes.size(), 2u);
     EXPECT_EQ(fake.dialogs.boxes[1].text,
               "The program will now close. Please change your screen seetings and try again.");
-
-    fake.platform.screen = {15360, 11519, 15, 15};
-    Program low{fake.platform};
-    ASSERT_TRUE(startProgram(low));
-    EXPECT_EQ(low.editor.form.cmdSym[24].Tag, "General Purpose Switch, Normally Closed");
-
-    fake.platform.screen.Height = 11520;
-    Program tall{fake.platform};
-    ASSERT_TRUE(startProgram(tall));
-    EXPECT_EQ(tall.editor.form.cmdSym[28].Tag, "General Purpose Switch, Normally Closed");
-}
-
-TEST_F(StartTest, TheDecimalMarkOfTheLocaleIsInTheFields) {
-    fake.platform.locale.decimalMark = ',';
-    ASSERT_TRUE(startProgram(program));
-    EXPECT_EQ(program.editor.form.cmbScale.Text, "1,00");
-    EXPECT_EQ(program.editor.form.cmbScale.List.front(), "0,25");
-    EXPECT_EQ(program.editor.form.cmdSnap.Caption, "Snap: 0,25");
+    for (const auto& [height, button] : {std::pair{11519.0f, 24u}, std::pair{11520.0f, 28u}}) {
+        fake.platform.screen = {15360, height, 15, 15};
+        Program next{fake.platform};
+        ASSERT_TRUE(startProgram(next));
+        EXPECT_EQ(next.editor.form.cmdSym[button].Tag, "General Purpose Switch, Normally Closed");
+    }
 }
 
 TEST_F(StartTest, TheDiagnosticsNameTheFoldersAndStartAfreshEachRun) {
@@ -106,20 +103,6 @@ TEST_F(StartTest, TheDiagnosticsNameTheFoldersAndStartAfreshEachRun) {
     EXPECT_TRUE(text.starts_with("Application Path: "));
     EXPECT_NE(text.find("Computer Name: TESTBENCH\r\n"), std::string::npos);
     EXPECT_NE(text.find("My Documents: " + program.paths.MyDocumentsPath), std::string::npos);
-}
-
-TEST_F(StartTest, ThePreferencesDashSpacingIsReadFromTheDataFolderFirst) {
-    std::string lines;
-    for (int i = 0; i < 27; ++i) {
-        const std::string number = i < 10 ? "0" + std::to_string(i) : std::to_string(i);
-        lines += "Reserve Bit " + number + ":" + (i == 26 ? "0,2" : "") + "\r\n";
-    }
-    disk().write("program/UserPreferences.upf", "Reserve Bit 00:\r\n");
-    disk().write(documents("Data Files/UserPreferences.upf"), lines);
-    disk().makeFolder(documents("Drawings"));
-    ASSERT_TRUE(startProgram(program));
-    EXPECT_FLOAT_EQ(program.editor.DashSpacing, 0.2f);
-    EXPECT_EQ(program.UserPrefs.size(), 27u);
 }
 
 TEST_F(StartTest, PreferencesThatCannotBeAreReportedAndTheDefaultsStand) {
@@ -147,7 +130,6 @@ TEST_F(StartTest, ADashSpacingIsStoredInTheUsersMarkAndAnAbsurdOneIsTold) {
                           {"0,25", "0,25", ""},
                           {"wide", "0,25", "Expected a numeric value."},
                           {"0", "0,25", "The dash spacing must be at least 0,01 inches."},
-                          {"-1", "0,25", "The dash spacing must be at least 0,01 inches."},
                           {"1e-9", "0,25", "The dash spacing must be at least 0,01 inches."},
                           {"", "0,25", ""}}) {
         fake.dialogs.boxes.clear();
