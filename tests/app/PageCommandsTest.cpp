@@ -68,17 +68,5 @@ TEST_F(PageCommandsTest, ExportWritesTheDrawingInTheFormatOfTheNameAndKeepsTheFo
     EXPECT_FALSE(fake.folder.has("b.pdf"));
 }
 
-TEST_F(PageCommandsTest, TheFormsOfTheMenusAreShownFresh) {
-    std::vector<Form> shown;
-    fake.dialogs.duringForm = [&](Form form) { shown.push_back(form); };
-    for (const Menu entry : {Menu::mnuLayoutMore, Menu::mnuFilePrintCircuit1,
-                             Menu::mnuFilePrintPreview, Menu::mnuOptPrinter})
-        runCommand(program, entry);
-    EXPECT_EQ(shown, (std::vector<Form>{Form::frmLayout, Form::frmPrinter, Form::frmPreview,
-                                        Form::frmPrinters}));
-    EXPECT_GE(fake.printers.refreshes, 3);
-    EXPECT_FALSE(program.printing.frmPrinter.Visible);
-}
-
 }  // namespace
 }  // namespace ladrix

@@ -383,28 +383,6 @@ TEST_F(FileBrowserSaveTest, AfterTheSaveOfAnUntitledDrawingTheSameFormOpensTheOt
     EXPECT_TRUE(fake.folder.has("drawings/first.els"));
 }
 
-TEST_F(FileBrowserFoldersTest, EnterAndParentMarkTheFolderLeft) {
-    fake.folder.makeFolder("drawings/a");
-    fake.folder.makeFolder("drawings/b/c");
-    showOpen();
-    doubleClick("b");
-    EXPECT_EQ(browser.BrowserFolder, drawings + "b/");
-    const std::vector<PathPart> parts = pathParts(browser, fake.files);
-    ASSERT_GE(parts.size(), 3u);
-    EXPECT_EQ(parts.front().path, "/");
-    EXPECT_EQ(parts.back().name, "b");
-    EXPECT_EQ(parts[parts.size() - 2].name, "drawings");
-    EXPECT_EQ(parts[parts.size() - 2].path, drawings);
-    goToParentFolder(browser, editor);
-    EXPECT_EQ(browser.BrowserFolder, drawings);
-    EXPECT_EQ(browser.Selected, indexOf("b"));
-    cmdOpenOK_Click(browser, editor);
-    EXPECT_EQ(browser.BrowserFolder, drawings + "b/") << "OK on a folder enters it";
-    Dir1_Change(browser, editor, "/");
-    goToParentFolder(browser, editor);
-    EXPECT_EQ(browser.BrowserFolder, "/");
-}
-
 TEST_F(FileBrowserFoldersTest, AFolderThatCannotBeReadIsReportedAndAVanishedOneGivesWay) {
     fake.folder.makeFolder("drawings/locked");
     fake.folder.makeFolder("drawings/a/b/c");

@@ -153,18 +153,6 @@ TEST_F(LabelEventsTest, LabelDragIsDroppedByEscapeAndByUndo) {
     EXPECT_EQ(snapshots, 0);
 }
 
-TEST_F(LabelEventsTest, LabelMenuComesWithTheRightButtonAndTheDoubleClickForASelectedLabel) {
-    click(0);
-    lbl_MouseDown(editor, 2, RightButton, 5, 3);
-    EXPECT_THAT(marks(), ElementsAre(1, 0, 1));
-    EXPECT_EQ(editor.LastSelectedLabel, 2);
-    EXPECT_THAT(machine.dialogs.popUps, ElementsAre("mnuEditText"));
-    click(2);
-    lbl_DblClick(editor, 2);
-    EXPECT_THAT(marks(), ElementsAre(1, 0, 1)) << "whatever the first click has made of it";
-    EXPECT_EQ(machine.dialogs.popUps.size(), 2u);
-}
-
 TEST_F(LabelEventsTest, LabelPressDropsTheToolAndGivesAUserSymbolItsPoint) {
     play("tool Line; click 1 1; move 3 2");
     click(1);

@@ -175,18 +175,5 @@ TEST_F(LabelsTest, AutoIncrementAdvancesNumbersAndSingleLetters) {
     EXPECT_GT(editor.form.txtEdit.SelectAllRequests, marked);
 }
 
-TEST_F(LabelsTest, TextBoxTellsItsFocusAndKeepsThePaletteKeysToItself) {
-    play("tool Ground");
-    txtEdit_GotFocus(editor);
-    EXPECT_EQ(message(),
-              "Text edit area has the focus. Type text as required and press ENTER. Press ESC to "
-              "exit.");
-    play("key 38 0");
-    EXPECT_EQ(editor.ToolName, "Ground");
-    txtEdit_LostFocus(editor);
-    play("key 38 0");
-    EXPECT_NE(editor.ToolName, "Ground");
-}
-
 }  // namespace
 }  // namespace ladrix::test

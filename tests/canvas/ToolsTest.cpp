@@ -9,24 +9,6 @@ namespace {
 
 using ToolsTest = BenchTest;
 
-TEST(ToolPress, PromptsByTheClassOfTheTool) {
-    const std::pair<const char*, const char*> cases[] = {
-        {"Dashed Square", "Click a start point or press ESC to end."},
-        {"Text",
-         "Click an insertion point. Edit text either prior or after insertion and then press "
-         "Enter."},
-        {"Arc Up", "After editing the radius, start and end point in degrees, click a location."},
-        {"Connection Point", "After editing the radius, click a location."},
-        {"My Valve", "After selecting location, type a name for the device if applicable."},
-    };
-    for (const auto& [tag, prompt] : cases) {
-        Bench bench;
-        bench.editor.form.cmdSym[93].Tag = "My Valve";
-        bench.play(std::string("tool ") + tag);
-        EXPECT_EQ(bench.message(), std::string(tag) + " Selected - " + prompt);
-    }
-}
-
 TEST_F(ToolsTest, ToolPressKeepsExactlyOneButtonPressed) {
     play("tool Ground; tool Lamp");
     EXPECT_FALSE(button("Ground").Pressed);
@@ -188,22 +170,6 @@ TEST_F(ToolsTest, FlyOutOpensBesideAButtonWithOrientationsOnly) {
         play("move 1 1; move 1 2");
         EXPECT_FALSE(flyOut.Visible) << "the canvas closes it";
     }
-}
-
-TEST_F(ToolsTest, FlyOutAChoiceStaysWithTheButtonAndIsWhatIsPlaced) {
-    play("tool Lamp");
-    cmdSym_MouseMove(editor, buttonOf("Capacitor"), 200, 200);
-    cmdMoreSym_Click(editor, 3);
-    EXPECT_FALSE(editor.form.picMoreSym.Visible);
-    EXPECT_FALSE(button("Lamp").Pressed);
-    EXPECT_TRUE(button("Capacitor").Pressed);
-    play("click 1 1; tool Lamp; tool Capacitor; click 2 2");
-    EXPECT_EQ(drawing.devices.DeviceOrientation, (std::vector<Short>{3, 3}));
-
-    cmdSym_MouseMove(editor, buttonOf("AC Capacitor"), 200, 200);
-    cmdMoreSym_Click(editor, 2);
-    EXPECT_EQ(button("AC Capacitor").ButtonOrientation, 0) << "it has two";
-    EXPECT_EQ(editor.ToolName, "Capacitor");
 }
 
 }  // namespace
