@@ -81,7 +81,7 @@ constexpr Tip Tips[] = {
     {"frmLibManager", "cmdDelete", "Delete the selected symbols and their files"},
     {"frmLibManager", "picPreview", "Click to preview the symbol here"},
     {"frmLibManager", "cmbScale", "Scale of the preview"},
-    {"frmLibManager", "cmdExit", "Close the manager (Esc)"},
+    {"frmLibManager", "cmdExit", "Close the manager"},
 
     {"frmLayout", "optOrient0", "Upright page"},
     {"frmLayout", "optOrient1", "Wide page"},
