@@ -1,4 +1,4 @@
-// Any bytes as a drawing file: the first byte chooses its age, the locale and a template in force.
+// Any bytes as a drawing file; the first one chooses its age, the locale and a template in force.
 #include <cstdint>
 
 #include "CheckedDrawing.h"
@@ -27,22 +27,37 @@ void checkDivision(const Drawing& drawing, FileTime modified) {
     fuzz::require(parts.pictures == drawing.PictureString);
 }
 
+void readFile(Drawing& drawing, const fuzz::Input& input, const Platform& platform) {
+    static const FileTime today = std::chrono::sys_days{std::chrono::year_month_day{
+        std::chrono::year{2024}, std::chrono::June, std::chrono::day{1}}};
+    static const FileTime longAgo = today - std::chrono::years{15};
+    drawing.CurrentFolder = "/drawings/";
+    drawing.CurrentFileName = "Pictures.els";
+    drawing.PictureParentFolder.clear();
+    drawing.PictureFolderName.clear();
+    drawing.TemplateActive = input.chosen(2);
+    takeParts(drawing, splitFile(input.text, input.chosen(1) ? longAgo : today));
+    ParseDeviceString(drawing, platform);
+    ParseLabelString(drawing, platform);
+    ParsePictureString(drawing, platform);
+    fuzz::checkDevices(drawing);
+    fuzz::checkLabels(drawing);
+    fuzz::checkPictures(drawing);
+    fuzz::checkDeviceRewriting(drawing, platform);
+    fuzz::checkLabelRewriting(drawing, platform);
+    RebuildPictureString(drawing, platform);
+    if (!drawing.PageLayoutKey.starts_with("Insert")) checkDivision(drawing, today);
+}
+
 }  // namespace
 }  // namespace ladrix
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    using namespace ladrix;
-    using namespace std::chrono;
-    if (size == 0) return 0;
-    const FileTime today = sys_days{2024y / June / 1};
-    const FileTime longAgo = sys_days{2009y / March / 1};
-    const std::string text(data + 1, data + size);
-
-    fuzz::TinyPlatform machine(data[0] & 1 ? ',' : '.');
-    Drawing drawing;
-    drawing.CurrentFolder = "/drawings/";
-    drawing.CurrentFileName = "Pictures.els";
-    drawing.TemplateActive = (data[0] & 4) != 0;
+    static ladrix::fuzz::OnePicture files;
+    static ladrix::fuzz::Machine machine(files);
+    static ladrix::Drawing drawing;
+    const ladrix::fuzz::Input input(data, size);
+    machine.begin(input);
     drawing.TemplateDevices =
         "InsertCoil\xFF"
         "1\xFF"
@@ -53,12 +68,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         "1\xFF"
         "1\xFF"
         "0\r\n";
-    takeParts(drawing, splitFile(text, data[0] & 2 ? longAgo : today));
-    fuzz::parseAll(drawing, machine.platform);
-    fuzz::checkTables(drawing);
-    fuzz::checkRewriting(drawing, machine.platform);
-    if (drawing.PageLayoutKey.starts_with("Insert")) return 0;
-    fuzz::rebuildAll(drawing, machine.platform);
-    checkDivision(drawing, today);
+    ladrix::readFile(drawing, input, machine.platform);
     return 0;
 }

@@ -1,5 +1,6 @@
-// Any bytes as a topic file. What was read and has a title is written in a form that reads back to
-// the same topics; any bytes as typed text give one that a topic can hold.
+// Any bytes as a topic file: what was read and has a title is written in a form that reads back to
+// the same topics. Bytes without a start mark, which hold no topic, are typed text instead: they
+// give one that a topic can hold.
 #include <algorithm>
 #include <cstdint>
 #include <cstdlib>
@@ -38,17 +39,27 @@ bool canBeSaved(const Topics& topics) {
     return topics.size() < ladrix::MostTopics;
 }
 
+void checkFile(std::string_view text) {
+    Topics topics = topicsOf(text);
+    ladrix::sortTopics(topics);
+    if (canBeSaved(topics)) require(topicsOf(ladrix::helpFileText(topics)) == topics);
+}
+
+void checkTyping(std::string_view text) {
+    require(topicsOf(text).empty());
+    const char mark = ladrix::markOf(text.size() % ladrix::MostTopics);
+    const std::string held = ladrix::acceptedText(text, mark).text;
+    require(held.find(mark) == std::string::npos);
+    require(held.find(ladrix::StartMark) == std::string::npos);
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string text(data, data + size);
-    Topics topics = topicsOf(text);
-    ladrix::sortTopics(topics);
-    if (canBeSaved(topics)) require(topicsOf(ladrix::helpFileText(topics)) == topics);
-
-    const char mark = ladrix::markOf(size % ladrix::MostTopics);
-    const std::string held = ladrix::acceptedText(text, mark).text;
-    require(held.find(mark) == std::string::npos);
-    require(held.find(ladrix::StartMark) == std::string::npos);
+    if (text.find(ladrix::StartMark) == std::string::npos)
+        checkTyping(text);
+    else
+        checkFile(text);
     return 0;
 }

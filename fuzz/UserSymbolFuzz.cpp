@@ -1,8 +1,8 @@
-// Any bytes as a user symbol's script, placed and previewed, and as the list of its library.
+// Any bytes as a user symbol's script; the first one chooses the locale and whether the symbol is
+// placed, shown in a preview of the palette or in the library manager's.
 #include <cstdint>
 
 #include "CheckedDrawing.h"
-#include "usersymbols/Libraries.h"
 #include "usersymbols/Script.h"
 
 namespace {
@@ -24,113 +24,63 @@ class UnseenCanvas final : public Canvas {
     std::string_view Name() const override { return "picLX"; }
 };
 
-class Dot final : public Picture {
+class Session {
   public:
-    int pixelWidth() const override { return 1; }
-    int pixelHeight() const override { return 1; }
-};
+    Session() {
+        machine_.platform.picLX = &canvas_;
+        symbols_.UserSymbolScript.resize(1);
+        symbols_.UserSymbolCount = 1;
+    }
 
-class Dots final : public Images {
-  public:
-    std::shared_ptr<const Picture> load(const std::string&) override { return dot_; }
-    std::shared_ptr<const Picture> fromBitmap(std::string_view) override { return dot_; }
-    std::string bitmapText(const Picture&) override { return "BM"; }
-    std::unique_ptr<PictureBox> makePicture(int, int) override { return nullptr; }
+    void run(const fuzz::Input& input) {
+        machine_.begin(input);
+        ClearTables(editor_.drawing);
+        SymbolPlacement placement;
+        placement.obj = &canvas_;
+        placement.X = placement.Y = 1;
+        placement.MyScaleX = 2;
+        if (input.chosen(1)) {
+            place(placement, input.text);
+        } else {
+            preview(placement, input);
+            fuzz::require(editor_.drawing.devices.DeviceCount == 0);
+            fuzz::require(editor_.drawing.labels.LabelCount == 0);
+        }
+    }
 
   private:
-    std::shared_ptr<const Picture> dot_ = std::make_shared<Dot>();
+    void place(SymbolPlacement& placement, const std::string& script) {
+        Drawing& drawing = editor_.drawing;
+        insert(placement, script);
+        fuzz::checkDevices(drawing);
+        fuzz::checkLabels(drawing);
+        fuzz::checkDeviceRewriting(drawing, machine_.platform);
+        fuzz::checkLabelRewriting(drawing, machine_.platform);
+    }
+
+    void preview(SymbolPlacement& placement, const fuzz::Input& input) {
+        if (input.chosen(2)) return PreviewUserSymbol(editor_, placement, input.text);
+        editor_.drawing.DrawingPreview = true;
+        insert(placement, input.text);
+        editor_.drawing.DrawingPreview = false;
+    }
+
+    void insert(SymbolPlacement& placement, const std::string& script) {
+        symbols_.UserSymbolScript[0] = script;
+        InsertUserSymbol(symbols_, editor_, placement, 0);
+    }
+
+    fuzz::RefusingFiles files_;
+    UnseenCanvas canvas_;
+    fuzz::Machine machine_{files_};
+    Editor editor_{machine_.platform};
+    UserSymbols symbols_;
 };
-
-// One library with the symbols "a" and "b"; its list and every script are the bytes at hand.
-class OneLibrary final : public Files {
-  public:
-    explicit OneLibrary(std::string content) : text(std::move(content)) {}
-
-    std::string text, script = "Line:0:0:1:1\r\n";
-
-    char separator() const override { return '/'; }
-    std::vector<FileEntry> list(const std::string& folder) override {
-        std::vector<FileEntry> entries;
-        const auto add = [&](const char* name, bool isFolder) {
-            entries.emplace_back().name = name;
-            entries.back().isFolder = isFolder;
-        };
-        if (folder == "/d/") {
-            add("User Symbols", true);
-            add("User Symbols.lib", false);
-        } else {
-            for (const char* name :
-                 {"a.uds", "a.bmp", "a_Cyan.bmp", "b.uds", "b.bmp", "B_cyan.bmp"})
-                add(name, false);
-        }
-        return entries;
-    }
-    std::optional<FileEntry> status(const std::string& path) override {
-        fuzz::require(path.starts_with("/d/") && path.find("..") == std::string::npos);
-        return FileEntry{};
-    }
-    std::string read(const std::string& path, std::uintmax_t) override {
-        return path.ends_with(".lib") ? text : script;
-    }
-    void replace(const std::string& path, std::string_view content, bool) override {
-        fuzz::require(path == "/d/User Symbols.lib" || path == "/d/User Symbols/User Symbols.lib");
-        text = content;
-    }
-    void append(const std::string&, std::string_view) override { std::abort(); }
-    void copy(const std::string&, const std::string&) override { std::abort(); }
-    void remove(const std::string&) override { std::abort(); }
-    void rename(const std::string&, const std::string&) override { std::abort(); }
-    void makeFolder(const std::string&) override { std::abort(); }
-    void removeFolder(const std::string&) override { std::abort(); }
-    bool writable(const std::string&) override { return false; }
-};
-
-void placeAndPreview(fuzz::TinyPlatform& machine, const std::string& text) {
-    Editor editor(machine.platform);
-    UserSymbols symbols;
-    symbols.UserSymbolScript = {text};
-    symbols.UserSymbolCount = 1;
-    SymbolPlacement placement;
-    placement.obj = machine.platform.picLX;
-    placement.X = placement.Y = 1;
-    placement.MyScaleX = 2;
-    editor.drawing.DrawingPreview = true;
-    InsertUserSymbol(symbols, editor, placement, 0);
-    fuzz::require(editor.drawing.devices.DeviceCount + editor.drawing.labels.LabelCount == 0);
-    editor.drawing.DrawingPreview = false;
-    PreviewUserSymbol(editor, placement, text);
-    InsertUserSymbol(symbols, editor, placement, 0);
-    fuzz::checkTables(editor.drawing);
-    fuzz::checkRewriting(editor.drawing, machine.platform);
-}
-
-void readAndWriteList(fuzz::TinyPlatform& machine, const std::string& text) {
-    OneLibrary files(text);
-    machine.platform.files = &files;
-    Editor editor(machine.platform);
-    editor.BasePath = "/d/";
-    UserSymbols symbols;
-    selectLibrary(symbols, editor, "/d/", "User Symbols.lib");
-    ReloadLibrary(symbols, editor);
-    const std::vector<std::string> names = symbols.UserSymbolName;
-    WriteLibraryStructure(symbols, editor);
-    ReloadLibrary(symbols, editor);
-    fuzz::require(symbols.UserSymbolName == names);
-    machine.platform.files = &machine.files;
-}
 
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const std::string text(data, data + size);
-    UnseenCanvas canvas;
-    Dots dots;
-    for (const char decimalMark : {'.', ','}) {
-        fuzz::TinyPlatform machine(decimalMark);
-        machine.platform.picLX = &canvas;
-        machine.platform.images = &dots;
-        placeAndPreview(machine, text);
-        readAndWriteList(machine, text);
-    }
+    static Session session;
+    session.run(fuzz::Input(data, size));
     return 0;
 }
