@@ -166,8 +166,11 @@ void HelpWindow::connectControls() {
     for (int i = 0; i < 2; ++i)
         connect(cmdSearch_[i], &QPushButton::clicked, this,
                 [this, i] { handle([&] { cmdSearch_Click(help_, i); }); });
-    connect(lstHelp_, &QListWidget::currentRowChanged, this,
-            [this](int row) { handle([&] { lstHelp_Click(help_, row); }); });
+    // Once the list is through with the press: a question is then asked, and answered with Cancel,
+    // while nothing goes on to mark the row that was pressed.
+    connect(
+        lstHelp_, &QListWidget::currentRowChanged, this,
+        [this](int row) { handle([&] { lstHelp_Click(help_, row); }); }, Qt::QueuedConnection);
     connect(txtHelp_, &HelpText::edited, this, [this](const std::string& text) {
         txtHelp_Change(help_, text);
         txtHelp_->correct(help_.txtHelp);

@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QTimer>
 
@@ -33,6 +34,17 @@ void press(QWidget& widget, int key, const QString& text = {},
            Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
     QKeyEvent event(QEvent::KeyPress, key, modifiers, text);
     QCoreApplication::sendEvent(&widget, &event);
+    settle();
+}
+
+void click(QListWidget& list, int row) {
+    const QPointF at = list.visualItemRect(list.item(row)).center();
+    for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+        const bool held = type == QEvent::MouseButtonPress;
+        QMouseEvent event(type, at, list.viewport()->mapToGlobal(at), Qt::LeftButton,
+                          held ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(list.viewport(), &event);
+    }
     settle();
 }
 
@@ -114,9 +126,11 @@ TEST_F(HelpWindowTest, TypingEditsAndARefusedCharacterNeverEnters) {
     EXPECT_EQ(text().toPlainText(), "HEADINGxy\nSome text.\n\nCtrl+N\tNew");
     EXPECT_EQ(machine.dialogs.boxes.size(), 1u);
     // Cancel keeps the list's row and the text.
-    find<QListWidget>("lstHelp").setCurrentRow(2);
-    settle();
-    EXPECT_EQ(find<QListWidget>("lstHelp").currentRow(), 0);
+    auto& list = find<QListWidget>("lstHelp");
+    click(list, 2);
+    EXPECT_EQ(machine.dialogs.boxes.size(), 2u);
+    EXPECT_EQ(list.currentRow(), 0);
+    EXPECT_TRUE(list.item(0)->isSelected() && !list.item(2)->isSelected());
     press(window(), Qt::Key_Escape);
     EXPECT_TRUE(window().isVisible());
     machine.dialogs.answers = {Answer::No};
