@@ -21,7 +21,6 @@ using test::press;
 using test::settle;
 
 TEST(FavoritesDialogTest, ManagesTheListBehindTheBrowserAndBrowsesForNewOnes) {
-    test::ensureApplication();
     test::FakePlatform fake;
     Program program{fake.platform};
     fake.folder.makeFolder("drawings/pumps");

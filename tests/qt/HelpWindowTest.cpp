@@ -4,7 +4,6 @@
 #include <QAction>
 #include <QApplication>
 #include <QDialog>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -18,24 +17,12 @@
 #include "help/HelpFile.h"
 #include "qt/HelpText.h"
 #include "qt/LocalHelp.h"
-#include "qt/QtCanvas.h"
-#include "qt/QtFonts.h"
-#include "qt/Theme.h"
 
 namespace ladrix {
 namespace {
 
-void settle() {
-    for (int i = 0; i < 5; ++i)
-        QCoreApplication::processEvents();
-}
-
-void press(QWidget& widget, int key, const QString& text = {},
-           Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-    QKeyEvent event(QEvent::KeyPress, key, modifiers, text);
-    QCoreApplication::sendEvent(&widget, &event);
-    settle();
-}
+using test::press;
+using test::settle;
 
 void click(QListWidget& list, int row) {
     const QPointF at = list.visualItemRect(list.item(row)).center();
@@ -64,17 +51,13 @@ class HelpWindowTest : public test::ProgramOnQt {
     }
 
     HelpWindow& window() {
-        for (QWidget* widget : QApplication::topLevelWidgets())
-            if (auto* found = qobject_cast<HelpWindow*>(widget)) return *found;
         for (QWidget* widget : QApplication::allWidgets())
             if (auto* found = qobject_cast<HelpWindow*>(widget)) return *found;
         throw std::logic_error("no help window");
     }
     template <class Widget>
     Widget& find(const char* name) {
-        auto* widget = window().findChild<Widget*>(name);
-        if (!widget) throw std::logic_error(std::string("no widget ") + name);
-        return *widget;
+        return test::named<Widget>(window(), name);
     }
     HelpText& text() { return find<HelpText>("txtHelp"); }
     void run(const char* entry) {
@@ -99,8 +82,7 @@ TEST_F(HelpWindowTest, ShowsTheTopicsTitleAndPlainText) {
 
 TEST_F(HelpWindowTest, TheSearchMarksThePhraseAndF3GoesOn) {
     auto& field = find<QLineEdit>("txtSearch");
-    for (const QChar letter : QStringLiteral("TEXT"))
-        press(field, 0, letter);
+    test::type(field, "TEXT");
     press(field, Qt::Key_Return);
     EXPECT_EQ(text().textCursor().selectedText(), "text");
     EXPECT_EQ(text().textCursor().selectionStart(), 13) << "behind a heading's line end";

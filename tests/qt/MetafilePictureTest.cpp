@@ -8,7 +8,6 @@
 #include <string>
 
 #include "platform/Types.h"
-#include "qt/Driving.h"
 #include "qt/QtImages.h"
 #include "qt/QtText.h"
 #include "support/TemporaryFolder.h"
@@ -37,8 +36,6 @@ std::string boxMetafile() {
 
 class MetafilePictureTest : public testing::Test {
   protected:
-    MetafilePictureTest() { test::ensureApplication(); }
-
     std::string write(const std::string& name, const std::string& content) {
         folder.write(name, content);
         return folder / name;

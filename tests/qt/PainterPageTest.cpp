@@ -217,13 +217,6 @@ TEST(PainterPage, FarOutAndSenselessCoordinatesDoNoHarm) {
     }
 }
 
-TEST(PainterPage, AHugeCircleShowsItsRimOnThePage) {
-    const QImage image = painted([](Page& page) { page.Circle(1, 5001, 5000, Black, 1); });
-    EXPECT_TRUE(isInked(image, 96, 96));
-    EXPECT_TRUE(isInked(image, 10, 96));
-    EXPECT_FALSE(isInked(image, 96, 90));
-}
-
 TEST(PainterPage, ShowsThePartOfThePageThatTheViewNames) {
     QImage image(100, 100, QImage::Format_RGB32);
     image.fill(Qt::white);
@@ -260,15 +253,6 @@ TEST(PainterPage, TextHangsFromItsUpperLeftCornerInTheExtentThatFontsTell) {
         EXPECT_GT(ink.top() / scale, 0.5);
         EXPECT_LT(ink.bottom() / scale, 0.5 + height + 0.01);
         EXPECT_GT(ink.height() / scale, height * 0.6);
-    }
-}
-
-TEST(PainterPage, UnknownFontsAndOddSizesStillShowTheText) {
-    for (const FontSpec& font :
-         {FontSpec{"No Such Font", 12, false, false}, FontSpec{"", 0, true, true},
-          FontSpec{"Arial", -4, false, false}}) {
-        const QImage image = painted([&](Page& page) { page.Text(0.5f, 0.5f, font, "M1", Black); });
-        EXPECT_FALSE(inkedBounds(image).isEmpty()) << font.name;
     }
 }
 

@@ -5,13 +5,12 @@
 #include <QBuffer>
 #include <QElapsedTimer>
 #include <QFile>
-#include <QKeyEvent>
-#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTemporaryDir>
 
+#include "Driving.h"
 #include "qt/ProgramFolder.h"
 #include "qt/QtPlatform.h"
 
@@ -78,10 +77,7 @@ void whenUp(Act act) {
     });
 }
 
-void press(QWidget& widget, int key, const QString& text = {}) {
-    QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, text);
-    QCoreApplication::sendEvent(&widget, &event);
-}
+using test::press;
 
 TEST(Dialogs, AMessageAnswersByItsButtonAndCancelByEscape) {
     QtDialogs dialogs;

@@ -3,19 +3,17 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <QApplication>
 #include <QComboBox>
-#include <QKeyEvent>
 #include <QLineEdit>
 #include <QProcess>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStandardPaths>
-#include <QTimer>
 #include <cmath>
 #include <functional>
 #include <regex>
 
+#include "Driving.h"
 #include "app/Startup.h"
 #include "canvas/View.h"
 #include "document/PageLayout.h"
@@ -140,21 +138,9 @@ class PrintingTest : public testing::Test {
         return QStandardPaths::findExecutable("pdftocairo").isEmpty() ||
                QStandardPaths::findExecutable("pdfinfo").isEmpty();
     }
-
-    // Acts on the dialog while it is up and closes what the steps left open.
     template <class Dialog>
     void drive(const std::function<void(Dialog&)>& steps) {
-        Dialog dialog(program, nullptr);
-        QTimer::singleShot(0, &dialog, [&] {
-            steps(dialog);
-            if (dialog.isVisible()) dialog.reject();
-        });
-        dialog.run();
-        EXPECT_FALSE(dialog.isVisible());
-    }
-    static void press(QWidget& widget, int key, const QString& text = {}) {
-        QKeyEvent down(QEvent::KeyPress, key, Qt::NoModifier, text);
-        QCoreApplication::sendEvent(&widget, &down);
+        test::drive<Dialog>(program, steps);
     }
 };
 
@@ -293,17 +279,16 @@ TEST_F(PrintingTest, TheCanvassImageIsTheWholePageAtTheZoom) {
 TEST_F(PrintingTest, ThePrinterDialogPrintsByKeysAndTakesOnlyDigits) {
     frmPrinter_Load(program.editor, program.printing);
     drive<PrinterDialog>([&](PrinterDialog& dialog) {
-        auto& copies = *dialog.findChild<QLineEdit*>("txtCopies");
-        auto& cmdPrint = *dialog.findChild<QPushButton*>("cmdPrint");
+        auto& copies = test::named<QLineEdit>(dialog, "txtCopies");
+        auto& cmdPrint = test::named<QPushButton>(dialog, "cmdPrint");
         copies.clear();
-        for (const QChar c : QStringLiteral("a2-"))
-            press(copies, 0, QString(c));
+        test::type(copies, "a2-");
         EXPECT_EQ(copies.text(), "2");
-        press(copies, Qt::Key_Return);
+        test::press(copies, Qt::Key_Return);
         EXPECT_FALSE(fake.folder.has("documents/Motor.pdf")) << "Enter goes to the button first";
         bool answered = false;
         fake.duringEvents = [&] {
-            answered = dialog.findChild<QPushButton*>("cmdCancelPrint")->isEnabled();
+            answered = test::named<QPushButton>(dialog, "cmdCancelPrint").isEnabled();
             dialog.showState();
             EXPECT_FALSE(cmdPrint.isEnabled());
         };
@@ -326,7 +311,7 @@ TEST_F(PrintingTest, ACancelledPrintKeepsTheFormUntilItsPageIsDone) {
             dialog.reject();
             EXPECT_TRUE(dialog.isVisible()) << "nobody may draw while the tables are printed";
         };
-        dialog.findChild<QPushButton*>("cmdPrint")->click();
+        test::named<QPushButton>(dialog, "cmdPrint").click();
         EXPECT_FALSE(dialog.isVisible());
     });
     if (lacksTools()) return;
@@ -336,22 +321,22 @@ TEST_F(PrintingTest, ACancelledPrintKeepsTheFormUntilItsPageIsDone) {
 TEST_F(PrintingTest, TheOtherFormsFollowTheirState) {
     frmLayout_Load(program.frmLayout, program.editor);
     drive<LayoutDialog>([&](LayoutDialog& dialog) {
-        EXPECT_TRUE(dialog.findChild<QRadioButton*>("optSize1")->isChecked());
-        dialog.findChild<QRadioButton*>("optSize10")->click();
-        dialog.findChild<QRadioButton*>("optOrient1")->click();
-        dialog.findChild<QPushButton*>("cmdOK")->click();
+        EXPECT_TRUE(test::named<QRadioButton>(dialog, "optSize1").isChecked());
+        test::named<QRadioButton>(dialog, "optSize10").click();
+        test::named<QRadioButton>(dialog, "optOrient1").click();
+        test::named<QPushButton>(dialog, "cmdOK").click();
     });
     EXPECT_EQ(drawing.PageLayoutKey, "297x420Landscape");
     frmPreview_Load(program.frmPreview);
     drive<PreviewDialog>([&](PreviewDialog& dialog) {
-        auto& page = *dialog.findChild<QWidget*>("picPreview");
+        auto& page = test::named<QWidget>(dialog, "picPreview");
         const int whole = page.height();
-        auto& zoom = *dialog.findChild<QComboBox*>("cmbZoom");
+        auto& zoom = test::named<QComboBox>(dialog, "cmbZoom");
         zoom.setCurrentText("100 %");
         emit zoom.textActivated("100 %");
         EXPECT_GE(page.width(), static_cast<int>(16.54 * 96));
         EXPECT_NE(page.height(), whole);
-        press(dialog, Qt::Key_Escape);
+        test::press(dialog, Qt::Key_Escape);
         EXPECT_FALSE(dialog.isVisible());
     });
 }

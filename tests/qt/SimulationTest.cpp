@@ -3,71 +3,34 @@
 #include <gtest/gtest.h>
 
 #include <QAction>
-#include <QApplication>
 #include <QLineEdit>
-#include <QMouseEvent>
 #include <QToolButton>
 
 #include "ProgramOnQt.h"
-#include "qt/MainWindow.h"
 #include "qt/QtText.h"
 #include "qt/Theme.h"
 
 namespace ladrix {
 namespace {
 
-class SimulationWindow : public test::ProgramOnQt {
+using test::settle;
+
+class SimulationWindow : public test::WindowOnQt {
   protected:
     void SetUp() override {
-        ASSERT_NO_FATAL_FAILURE(startAnew());
-        program->editor.AppFilePath = LADRIX_DATA "/";
-        window = std::make_unique<MainWindow>(*program, canvas);
-        window->resize(1024, 720);
-        window->show();
-        settle();
+        start({1024, 720});
+        editor().AppFilePath = LADRIX_DATA "/";
     }
-
-    static void settle() {
-        for (int i = 0; i < 20; ++i)
-            QCoreApplication::processEvents();
-    }
-    template <class Widget = QWidget>
-    Widget& find(const char* name) {
-        auto* widget = window->findChild<Widget*>(name);
-        if (!widget) throw std::logic_error(std::string("no widget ") + name);
-        return *widget;
-    }
-    void choose(const char* entry) {
-        find<QAction>(entry).trigger();
-        settle();
-    }
-    void mouse(QEvent::Type type, double x, double y, Qt::MouseButton button) {
-        QWidget& page = window->canvas();
-        const QPointF at = window->canvas().pixelOf(static_cast<Single>(x), static_cast<Single>(y));
-        const bool held = type == QEvent::MouseButtonPress;
-        QMouseEvent event(type, at, page.mapToGlobal(at), button,
-                          held ? Qt::MouseButtons(button) : Qt::NoButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(&page, &event);
-        settle();
-    }
-    void move(double x, double y) { mouse(QEvent::MouseMove, x, y, Qt::NoButton); }
-    void press() { mouse(QEvent::MouseButtonPress, 4.25, 0.75, Qt::LeftButton); }
-    void release() { mouse(QEvent::MouseButtonRelease, 4.25, 0.75, Qt::LeftButton); }
-    QColor shownAt(double x, double y) {
-        QWidget& page = window->canvas();
-        const QPointF at = window->canvas().pixelOf(static_cast<Single>(x), static_cast<Single>(y));
-        return page.grab().toImage().pixelColor(at.toPoint());
-    }
+    void press() { test::hold(picLX(), at(4.25, 0.75)); }
+    void release() { test::release(picLX(), at(4.25, 0.75)); }
     // Beside the name in the coil of CR1, and beside the one in the second lamp.
     bool relayIsLit() { return shownAt(6.25, 0.7) == theme::color(RGB(255, 212, 96)); }
     bool lampIsLit() { return shownAt(6.25, 4.13) == theme::color(RGB(255, 212, 96)); }
-
-    std::unique_ptr<MainWindow> window;
 };
 
 TEST_F(SimulationWindow, IsWorkedByThePointerAndTheTimer) {
     const int top = find("picFrame").mapTo(window.get(), QPoint()).y();
-    choose("mnuSimCircuit1");
+    trigger("mnuSimCircuit1");
     EXPECT_FALSE(find("picTop").isVisible());
     ASSERT_TRUE(find("picSimulation").isVisible());
     EXPECT_EQ(find("picSimulation").height(), 28);
@@ -77,14 +40,14 @@ TEST_F(SimulationWindow, IsWorkedByThePointerAndTheTimer) {
     EXPECT_TRUE(window->windowTitle().endsWith("V_Demo_2_Off.els"));
     EXPECT_FALSE(relayIsLit());
 
-    EXPECT_EQ(window->canvas().cursor().shape(), Qt::ArrowCursor);
-    move(4.25, 0.75);
-    EXPECT_EQ(window->canvas().cursor().shape(), Qt::BitmapCursor);
+    EXPECT_EQ(picLX().cursor().shape(), Qt::ArrowCursor);
+    test::move(picLX(), at(4.25, 0.75));
+    EXPECT_EQ(picLX().cursor().shape(), Qt::BitmapCursor);
     press();
     EXPECT_TRUE(relayIsLit());
     release();
     EXPECT_TRUE(relayIsLit() && !lampIsLit());
-    EXPECT_EQ(window->canvas().cursor().shape(), Qt::BitmapCursor);
+    EXPECT_EQ(picLX().cursor().shape(), Qt::BitmapCursor);
     machine.timers.advance(5000);
     window->refresh();
     settle();
@@ -96,23 +59,19 @@ TEST_F(SimulationWindow, IsWorkedByThePointerAndTheTimer) {
 }
 
 TEST_F(SimulationWindow, TakesTheTypedPeriodAndLetsNoLetterIn) {
-    choose("mnuSimCircuit1");
+    trigger("mnuSimCircuit1");
     auto& field = find<QLineEdit>("txtTimer");
     EXPECT_EQ(field.text(), "5000");
     field.clear();
     field.setFocus();
-    for (const QChar key : QStringLiteral("7x0-0\r")) {
-        QKeyEvent event(QEvent::KeyPress, key == '\r' ? Qt::Key_Return : Qt::Key_unknown,
-                        Qt::NoModifier, QString(key));
-        QCoreApplication::sendEvent(&field, &event);
-    }
-    settle();
+    test::type(field, "7x0-0");
+    test::press(field, Qt::Key_Return, "\r");
     EXPECT_EQ(field.text(), "700");
     EXPECT_EQ(program->simulation.Timer1.Interval, 700);
 }
 
 TEST_F(SimulationWindow, FitsItsPanelAndIsLeftByTheMenuAlone) {
-    choose("mnuSimCircuit0");
+    trigger("mnuSimCircuit0");
     QWidget& panel = find("picSimulation");
     for (const QWidget* child : panel.findChildren<QWidget*>()) {
         EXPECT_TRUE(panel.rect().contains(child->geometry())) << qPrintable(child->objectName());
@@ -122,11 +81,9 @@ TEST_F(SimulationWindow, FitsItsPanelAndIsLeftByTheMenuAlone) {
     for (const char* entry : {"mnuFileNew", "mnuEditUndo", "mnuEditDelete", "mnuLibIEC"})
         EXPECT_FALSE(find<QAction>(entry).isEnabled()) << entry;
     EXPECT_TRUE(find<QAction>("mnuSimCircuit0").isChecked());
-    QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
-    QCoreApplication::sendEvent(&window->canvas(), &escape);
-    settle();
+    test::press(picLX(), Qt::Key_Escape);
     EXPECT_TRUE(panel.isVisible());
-    choose("mnuModeNormal");
+    trigger("mnuModeNormal");
     EXPECT_FALSE(panel.isVisible());
     EXPECT_TRUE(find("picTop").isVisible() && find("VScroll1").isVisible());
     EXPECT_FALSE(window->palette().buttonRect(3).isEmpty());

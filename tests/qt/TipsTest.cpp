@@ -69,23 +69,20 @@ TEST_F(TipsTest, EveryControlOfTheMainWindowTellsWhatItDoes) {
     }
 }
 
-template <class Dialog>
-std::string faultsOfDialog(Program& program) {
-    Dialog dialog(program, nullptr);
-    giveTips(dialog);
-    return faultsOf(dialog).join("; ").toStdString();
+template <class... Dialogs>
+void expectTips(Program& program) {
+    const auto check = [](QDialog&& dialog) {
+        giveTips(dialog);
+        EXPECT_EQ(faultsOf(dialog).join("; ").toStdString(), "")
+            << dialog.windowTitle().toStdString();
+    };
+    (check(Dialogs(program, nullptr)), ...);
 }
 
 TEST_F(TipsTest, EveryControlOfADialogTellsWhatItDoes) {
-    EXPECT_EQ(faultsOfDialog<FileDialog>(*program), "");
-    EXPECT_EQ(faultsOfDialog<DescriptionDialog>(*program), "");
-    EXPECT_EQ(faultsOfDialog<LogDialog>(*program), "");
-    EXPECT_EQ(faultsOfDialog<TextPropsDialog>(*program), "");
-    EXPECT_EQ(faultsOfDialog<FavoritesDialog>(*program), "");
     frmLayout_Load(program->frmLayout, program->editor);
-    EXPECT_EQ(faultsOfDialog<LayoutDialog>(*program), "");
-    EXPECT_EQ(faultsOfDialog<PreviewDialog>(*program), "");
-    EXPECT_EQ(faultsOfDialog<PaletteRowsDialog>(*program), "");
+    expectTips<FileDialog, DescriptionDialog, LogDialog, TextPropsDialog, FavoritesDialog,
+               LayoutDialog, PreviewDialog, PaletteRowsDialog>(*program);
 }
 
 }  // namespace

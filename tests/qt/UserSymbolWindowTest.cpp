@@ -5,15 +5,12 @@
 #include <QAction>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QMouseEvent>
 #include <QPushButton>
 
-#include "Driving.h"
 #include "ProgramOnQt.h"
 #include "app/CommandTable.h"
 #include "qt/ColorPanel.h"
 #include "qt/LibManagerDialog.h"
-#include "qt/MainWindow.h"
 #include "qt/QtImages.h"
 #include "qt/SymbolDialogs.h"
 #include "qt/Theme.h"
@@ -24,34 +21,14 @@ namespace {
 using test::named;
 using test::settle;
 
-void sendMouse(QWidget& widget, QEvent::Type type, QPointF at, Qt::MouseButton button,
-               Qt::MouseButtons held) {
-    QMouseEvent event(type, at, widget.mapToGlobal(at), button, held, Qt::NoModifier);
-    QCoreApplication::sendEvent(&widget, &event);
-    settle();
-}
+using test::click;
 
-void click(QWidget& widget, QPointF at) {
-    sendMouse(widget, QEvent::MouseMove, at, Qt::NoButton, Qt::NoButton);
-    sendMouse(widget, QEvent::MouseButtonPress, at, Qt::LeftButton, Qt::LeftButton);
-    sendMouse(widget, QEvent::MouseButtonRelease, at, Qt::LeftButton, Qt::NoButton);
-}
-
-struct UserSymbolWindowTest : test::ProgramOnQt {
+struct UserSymbolWindowTest : test::WindowOnQt {
     QtImages images;
-    std::unique_ptr<MainWindow> window;
 
     void SetUp() override {
         machine.platform.images = &images;
         start();
-    }
-    void start() {
-        window.reset();
-        ASSERT_NO_FATAL_FAILURE(startAnew());
-        window = std::make_unique<MainWindow>(*program, canvas);
-        window->resize(1240, 900);
-        window->show();
-        settle();
     }
     void run(Menu entry) {
         runCommand(*program, entry);
@@ -65,9 +42,8 @@ struct UserSymbolWindowTest : test::ProgramOnQt {
             list << button.tip;
         return list;
     }
-    void clickPage(Single x, Single y) { click(window->canvas(), window->canvas().pixelOf(x, y)); }
     void draw(Short tool, std::initializer_list<std::pair<Single, Single>> points) {
-        click(window->palette(), window->palette().buttonRect(tool).center());
+        choose(tool);
         for (const auto& [x, y] : points)
             clickPage(x, y);
         run(Menu::mnuOptionReset);
@@ -93,11 +69,7 @@ struct UserSymbolWindowTest : test::ProgramOnQt {
         run(Menu::mnuOptionReset);
     }
     void drag(int from, int to) {
-        const QPointF start = buttons().rectOf(from).center(), end = buttons().rectOf(to).center();
-        sendMouse(buttons(), QEvent::MouseButtonPress, start, Qt::LeftButton, Qt::LeftButton);
-        sendMouse(buttons(), QEvent::MouseMove, (start + end) / 2, Qt::NoButton, Qt::LeftButton);
-        sendMouse(buttons(), QEvent::MouseMove, end, Qt::NoButton, Qt::LeftButton);
-        sendMouse(buttons(), QEvent::MouseButtonRelease, end, Qt::LeftButton, Qt::NoButton);
+        test::drag(buttons(), buttons().rectOf(from).center(), buttons().rectOf(to).center());
     }
     void moveToNewLibrary(int symbol) {
         machine.dialogs.inputAnswers = {"Second"};
@@ -112,19 +84,17 @@ struct UserSymbolWindowTest : test::ProgramOnQt {
         };
         run(Menu::mnuLibManageUserLibraries);
     }
-    void find(const QString& text) {
+    void search(const QString& text) {
         run(Menu::mnuLibFind);
         window->openFind();
         auto& field = named<QLineEdit>(*window, "txtFind");
         field.setText(text);
         emit field.textEdited(text);
-        QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
-        QCoreApplication::sendEvent(&field, &enter);
-        settle();
+        test::press(field, Qt::Key_Return);
     }
     std::string toolTag() {
-        const Short tool = program->editor.CurrentTool;
-        return tool < 0 ? "" : program->editor.form.cmdSym[static_cast<std::size_t>(tool)].Tag;
+        const Short tool = editor().CurrentTool;
+        return tool < 0 ? "" : editor().form.cmdSym[static_cast<std::size_t>(tool)].Tag;
     }
 };
 
@@ -134,7 +104,7 @@ TEST_F(UserSymbolWindowTest, CapturedPlacedArrangedTransferredAndFoundAfterARest
     constexpr Short Line = 3, LargeCircle = 9;
     draw(Line, {{2, 2}, {3, 2}});
     draw(LargeCircle, {{2.5f, 2.5f}});
-    ASSERT_EQ(program->editor.drawing.devices.DeviceCount, 2);
+    ASSERT_EQ(editor().drawing.devices.DeviceCount, 2);
     for (const char* name : {"Alpha Pump", "Beta", "Gamma"})
         capture(name);
     EXPECT_EQ(names(), (QStringList{"Alpha Pump", "Beta", "Gamma"}));
@@ -145,7 +115,7 @@ TEST_F(UserSymbolWindowTest, CapturedPlacedArrangedTransferredAndFoundAfterARest
     EXPECT_EQ(toolTag(), "Beta");
     EXPECT_EQ(buttons().buttons()[1].picture, program->usersymbols.UserSymbolCyanPicture[1]);
     clickPage(5, 5);
-    const DeviceTable& devices = program->editor.drawing.devices;
+    const DeviceTable& devices = editor().drawing.devices;
     ASSERT_EQ(devices.DeviceCount, 4);
     EXPECT_EQ(devices.DeviceX[2], 5);
     EXPECT_EQ(devices.DeviceX2[2], 6);
@@ -157,18 +127,18 @@ TEST_F(UserSymbolWindowTest, CapturedPlacedArrangedTransferredAndFoundAfterARest
     moveToNewLibrary(2);
     EXPECT_EQ(names(), (QStringList{"Beta", "Gamma"}));
 
-    program->editor.drawing.DrawingChanged = false;
+    editor().drawing.DrawingChanged = false;
     start();
     EXPECT_EQ(names(), (QStringList{"Beta", "Gamma"}));
-    find("pump al");
+    search("pump al");
     EXPECT_EQ(toolTag(), "Alpha Pump");
     EXPECT_EQ(program->usersymbols.LibraryFile, "Second Symbols.lib");
     EXPECT_EQ(names(), QStringList{"Alpha Pump"});
-    find("gam");
+    search("gam");
     EXPECT_EQ(toolTag(), "Gamma");
-    find("zener");
+    search("zener");
     EXPECT_EQ(toolTag(), "Zener Diode");
-    EXPECT_FALSE(window->palette().buttonRect(program->editor.CurrentTool).isEmpty());
+    EXPECT_FALSE(window->palette().buttonRect(editor().CurrentTool).isEmpty());
 }
 
 TEST_F(UserSymbolWindowTest, ColumnsLeaveThePageItsRoomAndEverySymbolCanBeReached) {
