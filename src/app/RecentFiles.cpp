@@ -117,7 +117,8 @@ void KeepRecentFile(Program& program) {
     const Drawing& drawing = program.editor.drawing;
     const std::string path = drawing.CurrentFolder + drawing.CurrentFileName;
     const bool isShipped = drawing.CurrentFolder == own.AppFilePath;
-    if (isShipped || path.starts_with(own.BasePath + "Backups")) return;
+    const std::string backups = own.BasePath + "Backups" + program.platform.files->separator();
+    if (isShipped || path.starts_with(backups)) return;
     std::vector<std::string>& paths = program.recentFiles.paths;
     if (!paths.empty() && paths.front() == path) return;
     std::vector<std::string> former = std::exchange(paths, {path});

@@ -62,9 +62,9 @@ TEST_F(FileMenuTest, RecentDrawingsAreShownNewestFirstWithoutDoublesAndComeBack)
     open(own, "A.els");
     open(own, "R&D.tpl");
     drawing().TemplateActive = false;
-    open("documents/", "C.els");
+    open("documents/Ladrix/Backups of mine/", "C.els");
     open(own, "A.els");
-    std::filesystem::remove(fake.folder.native("documents/C.els"));
+    std::filesystem::remove(fake.folder.native("documents/Ladrix/Backups of mine/C.els"));
     const std::vector<std::string> expected = {
         "&1 A.els", recentCaption(*program, 1).insert(0, "[") + "]", "&3 R&&D.tpl"};
     EXPECT_EQ(recent(), expected);
