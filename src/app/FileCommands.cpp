@@ -2,6 +2,7 @@
 
 #include "app/Preferences.h"
 #include "canvas/Pictures.h"
+#include "usersymbols/UserPalette.h"
 
 namespace ladrix {
 
@@ -31,6 +32,7 @@ void mnuOptRestorePreferences_Click(Program& program) {
     program.editor.DashSpacing = DefaultDashSpacing;
     program.usersymbols.PaletteRows = DefaultPaletteRows;
     ReadUserPreferences(program);
+    LayOutUserButtons(program.usersymbols, program.editor);
     program.editor.form.lblMessage.Caption = "User preferences restored.";
 }
 

@@ -7,6 +7,7 @@
 #include "app/Startup.h"
 #include "browser/BrowserFolders.h"
 #include "support/FakePlatform.h"
+#include "usersymbols/UserPalette.h"
 
 namespace ladrix {
 namespace {
@@ -32,14 +33,27 @@ class FileCommandsTest : public testing::Test {
 
 TEST_F(FileCommandsTest, RestoredPreferencesAreInForceAtOnce) {
     ASSERT_TRUE(startProgram(program));
+    UserSymbols& symbols = program.usersymbols;
+    symbols.UserSymbolCount = 22;
+    symbols.UserSymbolName.resize(22);
+    symbols.UserSymbolPicture.resize(22);
+    symbols.UserSymbolCyanPicture.resize(22);
     std::string lines;
-    for (int i = 0; i < 26; ++i)
+    for (int i = 0; i < 25; ++i)
         lines += "Reserve Bit 00:\r\n";
-    for (const auto& [value, spacing] : {std::pair{"0.5", 0.5f}, std::pair{"", 0.125f}}) {
-        fake.folder.write("stick/UserPreferences.upf", lines + "Reserve Bit 26:" + value + "\r\n");
+    struct Case {
+        std::string rows, dashes;
+        int columns;
+        Single spacing;
+    };
+    for (const auto& [rows, dashes, columns, spacing] :
+         {Case{"21", "0.5", 2, 0.5f}, Case{"", "", 1, 0.125f}}) {
+        fake.folder.write("stick/UserPreferences.upf", lines + "Reserve Bit 25:" + rows +
+                                                           "\r\nReserve Bit 26:" + dashes + "\r\n");
         choose(fake.folder / "stick/", "UserPreferences.upf");
         runCommand(program, Menu::mnuOptRestorePreferences);
         EXPECT_EQ(program.editor.DashSpacing, spacing);
+        EXPECT_EQ(userColumns(symbols), columns);
         EXPECT_EQ(program.PrefsFolder, program.paths.DataFilesPath);
     }
     program.editor.DashSpacing = 0.25f;
