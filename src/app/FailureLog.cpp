@@ -39,12 +39,11 @@ bool logExists(Program& program) {
     return FileExists(*program.platform.files, program.paths.DataFilesPath, LogName);
 }
 
-// Puts a copy of `name` from `folder` in the base folder, in place of a former one.
+// Puts a copy of `name` from `folder` in the base folder, in place of a former one, which stays if
+// the copy fails.
 void handOver(Program& program, const std::string& folder, const std::string& name) {
     Files& files = *program.platform.files;
     if (folder == program.paths.BasePath || !FileExists(files, folder, name)) return;
-    if (FileExists(files, program.paths.BasePath, name))
-        files.remove(program.paths.BasePath + name);
     files.copy(folder + name, program.paths.BasePath + name);
 }
 

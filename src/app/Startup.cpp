@@ -121,10 +121,9 @@ void shareWithEditor(Program& program) {
 // The run's diagnostics start afresh; nobody needs what the last run left, so nothing is flushed.
 void renewErrorMessages(Program& program) {
     Files& files = *program.platform.files;
-    const std::string& folder = program.paths.BasePath;
-    if (FileExists(files, folder, "Error Messages.txt"))
-        files.remove(folder + "Error Messages.txt");
-    files.append(folder + "Error Messages.txt", "");
+    const std::string path = program.paths.BasePath + "Error Messages.txt";
+    if (files.status(path)) files.remove(path);
+    files.append(path, "");
 }
 
 bool screenIsLargeEnough(Program& program) {
