@@ -16,6 +16,13 @@ Short numberInList(const std::vector<std::string>& names, const std::string& nam
     return static_cast<Short>(std::find(names.begin(), names.end(), name) - names.begin());
 }
 
+// The form has been loaded. Where nobody can be shown a form it is closed at once.
+template <class FormState>
+void showUntilClosed(Program& program, Form form, FormState& state) {
+    program.platform.dialogs->show(form);
+    state.Visible = false;
+}
+
 PageSize pageOf(const Editor& editor) {
     return {editor.PageWidth, editor.PageHeight};
 }
@@ -24,27 +31,23 @@ PageSize pageOf(const Editor& editor) {
 
 void mnuLayoutMore_Click(Program& program) {
     frmLayout_Load(program.frmLayout, program.editor);
-    program.platform.dialogs->show(Form::frmLayout);
-    program.frmLayout.Visible = false;
+    showUntilClosed(program, Form::frmLayout, program.frmLayout);
 }
 
 void mnuFilePrintCircuit1_Click(Program& program) {
     frmPrinter_Load(program.editor, program.printing);
-    program.platform.dialogs->show(Form::frmPrinter);
-    program.printing.frmPrinter.Visible = false;
+    showUntilClosed(program, Form::frmPrinter, program.printing.frmPrinter);
 }
 
 void mnuFilePrintPreview_Click(Program& program) {
     frmPreview_Load(program.frmPreview);
     program.platform.printers->refresh();
-    program.platform.dialogs->show(Form::frmPreview);
-    program.frmPreview.Visible = false;
+    showUntilClosed(program, Form::frmPreview, program.frmPreview);
 }
 
 void mnuOptPrinter_Click(Program& program) {
     frmPrinters_Load(program.editor, program.printing);
-    program.platform.dialogs->show(Form::frmPrinters);
-    program.printing.frmPrinters.Visible = false;
+    showUntilClosed(program, Form::frmPrinters, program.printing.frmPrinters);
 }
 
 void cmdDefaultPrinter_Click(Program& program) {
