@@ -36,11 +36,6 @@ PathBar::PathBar(QWidget* parent) : QWidget(parent), text_(new QLineEdit(this)) 
     text_->setAccessibleName(tr("Folder or file"));
     text_->hide();
     text_->installEventFilter(this);
-    connect(text_, &QLineEdit::returnPressed, this, [this] {
-        const std::string typed = fromQString(text_->text());
-        endEdit();
-        emit pathTyped(typed);
-    });
 }
 
 QToolButton* PathBar::addButton(const QString& text) {
@@ -166,13 +161,18 @@ void PathBar::paintEvent(QPaintEvent*) {
     }
 }
 
+// What ends the line is kept from the dialog: Enter would press its default button as well.
+bool PathBar::takeKey(int key) {
+    if (key != Qt::Key_Escape && key != Qt::Key_Return && key != Qt::Key_Enter) return false;
+    const std::string typed = fromQString(text_->text());
+    endEdit();
+    if (key != Qt::Key_Escape) emit pathTyped(typed);
+    return true;
+}
+
 bool PathBar::eventFilter(QObject* watched, QEvent* event) {
-    const bool escaped = event->type() == QEvent::KeyPress &&
-                         static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape;
-    if (watched == text_ && escaped) {
-        endEdit();
-        return true;
-    }
+    if (watched == text_ && event->type() == QEvent::KeyPress)
+        return takeKey(static_cast<QKeyEvent*>(event)->key());
     if (watched == text_ && event->type() == QEvent::FocusOut) endEdit();
     return QWidget::eventFilter(watched, event);
 }

@@ -42,6 +42,7 @@ class PathBar final : public QWidget {
   private:
     QToolButton* addButton(const QString& text);
     void endEdit();
+    bool takeKey(int key);
     void arrange();
 
     std::vector<PathPart> parts_;
