@@ -78,11 +78,12 @@ FileListModel::FileListModel(const FileBrowser& browser, QObject* parent)
 
 void FileListModel::lookAgain() {
     beginResetModel();
+    rows_ = static_cast<int>(browser_.entries.size());
     endResetModel();
 }
 
 int FileListModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(browser_.entries.size());
+    return parent.isValid() ? 0 : rows_;
 }
 
 int FileListModel::columnCount(const QModelIndex& parent) const {

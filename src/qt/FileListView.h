@@ -8,7 +8,9 @@
 
 namespace ladrix {
 
-// Shows the entries as they stand in the state; told to look again whenever they have changed.
+// Shows the entries as they stand in the state; told to look again whenever they have changed. A
+// box may come up in between: until then the rows are as many as they were, those without an entry
+// empty.
 class FileListModel final : public QAbstractTableModel {
     Q_OBJECT
 
@@ -25,6 +27,7 @@ class FileListModel final : public QAbstractTableModel {
 
   private:
     const FileBrowser& browser_;
+    int rows_ = 0;
 };
 
 // What stands in the place of a list or a sheet without entries.

@@ -1,5 +1,6 @@
 #include "qt/PreviewSheet.h"
 
+#include <QElapsedTimer>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QStyledItemDelegate>
@@ -161,6 +162,7 @@ QString PreviewSheet::keyOf(const FileEntry& entry) const {
 }
 
 PreviewSheet::Tile PreviewSheet::tile(int row) {
+    if (row < 0 || row >= static_cast<int>(browser_.entries.size())) return {};
     const FileEntry& entry = browser_.entries[static_cast<std::size_t>(row)];
     if (entry.isFolder) return {Tile::State::Ready, {}};
     if (entry.size > LargestSketch) return {Tile::State::Large, {}};

@@ -2,7 +2,6 @@
 // made when its place has come into sight and nothing else is to be done.
 #pragma once
 
-#include <QElapsedTimer>
 #include <QHash>
 #include <QListView>
 #include <QPixmap>

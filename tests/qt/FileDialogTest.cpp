@@ -290,6 +290,20 @@ TEST_F(FileDialogTest, TheSheetMakesThePreviewsInSightAndAClickChooses) {
     EXPECT_EQ(program.editor.drawing.CurrentFileName, "d77.els");
 }
 
+TEST_F(FileDialogTest, AListThatHasChangedBehindABoxIsPaintedAsItWas) {
+    for (const char* name : {"a.els", "b.els", "c.els"})
+        write(name, "");
+    open([&](FileDialog& dialog) {
+        named<QPushButton>(dialog, "cmdPreviewAll").click();
+        PreviewSheet& sheet = named<PreviewSheet>(dialog, "previewSheet");
+        settle();
+        program.frmFile.entries.resize(1);
+        sheet.viewport()->repaint();
+        EXPECT_EQ(sheet.model()->rowCount(), 3);
+        EXPECT_EQ(sheet.tile(2).state, PreviewSheet::Tile::State::Awaited);
+    });
+}
+
 TEST_F(FileDialogTest, EachModeShowsItsOwnControlsAndPutsTheModeBack) {
     const struct {
         BrowserMode mode;
