@@ -110,14 +110,18 @@ void QtPrinter::SetPaperSize(Short code) {
 }
 
 bool QtPrinter::StartDoc(const PrintDocument& document) {
-    drop();
+    // Windows answer during a print, the help's with its own "Print" among them.
+    if (underWay_) throw Failure{failure::DeviceIO, "Another document is still being printed."};
+    std::optional<FileEntry> there;
+    if (queue_.isEmpty()) there = platform_.files->status(document.path + ".pdf");
     document_ = document;
     abandoned_ = false;
-    if (!queue_.isEmpty()) return true;
-    const std::optional<FileEntry> there = platform_.files->status(document.path + ".pdf");
-    if (!there) return true;
-    return platform_.dialogs->message(there->name + " already exists. Do you want to replace it?",
-                                      PdfPrinterName, Buttons::YesNo) == Answer::Yes;
+    underWay_ = true;
+    if (there)
+        underWay_ =
+            platform_.dialogs->message(there->name + " already exists. Do you want to replace it?",
+                                       PdfPrinterName, Buttons::YesNo) == Answer::Yes;
+    return underWay_;
 }
 
 QPainter& QtPrinter::begin() {
@@ -156,6 +160,7 @@ void QtPrinter::drop() {
     buffer_.close();
     buffer_.setData({});
     pageHasChanged();
+    underWay_ = false;
 }
 
 std::string QtPrinter::finishedPdf() {
@@ -217,7 +222,7 @@ void QtPrinters::refresh() {
 }
 
 void QtPrinters::take() {
-    if (!reading_ || !reading_->done) return;
+    if (!reading_ || !reading_->done || printer_.isUnderWay()) return;
     poll_.stop();
     const std::shared_ptr<Reading> read = std::exchange(reading_, nullptr);
     const bool same = read->names == names_;

@@ -33,6 +33,9 @@ class QtPrinter final : public PrinterPage {
     // "": the PDF file.
     void use(const QString& queue);
 
+    // From StartDoc to EndDoc. A second document cannot begin meanwhile: StartDoc throws a Failure.
+    bool isUnderWay() const { return underWay_; }
+
     bool StartDoc(const PrintDocument& document) override;
     std::string DeviceName() const override;
     void SetPaperSize(Short code) override;
@@ -60,7 +63,7 @@ class QtPrinter final : public PrinterPage {
     QString queue_;
     mutable std::map<PaperKey, std::optional<PrinterPaper>> papers_;  // what the queue has told
     PrintDocument document_;
-    bool abandoned_ = false;
+    bool underWay_ = false, abandoned_ = false;
     QBuffer buffer_;
     std::unique_ptr<QPdfWriter> writer_;
     QPainter painter_;

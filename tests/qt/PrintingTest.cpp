@@ -318,6 +318,21 @@ TEST_F(PrintingTest, ACancelledPrintKeepsTheFormUntilItsPageIsDone) {
     EXPECT_THAT(outputOf("pdfinfo", {pdf()}), testing::ContainsRegex("Pages: +1\n"));
 }
 
+TEST_F(PrintingTest, ADocumentUnderWayIsNotReplacedByAnother) {
+    addLine(1, 1, 2, 2);
+    const PrintDocument help{"Help", fake.folder / "documents/Help"};
+    int runs = 0;
+    fake.duringEvents = [&] {
+        if (runs++ > 0) return;
+        EXPECT_THROW(printers.current().StartDoc(help), Failure);
+    };
+    print();
+    EXPECT_GT(runs, 0);
+    EXPECT_THAT(fake.folder.entries("documents"), ElementsAre("Ladrix/", "Motor.pdf"));
+    EXPECT_TRUE(printers.current().StartDoc(help));
+    printers.current().EndDoc();
+}
+
 TEST_F(PrintingTest, TheOtherFormsFollowTheirState) {
     frmLayout_Load(program.frmLayout, program.editor);
     drive<LayoutDialog>([&](LayoutDialog& dialog) {
