@@ -65,9 +65,12 @@ void writeAccount(const QString& target, const Account& account) {
     write(target + '/' + AccountName, text);
 }
 
-bool isTheUsers(const QString& path, const QByteArray& shippedSum) {
-    if (!QFileInfo::exists(path)) return !shippedSum.isEmpty();
-    return shippedSum.isEmpty() || sumOf(readAll(path)) != shippedSum;
+// `formerSum` is that of what was put there last, empty if nothing was. A renewal that did not come
+// to its end leaves files that are new already.
+bool isTheUsers(const QString& path, const QByteArray& formerSum, const QByteArray& newSum) {
+    if (!QFileInfo::exists(path)) return !formerSum.isEmpty();
+    const QByteArray sum = sumOf(readAll(path));
+    return sum != formerSum && sum != newSum;
 }
 
 bool worksFrom(const QString& folder) {
@@ -85,10 +88,10 @@ void renewFromShare(const QString& share, const QString& target, const QString& 
         const QString source = files.next();
         const QString name = root.relativeFilePath(source);
         const QString path = target + '/' + name;
-        if (isTheUsers(path, account.sums.value(name))) continue;
-        const QByteArray content = readAll(source);
+        const QByteArray content = readAll(source), sum = sumOf(content);
+        if (isTheUsers(path, account.sums.value(name), sum)) continue;
         write(path, content);
-        account.sums[name] = sumOf(content);
+        account.sums[name] = sum;
     }
     account.version = version;
     writeAccount(target, account);

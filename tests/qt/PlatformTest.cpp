@@ -41,6 +41,7 @@ TEST_F(ProgramFolderTest, ANewVersionRenewsAllButWhatTheUserChanged) {
     write(share + "/Demo2.els", "one");
     write(share + "/help/topics.htx", "one");
     write(data + "/own.els", "mine");
+    write(data + "/Demo1.els", "one");  // by a first renewal that was killed
     renewFromShare(share, data, "1");
     EXPECT_EQ(read(data + "/help/topics.htx"), "one");
 
