@@ -12,9 +12,7 @@ namespace ladrix {
 
 inline void showComboBox(QComboBox& widget, const ComboBox& state) {
     const QSignalBlocker quiet(widget);
-    QStringList names;
-    for (const std::string& name : state.List)
-        names << toQString(name);
+    const QStringList names = toQStringList(state.List);
     QStringList shown;
     for (int i = 0; i < widget.count(); ++i)
         shown << widget.itemText(i);

@@ -104,15 +104,13 @@ void FavoritesDialog::showState() {
     setWindowTitle(toQString(form.Caption));
     lblFavorites_->setText(toQString(form.lblFavorites.Caption));
     const QSignalBlocker quiet(lstFavorites_);
-    QStringList folders;
-    for (const std::string& folder : form.lstFavorites.List)
-        folders << toQString(folder);
+    const QStringList folders = toQStringList(form.lstFavorites.List);
     while (lstFavorites_->count() > folders.size())
         delete lstFavorites_->takeItem(lstFavorites_->count() - 1);
     for (int i = 0; i < folders.size(); ++i) {
         if (i == lstFavorites_->count()) lstFavorites_->addItem(QString());
         lstFavorites_->item(i)->setText(folders[i]);
-        lstFavorites_->item(i)->setToolTip(folders[i].toHtmlEscaped());
+        lstFavorites_->item(i)->setToolTip(plainTip(folders[i]));
     }
     lstFavorites_->setCurrentRow(form.lstFavorites.ListIndex);
     showButton(cmdBrowse_, form.cmdBrowse);

@@ -96,7 +96,7 @@ QVariant FileListModel::data(const QModelIndex& index, int role) const {
     const FileEntry& entry = browser_.entries[row];
     const bool isName = index.column() == Name;
     if (role == Qt::DecorationRole && isName) return iconOf(entry);
-    if (role == Qt::ToolTipRole && isName) return shownName(entry.name).toHtmlEscaped();
+    if (role == Qt::ToolTipRole && isName) return plainTip(shownName(entry.name));
     if (role == Qt::TextAlignmentRole && index.column() == Size)
         return QVariant(Qt::AlignRight | Qt::AlignVCenter);
     if (role != Qt::DisplayRole) return {};

@@ -61,7 +61,7 @@ void ElidedLabel::setText(const QString& text) {
 
 void ElidedLabel::arrangeTip() {
     const bool cut = fontMetrics().horizontalAdvance(text_) > width();
-    setToolTip(cut ? text_ : QString());
+    setToolTip(cut ? plainTip(text_) : QString());
 }
 
 void ElidedLabel::resizeEvent(QResizeEvent*) {

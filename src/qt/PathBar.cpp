@@ -55,7 +55,7 @@ void PathBar::setPath(std::vector<PathPart> parts) {
         const int widest = LongestPart * fontMetrics().averageCharWidth();
         QToolButton* const button =
             addButton(fontMetrics().elidedText(name, Qt::ElideMiddle, widest));
-        button->setToolTip(toQString(part.path).toHtmlEscaped());
+        button->setToolTip(plainTip(toQString(part.path)));
         button->setAccessibleName(name);
         QFont font = button->font();
         font.setBold(&part == &parts_.back());

@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "qt/QtImages.h"
+#include "qt/QtText.h"
 #include "qt/Theme.h"
 
 namespace ladrix {
@@ -74,7 +75,7 @@ bool SymbolButtons::event(QEvent* event) {
         QToolTip::hideText();
     else
         QToolTip::showText(help->globalPos(),
-                           buttons_[static_cast<std::size_t>(button)].tip.toHtmlEscaped(), this,
+                           plainTip(buttons_[static_cast<std::size_t>(button)].tip), this,
                            rectOf(button));
     return true;
 }

@@ -50,13 +50,6 @@ class FaceDelegate final : public QStyledItemDelegate {
     }
 };
 
-QStringList itemsOf(const ComboBox& box) {
-    QStringList items;
-    for (const std::string& item : box.List)
-        items << toQString(item);
-    return items;
-}
-
 }  // namespace
 
 // The text as it will stand on the page at 100 percent.
@@ -227,7 +220,7 @@ void TextPropsDialog::connectControls() {
 }
 
 int TextPropsDialog::run() {
-    cmbFonts_->addItems(itemsOf(form_.cmbFonts));
+    cmbFonts_->addItems(toQStringList(form_.cmbFonts.List));
     showState();
     if (form_.txtCaption.Visible)
         txtCaption_->setFocus();
@@ -238,7 +231,7 @@ int TextPropsDialog::run() {
 
 void TextPropsDialog::showSizes() {
     const QSignalBlocker quiet(cmbFontSize_);
-    const QStringList items = itemsOf(form_.cmbFontSize);
+    const QStringList items = toQStringList(form_.cmbFontSize.List);
     if (cmbFontSize_->count() != items.size()) {
         cmbFontSize_->clear();
         cmbFontSize_->addItems(items);

@@ -169,9 +169,7 @@ void ToolStrip::showScaleList(const ComboBox& state) {
     const QSignalBlocker quiet(cmbScale_);
     cmbScale_->setVisible(state.Visible);
     cmbScale_->setEnabled(state.Enabled);
-    QStringList items;
-    for (const std::string& item : state.List)
-        items << toQString(item);
+    const QStringList items = toQStringList(state.List);
     if (cmbScale_->count() != items.size()) {
         cmbScale_->clear();
         cmbScale_->addItems(items);

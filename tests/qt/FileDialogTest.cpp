@@ -344,10 +344,13 @@ TEST_F(FileDialogTest, EachModeShowsItsOwnControlsAndPutsTheModeBack) {
 }
 
 TEST_F(FileDialogTest, StrangeNamesStayOnOneLineAndLeadToTheirFiles) {
+    write("R&D.els", "");
     write("two\x0Alines.els", "Split");
     open([&](FileDialog& dialog) {
-        EXPECT_FALSE(shownNames(dialog).front().contains('\n'));
-        press(Qt::Key_Down);
+        const QAbstractItemModel& list = *named<QTreeView>(dialog, "FileList1").model();
+        EXPECT_EQ(list.index(0, 0).data(Qt::ToolTipRole), "R&D.els");
+        EXPECT_FALSE(shownNames(dialog).back().contains('\n'));
+        press(Qt::Key_End);
         EXPECT_EQ(named<QPlainTextEdit>(dialog, "txtDescription").toPlainText(), "Split");
     });
 }
