@@ -1,6 +1,5 @@
 #include "qt/DescriptionDialog.h"
 
-#include <QDialogButtonBox>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -9,19 +8,16 @@
 
 #include "browser/FileDescription.h"
 #include "canvas/DrawingCommands.h"
+#include "qt/InputFilters.h"
 #include "qt/QtText.h"
+#include "qt/Theme.h"
 
 namespace ladrix {
 
 namespace {
 
-constexpr int Space = 8;
-constexpr int Margin = 12;
-
-// The box divides lines by a line feed alone.
-QString shownText(const std::string& text) {
-    return toQString(text).replace(QLatin1String("\r\n"), QLatin1String("\n"));
-}
+constexpr int Space = 2 * theme::Unit;
+constexpr int Margin = 3 * theme::Unit;
 
 }  // namespace
 
@@ -62,7 +58,7 @@ DescriptionDialog::DescriptionDialog(Program& program, QWidget* parent)
 }
 
 int DescriptionDialog::run() {
-    txtDescription_->setPlainText(shownText(program_.editor.frmDesc.txtDescription));
+    txtDescription_->setPlainText(boxText(program_.editor.frmDesc.txtDescription));
     txtDescription_->moveCursor(QTextCursor::End);
     txtDescription_->setFocus();
     const int line = fontMetrics().height();
@@ -74,15 +70,10 @@ int DescriptionDialog::run() {
 void DescriptionDialog::takeText() {
     const QString typed = txtDescription_->toPlainText();
     frmDesc_txtDescription_Change(program_.editor, typed.toStdString());
-    const QString held = shownText(program_.editor.frmDesc.txtDescription);
+    const QString held = boxText(program_.editor.frmDesc.txtDescription);
     if (held == typed) return;
-    const qsizetype fromEnd = typed.size() - txtDescription_->textCursor().position();
     const QSignalBlocker blocker(txtDescription_);
-    QTextCursor cursor = txtDescription_->textCursor();
-    cursor.select(QTextCursor::Document);
-    cursor.insertText(held);
-    cursor.setPosition(static_cast<int>(qMax<qsizetype>(0, held.size() - fromEnd)));
-    txtDescription_->setTextCursor(cursor);
+    txtDescription_->setTextCursor(showHeld(txtDescription_->textCursor(), held));
 }
 
 void DescriptionDialog::closeIfHidden() {

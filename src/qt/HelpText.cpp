@@ -6,6 +6,7 @@
 #include <QTextBlock>
 #include <algorithm>
 
+#include "qt/InputFilters.h"
 #include "qt/QtText.h"
 #include "qt/Theme.h"
 
@@ -46,13 +47,8 @@ class Headings final : public QSyntaxHighlighter {
     }
 };
 
-// The box divides lines by a line feed alone.
-QString shownText(std::string_view text) {
-    return toQString(text).replace(QLatin1String("\r\n"), QLatin1String("\n"));
-}
-
 int positionOf(const HelpTextBox& state, std::size_t byte) {
-    return static_cast<int>(shownText(std::string_view(state.Text).substr(0, byte)).size());
+    return static_cast<int>(boxText(std::string_view(state.Text).substr(0, byte)).size());
 }
 
 }  // namespace
@@ -77,7 +73,7 @@ void HelpText::showState(const HelpTextBox& state) {
     document()->setDefaultFont(font);
     fitLines();
     setReadOnly(!state.Enabled);
-    setPlainText(shownText(state.Text));
+    setPlainText(boxText(state.Text));
     formatBlocks();
     QTextCursor cursor = textCursor();
     cursor.setPosition(positionOf(state, state.SelStart));
@@ -89,17 +85,10 @@ void HelpText::showState(const HelpTextBox& state) {
 }
 
 void HelpText::correct(const HelpTextBox& state) {
-    const QString held = shownText(state.Text), typed = toPlainText();
-    if (held == typed) return;
+    const QString held = boxText(state.Text);
+    if (held == toPlainText()) return;
     showing_ = true;
-    const qsizetype fromEnd = typed.size() - textCursor().position();
-    QTextCursor cursor = textCursor();
-    cursor.joinPreviousEditBlock();
-    cursor.select(QTextCursor::Document);
-    cursor.insertText(held);
-    cursor.endEditBlock();
-    cursor.setPosition(static_cast<int>(std::max<qsizetype>(0, held.size() - fromEnd)));
-    setTextCursor(cursor);
+    setTextCursor(showHeld(textCursor(), held));
     showing_ = false;
 }
 

@@ -1,5 +1,8 @@
 #include "qt/InputFilters.h"
 
+#include <QTextDocument>
+#include <algorithm>
+
 #include "canvas/RadiusFields.h"
 #include "platform/Encoding.h"
 
@@ -32,6 +35,16 @@ QValidator::State RecordTextFilter::validate(QString& input, int& cursor) const 
     });
     if (cut) emit refused();
     return Acceptable;
+}
+
+QTextCursor showHeld(QTextCursor cursor, const QString& held) {
+    const int fromEnd = cursor.document()->characterCount() - 1 - cursor.position();
+    cursor.joinPreviousEditBlock();
+    cursor.select(QTextCursor::Document);
+    cursor.insertText(held);
+    cursor.endEditBlock();
+    cursor.setPosition(std::max(0, static_cast<int>(held.size()) - fromEnd));
+    return cursor;
 }
 
 QValidator::State NumberFilter::validate(QString& input, int& cursor) const {

@@ -8,13 +8,14 @@
 
 #include "app/FailureLog.h"
 #include "qt/QtText.h"
+#include "qt/Theme.h"
 
 namespace ladrix {
 
 namespace {
 
-constexpr int Space = 8;
-constexpr int Margin = 12;
+constexpr int Space = 2 * theme::Unit;
+constexpr int Margin = 3 * theme::Unit;
 
 }  // namespace
 
