@@ -17,8 +17,6 @@ namespace ladrix {
 
 namespace {
 
-constexpr Single TwipsPerPixel = 15;
-constexpr int WheelNotch = 120;        // of the toolkit's angle
 constexpr double PixelsPerNotch = 96;  // an inch of the screen
 constexpr int OverlayRoom = 2;         // logical pixels that an overlay's pen takes around it
 constexpr QColor CrossHair{0x7D, 0x93, 0xB2};
@@ -325,7 +323,7 @@ void CanvasWidget::wheelEvent(QWheelEvent* event) {
 
 // Some platforms have turned a notch with Shift sideways already.
 void CanvasWidget::scrollByWheel(const QWheelEvent& event) {
-    QPointF turn = QPointF(event.angleDelta()) * (PixelsPerNotch / WheelNotch);
+    QPointF turn = QPointF(event.angleDelta()) * (PixelsPerNotch / WheelNotches::Angle);
     if (event.modifiers() & Qt::ShiftModifier && turn.x() == 0) turn = turn.transposed();
     const Editor& editor = program_.editor;
     ScrollTo(program_.editor, editor.ScaleLeft - static_cast<Single>(turn.x() / canvas_.scale()),
@@ -337,11 +335,9 @@ void CanvasWidget::zoomByTurn(const QWheelEvent& event) {
     const auto zoom = [&](ZoomStep step) {
         zoomByWheel(program_.editor, step, canvas_.inchesX(at.x()), canvas_.inchesY(at.y()));
     };
-    wheelTurn_ += event.angleDelta().y();
-    for (; wheelTurn_ >= WheelNotch; wheelTurn_ -= WheelNotch)
-        zoom(ZoomStep::In);
-    for (; wheelTurn_ <= -WheelNotch; wheelTurn_ += WheelNotch)
-        zoom(ZoomStep::Out);
+    const int notches = zoomTurn_.take(event.angleDelta().y());
+    for (int i = 0; i < std::abs(notches); ++i)
+        zoom(notches > 0 ? ZoomStep::In : ZoomStep::Out);
 }
 
 void CanvasWidget::startPan(QPointF at) {

@@ -10,6 +10,7 @@
 #include <optional>
 
 #include "app/Program.h"
+#include "qt/KeyCodes.h"
 #include "qt/QtCanvas.h"
 #include "qt/StretchHandle.h"
 
@@ -73,7 +74,7 @@ class CanvasWidget final : public QWidget {
     Short pressedLabel_ = -1;
     OverLabel overLabel_ = OverLabel::No, shownOverLabel_ = OverLabel::No;
     bool loaded_ = false;  // the form has its first size
-    int wheelTurn_ = 0;    // with Ctrl, not yet a whole step
+    WheelNotches zoomTurn_;
     struct Pan {
         QPointF from;      // the press
         Single left, top;  // the view then

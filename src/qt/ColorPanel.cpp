@@ -15,7 +15,7 @@ constexpr int Cell = 24;
 constexpr int Gap = theme::Unit;
 constexpr int Inset = 2 * theme::Unit;
 constexpr int Pitch = Cell + Gap;
-constexpr int Top = 415 / 15;  // from the head of the tool strip, as the form has it
+constexpr int Top = 27;  // from the head of the tool strip
 
 void paintSwatch(QPainter& painter, const QRect& rect, const QColor& fill, const QColor& edge) {
     painter.setRenderHint(QPainter::Antialiasing);

@@ -16,10 +16,8 @@ namespace ladrix {
 namespace {
 
 constexpr Short DrawingTools = 12;  // the first buttons, on white
-constexpr Single TwipsPerPixel = 15;
-constexpr int Mark = 5;       // side of the corner mark
-constexpr int MarkReach = 9;  // of a press on it
-constexpr int WheelStep = 120;
+constexpr int Mark = 5;             // side of the corner mark
+constexpr int MarkReach = 9;        // of a press on it
 constexpr int RowsPerWheelStep = 2;
 constexpr int Inset = theme::Unit;  // around the palette
 constexpr int TurnerHeight = 24;
@@ -201,9 +199,7 @@ void PaletteWidget::leaveEvent(QEvent*) {
 }
 
 void PaletteWidget::wheelEvent(QWheelEvent* event) {
-    wheelTravel_ += event->angleDelta().y();
-    const int steps = wheelTravel_ / WheelStep;
-    wheelTravel_ -= steps * WheelStep;
+    const int steps = wheel_.take(event->angleDelta().y());
     if (steps != 0) scrollTo(firstRow_ - steps * RowsPerWheelStep);
     event->accept();
 }

@@ -8,6 +8,7 @@
 #include <map>
 
 #include "app/Program.h"
+#include "qt/KeyCodes.h"
 
 namespace ladrix {
 
@@ -70,7 +71,7 @@ class PaletteWidget final : public QWidget {
     unsigned version_ = 0;
     int firstRow_ = 0;
     Short hovered_ = -1, held_ = -1;
-    int wheelTravel_ = 0;
+    WheelNotches wheel_;
 };
 
 // picMoreSym, the fly-out of a button's orientations, laid over the window beside the button.

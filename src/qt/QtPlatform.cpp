@@ -15,6 +15,7 @@
 #include <QUrl>
 
 #include "app/Program.h"
+#include "qt/KeyCodes.h"
 #include "qt/ProgramFolder.h"
 #include "qt/QtText.h"
 
@@ -23,7 +24,6 @@ namespace ladrix {
 namespace {
 
 constexpr int DocumentsFolder = 5, PicturesFolder = 39;
-constexpr Single TwipsPerPixel = 15;
 
 QString version() {
     return toQString(ProgramVersion);

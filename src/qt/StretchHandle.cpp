@@ -11,7 +11,6 @@ namespace ladrix {
 
 namespace {
 
-constexpr int TwipsPerPixel = 15;
 constexpr int DotPitch = 6, DotSize = 2;  // logical pixels
 
 }  // namespace
@@ -30,7 +29,7 @@ void StretchHandle::refresh() {
 }
 
 Single StretchHandle::frameX(const QMouseEvent& event) const {
-    return static_cast<Single>((qRound(event.position().x()) + x()) * TwipsPerPixel);
+    return static_cast<Single>(qRound(event.position().x()) + x()) * TwipsPerPixel;
 }
 
 void StretchHandle::paintEvent(QPaintEvent*) {

@@ -13,12 +13,6 @@
 
 namespace ladrix {
 
-namespace {
-
-constexpr int WheelStep = 120;
-
-}  // namespace
-
 void paintSymbolPicture(QPainter& painter, const Picture& picture, const QRect& inner) {
     const auto* shown = dynamic_cast<const QtPicture*>(&picture);
     if (shown == nullptr || shown->image().isNull()) return;
@@ -173,9 +167,7 @@ void SymbolButtons::leaveEvent(QEvent*) {
 void SymbolButtons::wheelEvent(QWheelEvent* event) {
     const QPoint turn = event->angleDelta();
     const bool sideways = turn.x() != 0 || event->modifiers().testFlag(Qt::ShiftModifier);
-    wheelTravel_ += turn.x() != 0 ? turn.x() : turn.y();
-    const int steps = wheelTravel_ / WheelStep;
-    wheelTravel_ -= steps * WheelStep;
+    const int steps = wheel_.take(turn.x() != 0 ? turn.x() : turn.y());
     if (steps != 0) emit wheelTurned(-steps, sideways);
     event->accept();
 }

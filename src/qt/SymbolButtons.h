@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "platform/Surface.h"
+#include "qt/KeyCodes.h"
 
 namespace ladrix {
 
@@ -65,7 +66,7 @@ class SymbolButtons final : public QWidget {
     int hovered_ = -1, held_ = -1;
     QPoint pressedAt_, pointer_;
     bool dragging_ = false;
-    int wheelTravel_ = 0;
+    WheelNotches wheel_;
 };
 
 // A user symbol's picture in a button of this size: as it is in the middle, its ground all around.
