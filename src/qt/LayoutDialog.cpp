@@ -41,7 +41,7 @@ void PageShapeBox::paintEvent(QPaintEvent*) {
     const Overlay& page = form_.shpStyle;
     const QRectF shape(page.Left * unit, page.Top * unit, page.Width * unit, page.Height * unit);
     const QRect pixels = shape.toRect();
-    painter.fillRect(pixels.translated(1, 2).adjusted(-1, 0, 1, 1), QColor(0, 0, 0, 24));
+    theme::paintPageShadow(painter, pixels);
     painter.fillRect(pixels, Qt::white);
     painter.setPen(theme::PageEdge);
     painter.drawRect(pixels.adjusted(0, 0, -1, -1));

@@ -45,12 +45,7 @@ std::string pdfFile(const PageContent& content) {
     const QSizeF inches(content.width, content.height);
     {
         QPdfWriter writer(&buffer);
-        const QPageSize size(inches, QPageSize::Inch, QStringLiteral("Drawing"),
-                             QPageSize::ExactMatch);
-        writer.setPageLayout(QPageLayout(size, QPageLayout::Portrait, QMarginsF()));
-        writer.setResolution(PdfUnitsPerInch);
-        writer.setTitle(toQString(content.title));
-        writer.setCreator(QStringLiteral("Ladrix"));
+        setUpPdf(writer, inches, content.title);
         paintOn(writer, Medium::Vector, content, PdfUnitsPerInch);
     }
     QByteArray pdf = buffer.data();
@@ -105,6 +100,14 @@ std::string pictureFile(const PageContent& content, PageFormat format, double pi
 }
 
 }  // namespace
+
+void setUpPdf(QPdfWriter& writer, QSizeF inches, std::string_view title) {
+    const QPageSize size(inches, QPageSize::Inch, QStringLiteral("Drawing"), QPageSize::ExactMatch);
+    writer.setPageLayout(QPageLayout(size, QPageLayout::Portrait, QMarginsF()));
+    writer.setResolution(PdfUnitsPerInch);
+    writer.setTitle(toQString(title));
+    writer.setCreator(QStringLiteral("Ladrix"));
+}
 
 // The exact box takes the rounded one's place in the same number of bytes, aligned at the upper
 // left corner, so that no offset in the file changes.

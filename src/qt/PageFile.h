@@ -6,6 +6,8 @@
 
 #include "platform/PageFiles.h"
 
+class QPdfWriter;
+
 namespace ladrix {
 
 class QtPageFiles final : public PageFiles {
@@ -15,6 +17,9 @@ class QtPageFiles final : public PageFiles {
     // have at most LargestImage pixels.
     std::string make(const PageContent& content, PageFormat format, double pixelsPerInch) override;
 };
+
+// Before anything is painted: pages of this size without margins, PdfUnitsPerInch.
+void setUpPdf(QPdfWriter& writer, QSizeF inches, std::string_view title);
 
 // The PDF engine rounds pages to whole points; this gives every page of the file the exact size.
 // Throws a Failure if the bytes are no PDF of such pages.

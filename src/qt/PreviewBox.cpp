@@ -6,22 +6,14 @@
 #include "qt/QtImages.h"
 #include "qt/QtPainterPage.h"
 #include "qt/QtText.h"
+#include "qt/Theme.h"
 
 namespace ladrix {
 
 namespace {
 
 constexpr int Margin = 12;
-constexpr int ShadowDepth = 4;
 constexpr double ThinnestPen = 0.75;  // pixels, so that a small page stays legible
-
-const QColor Desk(0xdf, 0xe2, 0xe7);
-const QColor PageEdge(0xbd, 0xc3, 0xcc);
-
-void paintShadow(QPainter& painter, const QRect& page) {
-    for (int i = 1; i <= ShadowDepth; ++i)
-        painter.fillRect(page.translated(i / 2, i).adjusted(-1, 0, 1, 0), QColor(0, 0, 0, 10));
-}
 
 }  // namespace
 
@@ -84,7 +76,7 @@ void PreviewBox::paintPicture(QPainter& painter, const QtPicture& picture) const
         size.scale(room.size(), Qt::KeepAspectRatio);
     QRect place(QPoint(), size.expandedTo(QSize(1, 1)));
     place.moveCenter(room.center());
-    paintShadow(painter, place);
+    theme::paintPageShadow(painter, place);
     painter.fillRect(place, Qt::white);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.drawImage(place, picture.shrunkTo(place.size() * devicePixelRatioF()));
@@ -92,7 +84,7 @@ void PreviewBox::paintPicture(QPainter& painter, const QtPicture& picture) const
 
 void PreviewBox::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.fillRect(rect(), Desk);
+    painter.fillRect(rect(), theme::Desk);
     const QRect page = pageRect();
     if (page.width() <= 0 || page.height() <= 0) return;
     const FileBrowser& browser = program_.frmFile;
@@ -104,10 +96,10 @@ void PreviewBox::paintEvent(QPaintEvent*) {
         painter.drawText(room, Qt::AlignCenter | Qt::TextWordWrap, note());
         return;
     }
-    paintShadow(painter, page);
+    theme::paintPageShadow(painter, page);
     renderPage(page);
     painter.drawPixmap(page.topLeft(), image_);
-    painter.setPen(PageEdge);
+    painter.setPen(theme::PageEdge);
     painter.drawRect(page.adjusted(-1, -1, 0, 0));
 }
 

@@ -22,7 +22,6 @@ namespace ladrix {
 namespace {
 
 constexpr int Desk = 6 * theme::Unit;  // around the page
-constexpr int ShadowDepth = 4;
 constexpr double ScreenPixelsPerInch = 96;
 constexpr double ShareOfScreen = 0.85;
 
@@ -86,8 +85,7 @@ void PreviewPage::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), theme::Desk);
     const QRect page = pageRect();
-    for (int i = 1; i <= ShadowDepth; ++i)
-        painter.fillRect(page.translated(i / 2, i).adjusted(-1, 0, 1, 0), QColor(0, 0, 0, 10));
+    theme::paintPageShadow(painter, page);
     painter.fillRect(page, Qt::white);
     painter.drawImage(page.topLeft(), image_);
     painter.setPen(theme::PageEdge);

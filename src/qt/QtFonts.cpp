@@ -2,7 +2,6 @@
 
 #include <QFontDatabase>
 #include <QFontMetricsF>
-#include <QStringList>
 #include <algorithm>
 #include <cmath>
 

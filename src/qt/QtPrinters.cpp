@@ -130,12 +130,7 @@ QPainter& QtPrinter::begin() {
     buffer_.setData({});
     buffer_.open(QIODevice::WriteOnly);
     writer_ = std::make_unique<QPdfWriter>(&buffer_);
-    const QPageSize size(pageSize_, QPageSize::Inch, QStringLiteral("Drawing"),
-                         QPageSize::ExactMatch);
-    writer_->setPageLayout(QPageLayout(size, QPageLayout::Portrait, QMarginsF()));
-    writer_->setResolution(PdfUnitsPerInch);
-    writer_->setTitle(toQString(document_.title));
-    writer_->setCreator(QStringLiteral("Ladrix"));
+    setUpPdf(*writer_, pageSize_, document_.title);
     unitsPerInch_ = PdfUnitsPerInch;
     if (!painter_.begin(writer_.get()))
         throw Failure{failure::DeviceIO, "The page cannot be painted."};

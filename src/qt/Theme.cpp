@@ -1,7 +1,6 @@
 #include "qt/Theme.h"
 
 #include <QApplication>
-#include <QFile>
 #include <QPainter>
 #include <QPalette>
 #include <QProxyStyle>
@@ -19,6 +18,7 @@ constexpr int IconSide = 18;
 constexpr int CursorSide = 25;
 constexpr int MessageSide = 40;
 constexpr int ScrollBarWidth = 14;
+constexpr int ShadowDepth = 4;
 
 void paintRounded(QPainter& painter, const QRect& rect, const QColor& fill, const QColor& edge) {
     painter.save();
@@ -327,6 +327,11 @@ QCursor cursor(const char* name, int hotX, int hotY) {
 QColor color(Long value) {
     if (value == ButtonFace) return Face;
     return QColor(value & 0xFF, (value >> 8) & 0xFF, (value >> 16) & 0xFF);
+}
+
+void paintPageShadow(QPainter& painter, const QRect& page) {
+    for (int i = 1; i <= ShadowDepth; ++i)
+        painter.fillRect(page.translated(i / 2, i).adjusted(-1, 0, 1, 0), QColor(0, 0, 0, 10));
 }
 
 }  // namespace ladrix::theme

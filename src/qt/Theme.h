@@ -8,6 +8,8 @@
 #include "platform/Types.h"
 
 class QApplication;
+class QPainter;
+class QRect;
 
 namespace ladrix::theme {
 
@@ -40,5 +42,8 @@ QCursor cursor(const char* name, int hotX, int hotY);
 
 // A colour of the core; the button face is the theme's.
 QColor color(Long value);
+
+// The soft shadow that a page casts on the desk.
+void paintPageShadow(QPainter& painter, const QRect& page);
 
 }  // namespace ladrix::theme
