@@ -15,18 +15,25 @@ using Names = std::vector<std::string_view>;
 const std::string Folder = "/drawings/Plant/";
 const Names Present = {"logo.bmp", "Plan A.png", "b.bmp", "B.bmp", "\xC4rger.jpg", "a,b.gif"};
 
-// Beside the pictures stand a folder, and files that only a name with a way in it would reach.
+// Files of the folder whose names read as a way into another place. They are missing.
+const Names Refused = {"..", "sub\\logo.bmp", "C:logo.bmp"};
+
 class PictureFolder final : public fuzz::RefusingFiles {
   public:
     std::vector<FileEntry> list(const std::string& folder) override {
-        if (folder == "/drawings/")
-            return {fuzz::entryOf("secret.bmp"), fuzz::entryOf("Plant", true)};
+        if (folder == "/drawings/") return {fuzz::entryOf("Plant", true)};
         fuzz::require(folder == Folder);
-        std::vector<FileEntry> entries = {fuzz::entryOf("sub", true)};
-        for (const std::string_view name : Present)
-            entries.push_back(fuzz::entryOf(name));
-        return entries;
+        return entries_;
     }
+
+  private:
+    std::vector<FileEntry> entries_ = [] {
+        std::vector<FileEntry> entries = {fuzz::entryOf("sub", true)};
+        for (const Names& names : {Present, Refused})
+            for (const std::string_view name : names)
+                entries.push_back(fuzz::entryOf(name));
+        return entries;
+    }();
 };
 
 PicturePaths knownPaths() {
