@@ -64,11 +64,25 @@ inline bool sameLabels(const LabelTable& a, const LabelTable& b) {
            a.LabelItalic == b.LabelItalic;
 }
 
+// What no writing may change, not even the first one of a text in an older form.
+inline bool sameBesidesNumbers(const DeviceTable& a, const DeviceTable& b) {
+    return a.DeviceName == b.DeviceName && a.DeviceColor == b.DeviceColor &&
+           a.DeviceDirection == b.DeviceDirection && a.DeviceOrientation == b.DeviceOrientation &&
+           a.DeviceFlip == b.DeviceFlip;
+}
+
+inline bool sameBesidesNumbers(const LabelTable& a, const LabelTable& b) {
+    return a.LabelText == b.LabelText && a.LabelColor == b.LabelColor &&
+           a.LabelBold == b.LabelBold && a.LabelItalic == b.LabelItalic;
+}
+
 // The first writing rounds numbers to seven digits; from then on nothing may change any more. Where
 // the second one gives the same text, its reading would give the same table.
 inline void checkDeviceRewriting(Drawing& drawing, const Platform& platform) {
+    const DeviceTable first = drawing.devices;
     RebuildDeviceString(drawing, platform);
     ParseDeviceString(drawing, platform);
+    require(sameBesidesNumbers(drawing.devices, first));
     const std::string written = drawing.DeviceString;
     RebuildDeviceString(drawing, platform);
     if (drawing.DeviceString == written) return;
@@ -79,8 +93,10 @@ inline void checkDeviceRewriting(Drawing& drawing, const Platform& platform) {
 }
 
 inline void checkLabelRewriting(Drawing& drawing, const Platform& platform) {
+    const LabelTable first = drawing.labels;
     RebuildLabelString(drawing, platform);
     ParseLabelString(drawing, platform);
+    require(sameBesidesNumbers(drawing.labels, first));
     const std::string written = drawing.LabelString;
     RebuildLabelString(drawing, platform);
     if (drawing.LabelString == written) return;
