@@ -4,7 +4,6 @@
 
 #include "RecordText.h"
 #include "document/Records.h"
-#include "support/FakePlatform.h"
 
 namespace ladrix {
 namespace {
@@ -51,28 +50,6 @@ TEST(DrawingFile, AWholeFileComesApartIntoItsParts) {
               "InsertNormallyOpenAux|3.125|2.5|0||1|1|0|False\nInsertSavedLine|1|1|4.5|1|0|0\n");
     EXPECT_EQ(parts.labels, "Motor Starter|3.2|2.75|0|Arial|10|False|False\n");
     EXPECT_EQ(parts.pictures, "logo.bmp|0.5|0.5|2|1.25\n");
-}
-
-TEST(DrawingFile, WhatIsTakenIsWrittenByteForByte) {
-    for (const std::string_view readableText :
-         {WholeFile, std::string_view("8.5x11Portrait\n\n\n///Picture Files///\n"),
-          std::string_view("17x22Portrait\n\nInsertCoil|1|1|0||1|1|0|False\n\n"
-                           "///Picture Files///\n"),
-          std::string_view("8.5x11Portrait\n\n\nM1|1|1|0\n///Picture Files///\n"),
-          std::string_view("///File Description///\ntwo\n\nparagraphs\n\n"
-                           "///End File Description///\nunknown key\n\n\n///Picture Files///\n"),
-          std::string_view("8.5x11Portrait\n\nnot, understood\n\n///Picture Files///\n")}) {
-        test::FakePlatform machine;
-        const std::string text = asRecords(readableText);
-        Drawing drawing;
-        drawing.CurrentFolder = machine.folder.path();
-        drawing.CurrentFileName = "none.els";
-        takeParts(drawing, splitFile(text, Today));
-        ParseDeviceString(drawing, machine.platform);
-        ParseLabelString(drawing, machine.platform);
-        ParsePictureString(drawing, machine.platform);
-        EXPECT_EQ(fileText(drawing), text) << readableText;
-    }
 }
 
 TEST(DrawingFile, OldFilesHaveNoPageKey) {

@@ -49,18 +49,6 @@ struct BadInputTest : testing::Test {
     Journey journey{home};
 };
 
-TEST_F(BadInputTest, NoiseIsNoDrawing) {
-    std::mt19937 random(7);
-    std::string noise(100000, '\0');
-    for (char& byte : noise)
-        byte = static_cast<char>(random() & 0xFF);
-    home.disk().write(Home::drawing("Noise.els"), noise);
-    openExpecting("Noise.els", {});
-    EXPECT_EQ(journey.editor().drawing.devices.DeviceCount, 0);
-    EXPECT_EQ(home.disk().read(Home::drawing("Noise.els")), noise);
-    expectUsable();
-}
-
 TEST_F(BadInputTest, NoiseInTheShapeOfADrawingIsToldOf) {
     std::mt19937 random(11);
     std::string noise = "8.5x11Portrait\r\n\r\n";
@@ -73,16 +61,6 @@ TEST_F(BadInputTest, NoiseInTheShapeOfADrawingIsToldOf) {
                                  "Parse Device String", "Parse Label String"});
     EXPECT_TRUE(journey.title().ends_with("Untitled")) << journey.title();
     EXPECT_EQ(home.disk().read(Home::drawing("Shaped.els")), noise);
-    expectUsable();
-}
-
-TEST_F(BadInputTest, ATruncatedDrawingIsNotTakenForWhole) {
-    const std::string whole = home.disk().read(Home::drawing("Demo1.els"));
-    const std::string cut = whole.substr(0, whole.size() / 2);
-    home.disk().write(Home::drawing("Cut.els"), cut);
-    openExpecting("Cut.els", {"Type mismatch"});
-    EXPECT_TRUE(journey.title().ends_with("Untitled")) << journey.title();
-    EXPECT_EQ(home.disk().read(Home::drawing("Cut.els")), cut);
     expectUsable();
 }
 
