@@ -1,13 +1,10 @@
 // The built programs, run as processes of their own.
 #include <gtest/gtest.h>
 
-#include <QCoreApplication>
 #include <QImage>
 #include <QProcess>
 #include <QSet>
-#include <csignal>
 
-#include "SaveLoop.h"
 #include "qt/QtText.h"
 #include "support/Paths.h"
 #include "support/TemporaryFolder.h"
@@ -85,40 +82,6 @@ TEST_F(ProgramsTest, TheExporterMakesAPdfWithoutADisplay) {
     EXPECT_NE(run("ladrix-export", {path("none.els"), path("none.pdf")}), 0);
     EXPECT_FALSE(errors.isEmpty());
     EXPECT_FALSE(disk.has("none.pdf"));
-}
-
-TEST_F(ProgramsTest, AKillInTheMiddleOfASaveLeavesAWholeDrawing) {
-    constexpr int Kills = 6;
-    std::string body = "8.5x11Portrait\r\n\r\n";
-    for (int i = 0; i < 2000; ++i)
-        body += "InsertSavedLine\xFF" + std::to_string(i % 8) +
-                "\xFF"
-                "1\xFF"
-                "4\xFF"
-                "9\xFF"
-                "0\xFF"
-                "0\r\n";
-    body += "\r\n///Picture Files///\r\n";
-    const auto described = [&](const std::string& text) {
-        return "///File Description///\r\n" + text + "\r\n///End File Description///\r\n" + body;
-    };
-    const std::string one = described(OneDescription), other = described(OtherDescription);
-    disk.write("home/Loop.els", one);
-    for (int i = 0; i < Kills; ++i) {
-        QProcess editor;
-        editor.start(QCoreApplication::applicationFilePath(),
-                     {SaveLoopOption, path("home/Loop.els")});
-        // At a different place of its loop each time.
-        for (int saves = 0; saves <= i;
-             saves += static_cast<int>(editor.readAllStandardOutput().count('\n')))
-            ASSERT_TRUE(editor.waitForReadyRead(LongestWait))
-                << editor.readAllStandardError().toStdString();
-        ASSERT_EQ(kill(static_cast<pid_t>(editor.processId()), SIGKILL), 0);
-        ASSERT_TRUE(editor.waitForFinished(LongestWait));
-        ASSERT_EQ(editor.exitStatus(), QProcess::CrashExit);
-        const std::string left = disk.read("home/Loop.els");
-        ASSERT_TRUE(left == one || left == other) << left.size() << " bytes after kill " << i;
-    }
 }
 
 }  // namespace

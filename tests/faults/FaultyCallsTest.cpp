@@ -265,9 +265,10 @@ TEST_P(FaultyCalls, LeaveTheOldOrTheNewFileAndAreToldOf) {
     for (const Call& call : faultless.calls)
         names.insert(call.name);
     ASSERT_THAT(names, testing::IsSupersetOf({"open", "write", "fsync", "close", "rename"}));
+    int pairs = 0;
     for (const Fault& fault : allFaults())
         for (const Call& call : faultless.calls) {
-            if (!call.takes(fault)) continue;
+            if (!call.takes(fault) || pairs++ % LADRIX_FAULT_STRIDE != 0) continue;
             SCOPED_TRACE(fault.how + " at call " + std::to_string(call.number) + ", " + call.name +
                          " " + call.path);
             setUp();
@@ -280,7 +281,7 @@ TEST_P(FaultyCalls, LeaveTheOldOrTheNewFileAndAreToldOf) {
             else
                 checkFault(call, fault, outcome);
         }
-    EXPECT_GT(leftovers, 0);
+    EXPECT_TRUE(leftovers > 0 || LADRIX_FAULT_STRIDE > 1);
     EXPECT_GT(told, 0);
     allRuns += runs;
     std::cout << operation << ": " << faultless.calls.size() << " calls, " << runs << " runs, "
