@@ -91,6 +91,7 @@ ButtonColorDialog::ButtonColorDialog(Program& program, QWidget* parent)
 
 QWidget* ButtonColorDialog::makeColors() {
     auto* const field = new QWidget(this);
+    field->setToolTip(tr("Colour for the background of the button"));
     auto* const grid = new QGridLayout(field);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setSpacing(0);

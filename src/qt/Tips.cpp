@@ -19,6 +19,10 @@ constexpr Tip Tips[] = {
     {"frmLX", "cmdPrev", "Show the user symbols to the left"},
     {"frmLX", "cmdNext", "Show the user symbols to the right"},
     {"frmLX", "cmdSaveSymbolOrder", "Keep the new order of the user symbols"},
+    {"frmLX", "cmdVoltage", "Show which wires are live"},
+    {"frmLX", "cmdCurrent", "Show in which wires a current flows"},
+    {"frmLX", "txtTimer", "Period of the timer T1 in milliseconds; 0: it never runs out"},
+    {"frmLX", "cmdTimer", "Use this period (Enter)"},
 
     {"frmFile", "cmdUp", "Folder above (Backspace)"},
     {"frmFile", "Dir1", "Folders of the path (Ctrl+L to type one)"},

@@ -15,9 +15,12 @@
 #include "qt/FavoritesDialog.h"
 #include "qt/FileDialog.h"
 #include "qt/LayoutDialog.h"
+#include "qt/LibManagerDialog.h"
 #include "qt/LogDialog.h"
 #include "qt/MainWindow.h"
 #include "qt/PreviewDialog.h"
+#include "qt/PrinterDialog.h"
+#include "qt/PrintersDialog.h"
 #include "qt/SymbolDialogs.h"
 #include "qt/TextPropsDialog.h"
 
@@ -69,6 +72,16 @@ TEST_F(TipsTest, EveryControlOfTheMainWindowTellsWhatItDoes) {
     }
 }
 
+TEST_F(TipsTest, EveryControlOfTheSimulationTellsWhatItDoes) {
+    MainWindow window(*program, canvas);
+    window.show();
+    giveTips(window);
+    mnuSimCircuit_Click(program->simulation, program->editor, 1);
+    window.refresh();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(faultsOf(window).join("; ").toStdString(), "");
+}
+
 template <class... Dialogs>
 void expectTips(Program& program) {
     const auto check = [](QDialog&& dialog) {
@@ -82,7 +95,8 @@ void expectTips(Program& program) {
 TEST_F(TipsTest, EveryControlOfADialogTellsWhatItDoes) {
     frmLayout_Load(program->frmLayout, program->editor);
     expectTips<FileDialog, DescriptionDialog, LogDialog, TextPropsDialog, FavoritesDialog,
-               LayoutDialog, PreviewDialog, PaletteRowsDialog>(*program);
+               LayoutDialog, PreviewDialog, PaletteRowsDialog, PrinterDialog, PrintersDialog,
+               ButtonColorDialog, SaveSymbolDialog, LibManagerDialog>(*program);
 }
 
 }  // namespace
