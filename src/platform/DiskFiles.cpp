@@ -291,6 +291,40 @@ FileEntry entryOf(std::string name, const struct stat& info) {
     return entry;
 }
 
+// Calls back for each entry of the folder but its own dots.
+template <class Function>
+void forEachEntry(const std::string& folder, const Function& function) {
+    const OpenFolder open = openFolder(nativePath(folder));
+    if (!open) {
+        // A folder is a path, never a file that was not found.
+        if (errno == ENOENT) refuse(folder, failure::PathNotFound, "No such folder");
+        refuse(folder, errno);
+    }
+    while (true) {
+        errno = 0;
+        const dirent* const next = readdir(open.get());
+        if (!next && errno != 0) refuse(folder, errno);
+        if (!next) return;
+        const std::string_view name = next->d_name;
+        if (name != "." && name != "..") function(dirfd(open.get()), *next);
+    }
+}
+
+// A link that leads nowhere counts as what it is; what has gone meanwhile has none.
+std::optional<struct stat> entryStatus(int folder, const dirent& entry) {
+    struct stat info {};
+    if (fstatat(folder, entry.d_name, &info, 0) == 0 ||
+        fstatat(folder, entry.d_name, &info, AT_SYMLINK_NOFOLLOW) == 0)
+        return info;
+    return std::nullopt;
+}
+
+bool isFile(int folder, const dirent& entry) {
+    if (entry.d_type != DT_LNK && entry.d_type != DT_UNKNOWN) return entry.d_type != DT_DIR;
+    const auto info = entryStatus(folder, entry);
+    return info && !S_ISDIR(info->st_mode);
+}
+
 }  // namespace
 
 char DiskFiles::separator() const {
@@ -298,28 +332,20 @@ char DiskFiles::separator() const {
 }
 
 std::vector<FileEntry> DiskFiles::list(const std::string& folder) {
-    const OpenFolder open = openFolder(nativePath(folder));
-    if (!open) {
-        // A folder is a path, never a file that was not found.
-        if (errno == ENOENT) refuse(folder, failure::PathNotFound, "No such folder");
-        refuse(folder, errno);
-    }
     std::vector<FileEntry> entries;
-    while (true) {
-        errno = 0;
-        const dirent* const next = readdir(open.get());
-        if (!next && errno != 0) refuse(folder, errno);
-        if (!next) return entries;
-        const std::string_view name = next->d_name;
-        if (name == "." || name == "..") continue;
-        // A link that leads nowhere is listed as what it is; what has gone meanwhile is not.
-        struct stat info {};
-        const int fd = dirfd(open.get());
-        if (fstatat(fd, next->d_name, &info, 0) == 0 ||
-            fstatat(fd, next->d_name, &info, AT_SYMLINK_NOFOLLOW) == 0) {
-            entries.push_back(entryOf(fromUtf8(name), info));
-        }
-    }
+    forEachEntry(folder, [&](int folderNumber, const dirent& entry) {
+        if (const auto info = entryStatus(folderNumber, entry))
+            entries.push_back(entryOf(fromUtf8(entry.d_name), *info));
+    });
+    return entries;
+}
+
+std::vector<std::string> DiskFiles::fileNames(const std::string& folder) {
+    std::vector<std::string> names;
+    forEachEntry(folder, [&](int folderNumber, const dirent& entry) {
+        if (isFile(folderNumber, entry)) names.push_back(fromUtf8(entry.d_name));
+    });
+    return names;
 }
 
 std::optional<FileEntry> DiskFiles::status(const std::string& path) {
@@ -335,7 +361,8 @@ std::string DiskFiles::read(const std::string& path, std::uintmax_t limit) {
     const auto size = static_cast<std::uintmax_t>(regularFile(file, path).st_size);
     std::string content;
     size_t length = 0;
-    // The size may grow while it is read, and some systems' own files tell none.
+    // The size may grow while it is read, and some systems' own files tell none. One byte more is
+    // asked for: where it does not come with the rest, that was all.
     for (std::uintmax_t expected = size;; expected = length + length / 2 + 4096) {
         if (length > limit || size > limit) {
             refuse(path, failure::PathFileAccess, "Larger than " + sizeText(limit));
@@ -346,11 +373,11 @@ std::string DiskFiles::read(const std::string& path, std::uintmax_t limit) {
                 return ::read(file.number(), content.data() + length, content.size() - length);
             });
             if (taken < 0) refuse(path, errno);
-            if (taken == 0) {
+            length += static_cast<size_t>(taken);
+            if (taken == 0 || (length == size && length < content.size())) {
                 content.resize(length);
                 return content;
             }
-            length += static_cast<size_t>(taken);
         }
     }
 }

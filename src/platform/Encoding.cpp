@@ -105,6 +105,13 @@ std::optional<char> escapedByte(std::string_view text) {
     return static_cast<char>(high * 16 + low);
 }
 
+// Of the ASCII at the start, which is the same in both encodings: most names are nothing else.
+size_t plainLength(std::string_view text) {
+    const auto other =
+        std::find_if(text.begin(), text.end(), [](char c) { return static_cast<Byte>(c) >= 0x80; });
+    return static_cast<size_t>(other - text.begin());
+}
+
 Byte lowered(char c) {
     const auto byte = static_cast<Byte>(c);
     if (byte >= 'A' && byte <= 'Z') return byte + 32;
@@ -123,6 +130,9 @@ bool isControl(char32_t character) {
 std::string fromUtf8(std::string_view utf8) {
     std::string text;
     text.reserve(utf8.size());
+    const size_t plain = plainLength(utf8);
+    text += utf8.substr(0, plain);
+    utf8.remove_prefix(plain);
     while (!utf8.empty()) {
         const Decoded next = decode(utf8);
         const size_t length = std::max<size_t>(next.length, 1);
@@ -140,7 +150,9 @@ std::string fromUtf8(std::string_view utf8) {
 std::string toUtf8(std::string_view text) {
     std::string utf8;
     utf8.reserve(text.size());
-    for (size_t i = 0; i < text.size(); ++i) {
+    const size_t plain = plainLength(text);
+    utf8 += text.substr(0, plain);
+    for (size_t i = plain; i < text.size(); ++i) {
         if (const std::optional<char> byte = escapedByte(text.substr(i))) {
             utf8 += *byte;
             i += 2;

@@ -24,6 +24,13 @@ size_t extensionDot(std::string_view name) {
 
 }  // namespace
 
+std::vector<std::string> Files::fileNames(const std::string& folder) {
+    std::vector<std::string> names;
+    for (FileEntry& entry : list(folder))
+        if (!entry.isFolder) names.push_back(std::move(entry.name));
+    return names;
+}
+
 bool FileExists(Files& files, const std::string& folder, std::string_view name) {
     try {
         return hasEntry(files, folder, name, false);

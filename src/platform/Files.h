@@ -61,6 +61,10 @@ class Files {
     virtual void makeFolder(const std::string& path) = 0;    // one level; existing is an error
     virtual void removeFolder(const std::string& path) = 0;  // an empty one
     virtual bool writable(const std::string& folder) = 0;
+
+    // The names of what `list` tells as files; for a folder of many, since it asks nothing else of
+    // each.
+    virtual std::vector<std::string> fileNames(const std::string& folder);
 };
 
 // A file of this name, ignoring case, is in the folder (hidden files count, folders do not). False

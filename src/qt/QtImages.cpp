@@ -4,6 +4,7 @@
 #include <QFileInfo>
 #include <QImageReader>
 #include <QtEndian>
+#include <cstring>
 
 #include "qt/MetafilePicture.h"
 #include "qt/QtPictureBox.h"
@@ -43,9 +44,13 @@ QImage plainBitmap(std::string_view bytes) {
     if (pixels < Headers || pixels > bytes.size() ||
         static_cast<qsizetype>(bytes.size() - pixels) < row * height)
         return {};
-    const QImage upsideDown(reinterpret_cast<const uchar*>(bytes.data()) + pixels, width, height,
-                            row, QImage::Format_BGR888);
-    return upsideDown.mirrored().convertToFormat(QImage::Format_RGB32);
+    QImage image(width, height, QImage::Format_BGR888);
+    uchar* const top = image.bits();
+    for (int y = 0; y < height; ++y)
+        std::memcpy(top + (height - 1 - y) * image.bytesPerLine(),
+                    bytes.data() + pixels + static_cast<std::size_t>(y * row),
+                    static_cast<std::size_t>(width) * 3);
+    return image;
 }
 
 }  // namespace

@@ -203,6 +203,10 @@ std::optional<LoadedSymbol> loadSymbol(const UserSymbols& symbols, const Platfor
         auto cyan = pictureOf(symbols, images, content.cyanPicture, path + "_Cyan.bmp", Cyan);
         return LoadedSymbol{std::move(content.script), std::move(picture), std::move(cyan)};
     } catch (const Failure& failure) {
+        if (!index.hasAll(name)) {
+            note(symbols, path + ": left out, a file is missing.");
+            return std::nullopt;
+        }
         note(symbols, path + ": left out. " + failure.text);
         if (failure.number == failure::Overflow)
             platform.ReportError("Load User Symbols", {failure.number, name + ": " + failure.text});
@@ -223,14 +227,10 @@ void LoadUserSymbols(UserSymbols& symbols, Editor& editor) {
     for (const std::string& name : symbols.LibraryLines) {
         if (symbols.UserSymbolCount == LargestCount) return;
         if (name.empty()) continue;
-        if (!index.hasAll(name)) {
-            note(symbols, symbols.SymbolFolder + name + ": left out, a file is missing.");
-        } else if (auto loaded =
-                       loadSymbol(symbols, editor.platform, symbols.SymbolFolder, index, name)) {
+        if (auto loaded = loadSymbol(symbols, editor.platform, symbols.SymbolFolder, index, name))
             appendSymbol(symbols, name, std::move(*loaded));
-        } else {
+        else if (index.hasAll(name))
             symbols.UnreadSymbols.push_back(name);
-        }
     }
 }
 

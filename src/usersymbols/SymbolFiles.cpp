@@ -76,6 +76,17 @@ void requireNoFolderIn(Files& files, const std::string& folder) {
                           folder + ": holds the folder " + entry.name + " and is left alone."};
 }
 
+// Only a script that was refused is asked for its size.
+std::string readScript(Files& files, const std::string& path) {
+    try {
+        return files.read(path, LargestScript);
+    } catch (const Failure&) {
+        const auto status = files.status(path);
+        if (!status || status->size <= LargestScript) throw;
+        throw Failure{failure::Overflow, "The script of the symbol is larger than 1 MiB."};
+    }
+}
+
 bool endsWithIgnoringCase(std::string_view text, std::string_view ending) {
     return text.size() > ending.size() &&
            equalIgnoringCase(text.substr(text.size() - ending.size()), ending);
@@ -89,22 +100,27 @@ LibraryPlace libraryPlace(std::string folder, std::string_view libraryFile) {
 
 FolderIndex::FolderIndex(Files& files, const std::string& folder) {
     try {
-        for (const FileEntry& entry : files.list(folder))
-            if (!entry.isFolder) entries_.emplace(lowerCase(entry.name), entry);
+        names_ = files.fileNames(folder);
     } catch (const Failure& failure) {
         if (failure.number != failure::PathNotFound) throw;
     }
 }
 
-std::optional<std::string> FolderIndex::find(std::string_view name) const {
-    const auto found = entries_.find(lowerCase(name));
-    if (found == entries_.end()) return std::nullopt;
-    return found->second.name;
+const std::unordered_map<std::string, std::string>& FolderIndex::byLowerCase() const {
+    if (byLowerCase_.empty())
+        for (const std::string& name : names_)
+            byLowerCase_.emplace(lowerCase(name), name);
+    return byLowerCase_;
 }
 
-std::uintmax_t FolderIndex::sizeOf(std::string_view name) const {
-    const auto found = entries_.find(lowerCase(name));
-    return found == entries_.end() ? 0 : found->second.size;
+std::optional<std::string> FolderIndex::find(std::string_view name) const {
+    const auto found = byLowerCase().find(lowerCase(name));
+    if (found == byLowerCase().end()) return std::nullopt;
+    return found->second;
+}
+
+bool FolderIndex::has(std::string_view name) const {
+    return byLowerCase().contains(lowerCase(name));
 }
 
 bool FolderIndex::hasAll(std::string_view symbol) const {
@@ -118,8 +134,8 @@ bool FolderIndex::hasAny(std::string_view symbol) const {
 }
 
 bool FolderIndex::hasStaged() const {
-    return std::any_of(entries_.begin(), entries_.end(),
-                       [](const auto& entry) { return entry.first.ends_with(Staged); });
+    return std::any_of(names_.begin(), names_.end(),
+                       [](const auto& name) { return endsWithIgnoringCase(name, Staged); });
 }
 
 std::vector<std::string> readList(Files& files, const LibraryPlace& library) {
@@ -163,14 +179,22 @@ std::size_t CountLibraryLines(Files& files, const std::string& folder, std::stri
 
 SymbolFiles readSymbol(Files& files, const std::string& symbolFolder, const FolderIndex& index,
                        std::string_view name) {
-    if (index.sizeOf(withEnding(name, Endings[0])) > LargestScript)
-        throw Failure{failure::Overflow, "The script of the symbol is larger than 1 MiB."};
-    const auto content = [&](std::string_view ending, std::uintmax_t limit) {
+    // A list may hold anything; no line of it leads out of the folder.
+    if (name.find(files.separator()) != std::string_view::npos)
+        throw Failure{failure::FileNotFound, "No name of a symbol."};
+    const auto content = [&](std::string_view ending, const auto& read) {
         const std::string file = withEnding(name, ending);
-        return files.read(symbolFolder + index.find(file).value_or(file), limit);
+        try {
+            return read(symbolFolder + file);
+        } catch (const Failure& failure) {
+            const auto written = index.find(file);
+            if (failure.number != failure::FileNotFound || !written || *written == file) throw;
+            return read(symbolFolder + *written);
+        }
     };
-    return {content(Endings[0], LargestScript), content(Endings[1], LargestIcon),
-            content(Endings[2], LargestIcon)};
+    const auto script = [&](const std::string& path) { return readScript(files, path); };
+    const auto icon = [&](const std::string& path) { return files.read(path, LargestIcon); };
+    return {content(Endings[0], script), content(Endings[1], icon), content(Endings[2], icon)};
 }
 
 void writeNewSymbol(Files& files, const std::string& symbolFolder, std::string_view name,

@@ -33,7 +33,7 @@ struct SymbolFiles {
     std::string script, picture, cyanPicture;  // .uds, .bmp, _Cyan.bmp
 };
 
-// The files of one folder by name, ignoring case; read once.
+// The files of one folder by name, ignoring case; read once, and sorted when first asked for one.
 class FolderIndex {
   public:
     FolderIndex() = default;
@@ -42,14 +42,16 @@ class FolderIndex {
 
     // The name as it stands on disk; nullopt if there is no such file.
     std::optional<std::string> find(std::string_view name) const;
-    std::uintmax_t sizeOf(std::string_view name) const;  // bytes; 0 if there is no such file
-    bool has(std::string_view name) const { return find(name).has_value(); }
+    bool has(std::string_view name) const;
     bool hasAll(std::string_view symbol) const;  // the symbol's three files
     bool hasAny(std::string_view symbol) const;
     bool hasStaged() const;  // a write was interrupted
 
   private:
-    std::unordered_map<std::string, FileEntry> entries_;  // by the name in lower case
+    const std::unordered_map<std::string, std::string>& byLowerCase() const;
+
+    std::vector<std::string> names_;
+    mutable std::unordered_map<std::string, std::string> byLowerCase_;  // to the name on disk
 };
 
 // The list: its lines, "" for a missing file. Writing replaces the list, then its safety copy,
@@ -61,8 +63,8 @@ void appendToList(Files& files, const LibraryPlace& library, const std::vector<s
 // The number of line ends in the list; 0 if it is missing.
 std::size_t CountLibraryLines(Files& files, const std::string& folder, std::string_view file);
 
-// A symbol's files in a symbol folder, the index of which is at hand. A script beyond 1 MiB is
-// refused.
+// A symbol's files in a symbol folder, the index of which is at hand; it is asked only where the
+// case of a name differs. A script beyond 1 MiB is refused.
 SymbolFiles readSymbol(Files& files, const std::string& symbolFolder, const FolderIndex& index,
                        std::string_view name);
 // Makes the folder if it is missing. Writing over a symbol replaces the three files together.

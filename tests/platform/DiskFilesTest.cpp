@@ -226,6 +226,9 @@ TEST_F(DiskFilesTest, AListingTellsEveryEntryButTheFoldersOwnDots) {
     EXPECT_EQ(names,
               (Names{".hidden hidden", "Bitmaps/", "Demo.els", "dangling", "linked folder/"}));
     EXPECT_EQ(entries[2].size, 5u);
+    Names fileNames = files.fileNames(folder.path());
+    std::sort(fileNames.begin(), fileNames.end());
+    EXPECT_EQ(fileNames, (Names{".hidden", "Demo.els", "dangling"}));
 
     const std::optional<FileEntry> status = files.status(folder / "Demo.els");
     ASSERT_TRUE(status);

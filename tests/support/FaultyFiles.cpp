@@ -52,6 +52,11 @@ std::vector<FileEntry> FaultyFiles::list(const std::string& folder) {
     return disk_.list(folder);
 }
 
+std::vector<std::string> FaultyFiles::fileNames(const std::string& folder) {
+    enter(Operation::List, folder);
+    return disk_.fileNames(folder);
+}
+
 std::optional<FileEntry> FaultyFiles::status(const std::string& path) {
     enter(Operation::Status, path);
     return disk_.status(path);

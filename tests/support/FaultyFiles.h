@@ -49,6 +49,7 @@ class FaultyFiles final : public Files {
 
     char separator() const override;
     std::vector<FileEntry> list(const std::string& folder) override;
+    std::vector<std::string> fileNames(const std::string& folder) override;  // as List
     std::optional<FileEntry> status(const std::string& path) override;
     std::string read(const std::string& path, std::uintmax_t limit) override;
     void replace(const std::string& path, std::string_view content, bool ownerOnly) override;
