@@ -312,6 +312,30 @@ TEST(UndoHistory, GivesEachTextBackByteForByte) {
     EXPECT_THROW(history.set(UndoHistory::Slots, "beyond"), std::out_of_range);
 }
 
+// Whatever stands in the lines and however many of them change, neighbours share what is alike.
+TEST(UndoHistory, GivesBackTextsThatDifferInAnyOfTheirLines) {
+    constexpr const char* Parts[] = {"12.5", "-0.0625\xFF", "1E-07", "\xFF\xFF", "K1",
+                                     "\r\n", "\n",          "\n\n",  "0"};
+    std::mt19937 random(5);
+    const auto below = [&](std::size_t limit) { return random() % limit; };
+    std::string text = drawingText(400, -1, 0);
+    std::vector<std::string> texts;
+    UndoHistory history;
+    for (Short slot = 0; slot < 300; ++slot) {
+        const std::size_t changes = below(4) == 0 ? 300 : below(4);
+        for (std::size_t i = 0; i < changes; ++i) {
+            const std::size_t at = below(text.size());
+            const std::string part =
+                below(20) == 0 ? std::string(below(600), 'x') : Parts[below(9)];
+            text.replace(at, below(3) == 0 ? below(40) : part.size(), part);
+        }
+        texts.push_back(text);
+        history.set(slot, text);
+    }
+    for (std::size_t i = 0; i < texts.size(); ++i)
+        ASSERT_EQ(history.text(static_cast<Short>(i)), texts[i]) << i;
+}
+
 std::size_t allocated() {
     const struct mallinfo2 heap = mallinfo2();
     return heap.uordblks + heap.hblkhd;
@@ -319,19 +343,42 @@ std::size_t allocated() {
 
 TEST(UndoHistory, KeepsAThousandTextsOfFiveThousandDevicesWithin64MiB) {
     constexpr std::size_t Limit = 64 * 1024 * 1024;
-    std::string text = drawingText(5000, -1, 0);
-    const std::string first = text;
-    UndoHistory history;
-    const std::size_t before = allocated();
-    for (Short slot = 0; slot < UndoHistory::Slots; ++slot) {
-        history.set(slot, text);
-        if (slot + 1 == UndoHistory::Slots) break;
-        text[static_cast<std::size_t>(slot) * 7919 % text.size()] = '5';
-        text.erase(12, text.find('\n', 12) - 11);
+    struct Case {
+        const char* what;
+        void (*change)(std::string& text, std::size_t step);
+    };
+    const Case cases[] = {
+        {"all moved",
+         [](std::string& text, std::size_t step) {
+             for (std::size_t at = 0; (at = text.find("Aux\xFF", at)) != std::string::npos;)
+                 for (at += 4; text[at] != '\xFF'; ++at)
+                     if (text[at] != '.')
+                         text[at] = static_cast<char>('0' + (at + step * 7919) % 10);
+         }},
+        {"changed anywhere",
+         [](std::string& text, std::size_t step) { text[step * 7919 % text.size()] = '5'; }},
+        {"deleted at the start",
+         [](std::string& text, std::size_t) { text.erase(12, text.find('\n', 12) - 11); }},
+        {"one more of the same",
+         [](std::string& text, std::size_t) { text.insert(12, text, 12, text.find('\n') - 11); }},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.what);
+        std::string text = drawingText(5000, -1, 0);
+        const std::string first = text;
+        UndoHistory history;
+        const std::size_t before = allocated();
+        std::size_t whole = 0;
+        for (Short slot = 0; slot < UndoHistory::Slots; ++slot) {
+            if (slot > 0) c.change(text, static_cast<std::size_t>(slot));
+            whole += text.size();
+            history.set(slot, text);
+        }
+        EXPECT_GT(whole, 2 * Limit);
+        EXPECT_LT(allocated() - before, Limit);
+        EXPECT_EQ(history.text(999), text);
+        EXPECT_EQ(history.text(0), first);
     }
-    EXPECT_LT(allocated() - before, Limit);
-    EXPECT_EQ(history.text(999), text);
-    EXPECT_EQ(history.text(0), first);
 }
 
 }  // namespace
