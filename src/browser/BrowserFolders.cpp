@@ -1,20 +1,47 @@
 #include "browser/BrowserFolders.h"
 
 #include <algorithm>
+#include <set>
 #include <utility>
 
 #include "browser/Favorites.h"
 #include "browser/FormState.h"
+#include "platform/Encoding.h"
 
 namespace ladrix {
 
 namespace {
 
+bool choosesLibrary(BrowserMode mode) {
+    return mode == BrowserMode::Library || mode == BrowserMode::MergeLibrary ||
+           mode == BrowserMode::TransferLibrary;
+}
+
+// Where a library is chosen its list stands for it: the folder of its symbols would only lead
+// astray.
+void dropSymbolFolders(std::vector<FileEntry>& entries) {
+    constexpr std::string_view Ending = ".lib";
+    std::set<std::string> libraries;
+    for (const FileEntry& entry : entries)
+        if (!entry.isFolder && extensionOf(entry.name) == Ending)
+            libraries.insert(lowerCase(nameWithoutExtension(entry.name)));
+    std::erase_if(entries, [&](const FileEntry& entry) {
+        return entry.isFolder && libraries.contains(lowerCase(entry.name));
+    });
+}
+
+std::vector<FileEntry> entriesOf(const FileBrowser& browser, Files& files,
+                                 const std::string& folder) {
+    auto entries = listFolder(files, folder, browser.BrowserFilter, browser.sorting);
+    if (choosesLibrary(browser.FileBrowserMode)) dropSymbolFolders(entries);
+    return entries;
+}
+
 // Shows the folder; throws, with everything as it was, if it cannot be read.
 void enter(FileBrowser& browser, Editor& editor, const std::string& folder) {
     Files& files = *editor.platform.files;
     const std::string path = withSeparator(files, folder);
-    browser.entries = listFolder(files, path, browser.BrowserFilter, browser.sorting);
+    browser.entries = entriesOf(browser, files, path);
     browser.BrowserFolder = path;
     ++browser.ListVersion;
     mark(browser, -1);
@@ -73,7 +100,7 @@ void enterStartFolder(FileBrowser& browser, Editor& editor) {
 }
 
 void Dir1_Change(FileBrowser& browser, Editor& editor, const std::string& folder) {
-    editor.platform.attempt("Change Folder " + folder, [&] { enter(browser, editor, folder); });
+    guarded(browser, editor, "Change Folder " + folder, [&] { enter(browser, editor, folder); });
 }
 
 void goToParentFolder(FileBrowser& browser, Editor& editor) {
@@ -91,7 +118,7 @@ void goToPath(FileBrowser& browser, Editor& editor, std::string_view typed) {
     const std::string blankless = withoutBlanks(typed);
     if (blankless.empty()) return;
     Files& files = *editor.platform.files;
-    editor.platform.attempt("Go to Folder", [&] {
+    guarded(browser, editor, "Go to Folder", [&] {
         const std::string path = resolvedPath(files, browser.BrowserFolder, blankless);
         const auto status = files.status(path);
         if (!status || status->isFolder) return enter(browser, editor, path);
@@ -129,14 +156,13 @@ void FileList1_ColumnClick(FileBrowser& browser, BrowserOrder order) {
 
 void FileList1_Refresh(FileBrowser& browser, Editor& editor) {
     const std::string marked = markedName(browser);
-    editor.platform.attempt("Refresh Folder", [&] {
+    guarded(browser, editor, "Refresh Folder", [&] {
         Files& files = *editor.platform.files;
         if (!files.status(browser.BrowserFolder)) {
             enterNearest(browser, editor, browser.BrowserFolder);
             return;
         }
-        browser.entries =
-            listFolder(files, browser.BrowserFolder, browser.BrowserFilter, browser.sorting);
+        browser.entries = entriesOf(browser, files, browser.BrowserFolder);
         browser.Selected = indexOf(browser, marked);
         ++browser.ListVersion;
         if (browser.Selected >= 0 || marked.empty()) return;
@@ -152,7 +178,7 @@ void cmbFavorites_Change(FileBrowser& browser, const std::string& folder) {
 void cmdGoFavorite_Click(FileBrowser& browser, Editor& editor) {
     if (browser.cmbFavorites.List.empty()) return;
     const std::string folder = browser.cmbFavorites.Text;
-    editor.platform.attempt("Go to Favorite Folder", [&] {
+    guarded(browser, editor, "Go to Favorite Folder", [&] {
         const auto status = editor.platform.files->status(folder);
         if (status && status->isFolder) return enter(browser, editor, folder);
         editor.platform.tell("The favorite folder could not be found:\r\n" + folder);

@@ -78,7 +78,10 @@ void saveDrawing(FileBrowser& browser, Editor& editor, const std::string& name) 
     std::string formerName = std::exchange(drawing.CurrentFileName, name);
     // This very form turns into the one that opens.
     const bool openNext = std::exchange(drawing.OpenAfterSave, false);
+    std::string formerMessage = std::exchange(editor.form.lblMessage.Caption, {});
     SaveDrawing(editor);
+    browser.lblNote.Caption = editor.form.lblMessage.Caption;
+    if (browser.lblNote.Caption.empty()) editor.form.lblMessage.Caption = std::move(formerMessage);
     const bool saved = !drawing.SaveInProgress && !drawing.DrawingChanged;
     if (!saved) {
         drawing.CurrentFolder = std::move(formerFolder);
@@ -95,7 +98,7 @@ void saveDrawing(FileBrowser& browser, Editor& editor, const std::string& name) 
 void makeFolder(FileBrowser& browser, Editor& editor, const std::string& name,
                 std::string_view taken, std::string_view title) {
     if (!isLegalFileName(name)) return tellIllegalName(editor);
-    editor.platform.attempt("New Folder", [&] {
+    guarded(browser, editor, "New Folder", [&] {
         Files& files = *editor.platform.files;
         const std::string& folder = browser.BrowserFolder;
         if (FolderExists(files, folder, name) || FileExists(files, folder, name))
@@ -128,6 +131,7 @@ void setUpSaving(FileBrowser& browser, const Drawing& drawing) {
 
 void txtSaveAs_Change(FileBrowser& browser, const std::string& text) {
     browser.txtSaveAs.Text = browser.BrowserSaveName = text;
+    browser.lblNote.Caption.clear();
     browser.cmdSaveAs.Enabled = !withoutBlanks(text).empty();
 }
 
@@ -146,7 +150,7 @@ void cmdSaveAs_Click(FileBrowser& browser, Editor& editor) {
     if (browser.FileBrowserMode == BrowserMode::SavePreferences)
         return savePreferencesCopy(browser, editor, name);
     const bool exporting = browser.FileBrowserMode == BrowserMode::SaveExport;
-    editor.platform.attempt(exporting ? "Export Drawing" : "Save Drawing As", [&] {
+    guarded(browser, editor, exporting ? "Export Drawing" : "Save Drawing As", [&] {
         const auto existing = existingName(*editor.platform.files, browser.BrowserFolder, name);
         if (existing && !mayReplace(editor, browser, *existing)) return;
         const std::string target = existing.value_or(name);

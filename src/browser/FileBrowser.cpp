@@ -75,7 +75,7 @@ void openInDrawingMode(FileBrowser& browser, Editor& editor) {
 }
 
 void placePicture(FileBrowser& browser, Editor& editor) {
-    editor.platform.attempt("Insert Picture", [&] {
+    guarded(browser, editor, "Insert Picture", [&] {
         InsertPicture(editor, browser.BrowserFolder, browser.BrowserFile, browser.PreviewPicture);
         browser.PictureFolder = browser.BrowserFolder;
         handOver(browser, browser.BrowserFolder, browser.BrowserFile);
@@ -104,6 +104,7 @@ void frmFile_Load(FileBrowser& browser, Editor& editor, Favorites& favorites,
                   const BrowserPlaces& places) {
     browser.Visible = true;
     browser.Chosen = false;
+    browser.lblNote = {};
     browser.places = places;
     if (!favorites.FavoritesChanged) ReadFavorites(favorites, editor);
     LoadFavoriteFolders(favorites, browser);
@@ -128,6 +129,7 @@ void CheckOpenFileMode(FileBrowser& browser, Editor& editor) {
 
 void FileList1_Click(FileBrowser& browser, Editor& editor, int index) {
     if (index >= static_cast<int>(browser.entries.size())) return;
+    browser.lblNote.Caption.clear();
     mark(browser, std::max(index, -1));
     const bool isFile = index >= 0 && !browser.entries[static_cast<std::size_t>(index)].isFolder;
     if (isFile) {

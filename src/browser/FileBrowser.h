@@ -53,6 +53,8 @@ struct FileBrowser {
     TextBox txtSaveAs;
     std::vector<FileType> FileTypes;  // what optFileType offers
     Short optFileType = 0;            // index in FileTypes; of a drawing 0, of a template 1
+    Control
+        lblNote;  // why the last step failed, also where the report of a repeated failure is quiet
     Control cmdOpenOK, cmdSaveAs, cmdOpenCancel, cmdNewFolder, cmdPreviewAll;
     ComboBox cmbFavorites;
     Control cmdGoFavorite, cmdAddToFavorites;

@@ -49,8 +49,20 @@ bool isBefore(std::strong_ordering natural, std::string_view a, std::string_view
     return natural == std::strong_ordering::equal ? a < b : natural == std::strong_ordering::less;
 }
 
+// In lower case, with the letters of Western languages among those that they come from.
+std::string sortKey(std::string_view name) {
+    constexpr std::string_view From0xE0 = "aaaaaaaceeeeiiiidnooooo\xF7ouuuuyty";
+    std::string key = lowerCase(name);
+    for (char& c : key) {
+        const auto code = static_cast<unsigned char>(c);
+        if (code >= 0xE0) c = From0xE0[code - 0xE0u];
+        if (code == 0xDF) c = 's';
+    }
+    return key;
+}
+
 struct SortedEntry {
-    std::string key;  // the name in lower case
+    std::string key;
     FileEntry entry;
 };
 
@@ -73,7 +85,7 @@ std::size_t rootLength(const Files& files, std::string_view path) {
 }  // namespace
 
 bool naturalLess(std::string_view a, std::string_view b) {
-    return isBefore(compareNatural(lowerCase(a), lowerCase(b)), a, b);
+    return isBefore(compareNatural(sortKey(a), sortKey(b)), a, b);
 }
 
 bool matchesFilter(std::string_view name, std::string_view filter) {
@@ -103,7 +115,7 @@ void sortEntries(std::vector<FileEntry>& entries, const Sorting& sorting) {
     std::vector<SortedEntry> sorted;
     sorted.reserve(entries.size());
     for (FileEntry& entry : entries)
-        sorted.push_back({lowerCase(entry.name), std::move(entry)});
+        sorted.push_back({sortKey(entry.name), std::move(entry)});
     std::sort(sorted.begin(), sorted.end(), [&](const SortedEntry& a, const SortedEntry& b) {
         if (a.entry.isFolder != b.entry.isFolder) return a.entry.isFolder;
         return sorting.descending ? comesBefore(sorting.order, b, a)

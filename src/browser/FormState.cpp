@@ -14,7 +14,10 @@ namespace {
 void previewDrawing(FileBrowser& browser, Editor& editor, const std::string& name) {
     if (extensionOf(name) == ".bmp") return;
     const auto preview = ReadPreview(editor, browser.BrowserFolder, name);
-    if (!preview) return;
+    if (!preview) {
+        browser.PreviewNote = "This drawing cannot be shown.";
+        return;
+    }
     browser.PreviewShown = true;
     browser.txtDescription.Text = preview->description;
     const auto page = previewPageSize(preview->pageKey);

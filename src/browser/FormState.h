@@ -8,6 +8,22 @@
 
 namespace ladrix {
 
+// Runs a handler's steps on its single error path; the form's own note tells why they failed too.
+// False if they did.
+template <class Steps>
+bool guarded(FileBrowser& browser, const Editor& editor, std::string_view description,
+             const Steps& steps) {
+    browser.lblNote.Caption.clear();
+    return editor.platform.attempt(description, [&] {
+        try {
+            steps();
+        } catch (const Failure& failure) {
+            browser.lblNote.Caption = failure.text;
+            throw;
+        }
+    });
+}
+
 std::string withoutBlanks(std::string_view text);
 
 // The row of this name, -1 if it is not listed.

@@ -6,7 +6,7 @@
 namespace ladrix {
 
 void savePreferencesCopy(FileBrowser& browser, const Editor& editor, const std::string& name) {
-    editor.platform.attempt("Save a Copy of the User Preferences", [&] {
+    guarded(browser, editor, "Save a Copy of the User Preferences", [&] {
         Files& files = *editor.platform.files;
         if (FileExists(files, browser.BrowserFolder, name) &&
             editor.platform.dialogs->message("Overwrite existing User Preferences File?",
@@ -31,7 +31,7 @@ void restorePreferences(FileBrowser& browser, const Editor& editor) {
         return editor.platform.tell(
             "Restoration not possible. Source and destiny file are\r\n"
             "one and the same. Please browse to another location.");
-    editor.platform.attempt("Restore User Preferences", [&] {
+    guarded(browser, editor, "Restore User Preferences", [&] {
         editor.platform.files->copy(browser.BrowserFolder + browser.BrowserFile,
                                     target + std::string(PreferencesName));
         handOver(browser, browser.BrowserFolder, browser.BrowserFile);

@@ -18,6 +18,7 @@
 
 #include "app/FileCommands.h"
 #include "browser/BrowserSaving.h"
+#include "qt/ElidedLabel.h"
 #include "qt/FileIcons.h"
 #include "qt/FileListView.h"
 #include "qt/PathBar.h"
@@ -223,11 +224,13 @@ QWidget* FileDialog::makeButtons() {
     layout->setContentsMargins(0, Space / 2, 0, 0);
     cmdPreviewAll_ = makeButton("cmdPreviewAll", row);
     cmdPreviewAll_->setCheckable(true);
+    lblNote_ = new ElidedLabel(row);
+    lblNote_->setObjectName(QStringLiteral("lblNote"));
     cmdOpenOK_ = makeButton("cmdOpenOK", row);
     cmdSaveAs_ = makeButton("cmdSaveAs", row);
     cmdOpenCancel_ = makeButton("cmdOpenCancel", row);
     layout->addWidget(cmdPreviewAll_);
-    layout->addStretch(1);
+    layout->addWidget(lblNote_, 1);
     layout->addWidget(cmdOpenOK_);
     layout->addWidget(cmdSaveAs_);
     layout->addWidget(cmdOpenCancel_);
@@ -325,6 +328,8 @@ int FileDialog::run() {
     else
         lists_->currentWidget()->setFocus();
     exec();
+    // Where a box over the dialog has just gone too, a window manager may forget who is next.
+    if (parentWidget()) parentWidget()->activateWindow();
     browser_.Width = static_cast<Single>(width());
     browser_.Height = static_cast<Single>(height());
     frmFile_Unload(browser_, editor_);

@@ -18,6 +18,7 @@ class QToolButton;
 
 namespace ladrix {
 
+class ElidedLabel;
 class FileListView;
 class PathBar;
 class PreviewBox;
@@ -83,6 +84,7 @@ class FileDialog final : public QDialog {
     QLineEdit* txtSaveAs_;
     QWidget* fileTypes_;
     QHBoxLayout* fileTypeRow_;
+    ElidedLabel* lblNote_;
     QButtonGroup* optFileType_;
     QPushButton *cmdNewFolder_, *cmdPreviewAll_, *cmdOpenOK_, *cmdSaveAs_, *cmdOpenCancel_;
     std::vector<FileType> shownTypes_;

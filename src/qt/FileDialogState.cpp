@@ -11,6 +11,7 @@
 #include <QStackedWidget>
 #include <QToolButton>
 
+#include "qt/ElidedLabel.h"
 #include "qt/FileDialog.h"
 #include "qt/FileListView.h"
 #include "qt/PathBar.h"
@@ -47,6 +48,7 @@ void FileDialog::showState() {
     showFavorites();
     showList();
     showButton(cmdNewFolder_, browser_.cmdNewFolder);
+    lblNote_->setText(toQString(browser_.lblNote.Caption));
     showButton(cmdOpenOK_, browser_.cmdOpenOK);
     showButton(cmdSaveAs_, browser_.cmdSaveAs);
     showButton(cmdOpenCancel_, browser_.cmdOpenCancel);

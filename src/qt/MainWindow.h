@@ -11,6 +11,7 @@
 #include "app/Program.h"
 #include "qt/Binding.h"
 #include "qt/CanvasWidget.h"
+#include "qt/ElidedLabel.h"
 #include "qt/PaletteWidget.h"
 #include "qt/SimulationPanel.h"
 #include "qt/SymbolSearchBox.h"
@@ -18,28 +19,6 @@
 #include "qt/UserPaletteWidget.h"
 
 namespace ladrix {
-
-// A line of text that is cut with an ellipsis where it is too long, and then tells itself whole in
-// its tip.
-class ElidedLabel final : public QWidget {
-    Q_OBJECT
-    Q_PROPERTY(QString text READ text)
-
-  public:
-    using QWidget::QWidget;
-    const QString& text() const { return text_; }
-    void setText(const QString& text);
-    QSize minimumSizeHint() const override { return {40, fontMetrics().height()}; }
-
-  protected:
-    void paintEvent(QPaintEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
-
-  private:
-    void arrangeTip();
-
-    QString text_;
-};
 
 class MainWindow final : public QMainWindow {
     Q_OBJECT

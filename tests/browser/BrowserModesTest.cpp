@@ -98,6 +98,23 @@ TEST_F(BrowserModesTest, ListTheirFilesInTheirFoldersAndHandTheChoiceOver) {
     EXPECT_EQ(editor.drawing.CurrentFileName, "") << "nothing was opened";
 }
 
+TEST_F(BrowserModesTest, ALibrarysListStandsForItsFolder) {
+    const auto folders = [&] {
+        std::vector<std::string> names;
+        for (const FileEntry& entry : browser.entries)
+            if (entry.isFolder) names.push_back(entry.name);
+        return names;
+    };
+    fake.folder.makeFolder("base/U");
+    fake.folder.makeFolder("base/v");
+    show(BrowserMode::TransferLibrary);
+    EXPECT_THAT(folders(), ElementsAre("v"));
+    FileList1_Refresh(browser, editor);
+    EXPECT_THAT(folders(), ElementsAre("v"));
+    show(BrowserMode::Backup);
+    EXPECT_THAT(folders(), ElementsAre("U", "v"));
+}
+
 TEST_F(BrowserModesTest, LibrariesAndProgramsLeaveTheDrawingAlone) {
     placeLine();
     for (const BrowserMode mode : {BrowserMode::Program, BrowserMode::Library, BrowserMode::Picture,

@@ -340,6 +340,7 @@ TEST_F(FileBrowserSaveTest, ASaveThatFailsOrIsRefusedKeepsTheFormAndTheFormerNam
     saveAs("copy");
     ASSERT_EQ(fake.reports.size(), 1u);
     EXPECT_EQ(fake.reports[0].text, "No space left on device");
+    EXPECT_EQ(browser.lblNote.Caption, "The drawing was not saved. No space left on device");
     EXPECT_TRUE(browser.Visible);
     EXPECT_EQ(editor.drawing.CurrentFileName, "mine.els");
     EXPECT_TRUE(editor.drawing.DrawingChanged);
@@ -392,8 +393,11 @@ TEST_F(FileBrowserFoldersTest, AFolderThatCannotBeReadIsReportedAndAVanishedOneG
     goToPath(browser, editor, "gone/deeper");
     ASSERT_EQ(fake.reports.size(), 2u);
     EXPECT_EQ(fake.reports[0].text, "Permission denied");
+    EXPECT_EQ(browser.lblNote.Caption, fake.reports[1].text);
     EXPECT_EQ(browser.BrowserFolder, drawings) << "the present one stays";
     EXPECT_THAT(listed(), ElementsAre("a", "locked"));
+    click("locked");
+    EXPECT_EQ(browser.lblNote.Caption, "") << "it told of the step before";
 
     goToPath(browser, editor, "a/b/c");
     std::filesystem::remove_all(fake.folder.native("drawings/a/b"));
