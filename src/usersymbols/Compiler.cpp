@@ -299,7 +299,12 @@ void firstPass(UserSymbols& symbols, Editor& editor) {
 // The flags are off before the form is up, so that nothing of the canvas waits behind it.
 void secondPass(UserSymbols& symbols, Editor& editor, Short collectedCount) {
     editor.SymbolPointPending = editor.SymbolPointFound = false;
-    if (collectedCount == 0) return;
+    if (collectedCount == 0) {
+        editor.form.lblMessage.Caption =
+            "A symbol of labels alone takes its insertion point from a click on one of them. Hit "
+            "ESC and start again.";
+        return;
+    }
     SymbolCompiler& compiler = symbols.compiler;
     compileScript(compiler, editor.platform.locale.decimalMark);
     putOnClipboard(compiler, *editor.platform.clipboard);

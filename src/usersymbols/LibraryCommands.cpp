@@ -14,6 +14,24 @@ constexpr std::string_view IllegalName =
     "Action Cancelled. File and Folder Names cannot include\r\n"
     "any of the following characters: / \\ : * ? < > | ";
 
+// Runs a command's steps on its single error path. A failure that repeats brings up no second
+// report: the foot tells it each time.
+template <class Steps>
+void guarded(Editor& editor, std::string_view description, const Steps& steps) {
+    editor.platform.attempt(description, [&] {
+        try {
+            steps();
+        } catch (const Failure& failure) {
+            editor.form.lblMessage.Caption = std::string(description) + " failed. " + failure.text;
+            throw;
+        }
+    });
+}
+
+void tellDone(Editor& editor, const std::string& symbol, const std::string& what) {
+    editor.form.lblMessage.Caption = symbol + " has been " + what + ".";
+}
+
 bool libraryFolderExists(Editor& editor, const LibraryPlace& library) {
     if (FolderExists(*editor.platform.files, library.Folder, library.Name)) return true;
     editor.platform.tell("Library folder does not exist.");
@@ -159,7 +177,7 @@ void SaveUserSymbol(UserSymbols& symbols, Editor& editor, const std::string& nam
 
 void OpenUserLibrary(UserSymbols& symbols, Editor& editor, const std::string& folder,
                      std::string_view libraryFile) {
-    editor.platform.attempt("Open User Library", [&] {
+    guarded(editor, "Open User Library", [&] {
         if (!libraryFolderExists(editor, libraryPlace(folder, libraryFile))) return;
         resetTool(editor);
         selectLibrary(symbols, editor, folder, libraryFile);
@@ -169,7 +187,7 @@ void OpenUserLibrary(UserSymbols& symbols, Editor& editor, const std::string& fo
 
 void MergeUserLibrary(UserSymbols& symbols, Editor& editor, const std::string& folder,
                       std::string_view libraryFile) {
-    editor.platform.attempt("Merge User Library", [&] {
+    guarded(editor, "Merge User Library", [&] {
         const LibraryPlace source = libraryPlace(folder, libraryFile);
         if (!libraryFolderExists(editor, source) || !mergeFits(symbols, editor, source)) return;
         Files& files = *editor.platform.files;
@@ -212,7 +230,7 @@ std::optional<LibraryPlace> makeLibraryByName(Editor& editor) {
 }
 
 void NewUserLibrary(UserSymbols& symbols, Editor& editor) {
-    editor.platform.attempt("New User Library", [&] {
+    guarded(editor, "New User Library", [&] {
         const auto library = makeLibraryByName(editor);
         if (!library) return;
         resetTool(editor);
@@ -228,7 +246,7 @@ void StepUserLibrary(UserSymbols& symbols, Editor& editor, int step) {
     const auto count = static_cast<int>(symbols.LibraryList.size());
     if (count == 0)
         return editor.platform.tell("User library does not exist in " + editor.BasePath);
-    editor.platform.attempt("Index User Library", [&] {
+    guarded(editor, "Index User Library", [&] {
         const int next = ((symbols.LibraryIndex + step) % count + count) % count;
         symbols.LibraryIndex = static_cast<Short>(next);
         resetTool(editor);
@@ -245,7 +263,11 @@ void DeleteUserSymbol(UserSymbols& symbols, Editor& editor) {
                                          "Preparing to Delete User Button",
                                          Buttons::YesNo) != Answer::Yes)
         return;
-    editor.platform.attempt("Delete User Button", [&] { removeFromLibrary(symbols, editor, row); });
+    guarded(editor, "Delete User Button", [&] {
+        const std::string name = nameAt(symbols, row);
+        removeFromLibrary(symbols, editor, row);
+        tellDone(editor, name, "deleted");
+    });
 }
 
 void RenameUserSymbol(UserSymbols& symbols, Editor& editor) {
@@ -256,10 +278,11 @@ void RenameUserSymbol(UserSymbols& symbols, Editor& editor) {
     const auto name = platform.dialogs->input("Insert New Name", "Renaming User Button", former);
     if (!name || name->empty() || *name == former) return;
     if (nameIsTaken(symbols, editor, row, *name) || !acceptedAsFileName(platform, *name)) return;
-    editor.platform.attempt("Rename User Button", [&] {
+    guarded(editor, "Rename User Button", [&] {
         renameFiles(symbols, editor, row, *name);
         resetTool(editor);
         ReloadLibrary(symbols, editor);
+        tellDone(editor, former, "renamed to " + *name);
     });
 }
 
@@ -267,7 +290,7 @@ void TransferUserSymbol(UserSymbols& symbols, Editor& editor, Transfer kind,
                         const std::string& folder, std::string_view libraryFile) {
     const Short row = contextSymbol(symbols);
     if (row < 0) return;
-    editor.platform.attempt("Transfer User Button", [&] {
+    guarded(editor, "Transfer User Button", [&] {
         Files& files = *editor.platform.files;
         const LibraryPlace target = libraryPlace(folder, libraryFile);
         const std::string name = nameAt(symbols, row);
@@ -278,6 +301,7 @@ void TransferUserSymbol(UserSymbols& symbols, Editor& editor, Transfer kind,
                        readSymbol(files, symbols.SymbolFolder, index, name));
         appendToList(files, target, {name});
         if (kind == Transfer::Move) removeFromLibrary(symbols, editor, row);
+        tellDone(editor, name, (kind == Transfer::Move ? "moved to " : "copied to ") + target.Name);
     });
 }
 

@@ -1,5 +1,7 @@
 #include "usersymbols/SavingForms.h"
 
+#include <algorithm>
+
 #include "usersymbols/Libraries.h"
 
 namespace ladrix {
@@ -48,6 +50,16 @@ void makeDefaultFolder(Editor& editor) {
         files.makeFolder(editor.BasePath + std::string(Default));
 }
 
+// A device that is no primitive leaves an empty line, and a script with one places nothing.
+void tellSaved(const UserSymbols& symbols, Editor& editor) {
+    const auto& lines = symbols.compiler.SymbolScriptLines;
+    const bool placeable = std::find(lines.begin(), lines.end(), std::string()) == lines.end();
+    editor.form.lblMessage.Caption =
+        placeable ? "Symbol Saved. Hit ESC to reset the drawing."
+                  : "Symbol Saved, but it will draw nothing: only lines, squares, circles, arcs, "
+                    "dots and labels can be in a symbol.";
+}
+
 }  // namespace
 
 void frmButtonColor_Load(UserSymbols& symbols) {
@@ -89,7 +101,7 @@ void frmUS_cmdSave_Click(UserSymbols& symbols, Editor& editor) {
     const std::string name = form.txtSymbolName.Text;
     if (name.empty()) return;
     if (!acceptedAsFileName(editor.platform, name)) return;
-    editor.platform.attempt("Save User Symbol", [&] {
+    try {
         makeDefaultFolder(editor);
         if (!mayTakeItsPlace(symbols, editor, name)) {
             ++form.txtSymbolName.SelectAllRequests;
@@ -97,7 +109,11 @@ void frmUS_cmdSave_Click(UserSymbols& symbols, Editor& editor) {
         }
         SaveUserSymbol(symbols, editor, name);
         form.Visible = false;
-    });
+        tellSaved(symbols, editor);
+    } catch (const Failure& failure) {
+        editor.form.lblMessage.Caption = "The symbol was not saved. " + failure.text;
+        editor.platform.ReportError("Save User Symbol", failure);
+    }
 }
 
 void frmUS_cmdExit_Click(UserSymbols& symbols, Editor& editor) {

@@ -1,5 +1,6 @@
 #include "usersymbols/Compiler.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -276,6 +277,11 @@ TEST_F(PassesTest, AClickOnALabelMakesASymbolOfTheLabelsAlone) {
     label.fontSize = 8;
     select(bench, label);
     begin();
+    bench.drawing.devices.DeviceSelected[0] = 0;
+    bench.editor.SymbolPointTaken(1.25f, 1, -1);
+    EXPECT_EQ(forms.back(), Form::frmButtonColor) << "a click beside the labels finds nothing";
+    EXPECT_THAT(bench.editor.form.lblMessage.Caption, testing::HasSubstr("labels alone"));
+    bench.drawing.devices.DeviceSelected[0] = -1;
     bench.editor.SymbolPointTaken(1.25f, 1, 0);
     EXPECT_EQ(test::readable(bench.symbols.compiler.SymbolScriptText),
               "Text|K1|0.25|0|0|Arial|8|False|False");

@@ -128,6 +128,10 @@ TEST_F(SavingFormsTest, ASymbolIsSavedUnderAFreeName) {
     EXPECT_EQ(lastBox(), "Symbol Saved");
     EXPECT_EQ(list("User Symbols"), "A B C");
     EXPECT_EQ(tags(), "A B C");
+    EXPECT_EQ(editor.form.lblMessage.Caption, "Symbol Saved. Hit ESC to reset the drawing.");
+    symbols.compiler.SymbolScriptLines = {"Line", ""};
+    compileAndName("D");
+    EXPECT_NE(editor.form.lblMessage.Caption.find("it will draw nothing"), std::string::npos);
 }
 
 TEST_F(SavingFormsTest, ATakenNameIsAskedAbout) {
@@ -149,6 +153,7 @@ TEST_F(SavingFormsTest, WhatCannotBeWrittenStaysInTheForm) {
     machine.files.fail(test::Operation::Replace, {failure::DiskFull, "full"});
     compileAndName("C");
     EXPECT_EQ(machine.reports.size(), 1u);
+    EXPECT_EQ(editor.form.lblMessage.Caption, "The symbol was not saved. full");
     EXPECT_TRUE(symbols.frmUS.Visible);
     EXPECT_EQ(symbols.compiler.SymbolScriptText, "new");
     EXPECT_EQ(list("User Symbols"), "A B");
