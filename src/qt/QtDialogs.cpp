@@ -54,6 +54,19 @@ Answer answerOf(int button, Buttons buttons) {
     }
 }
 
+// A name may be a single word wider than any screen: it is broken where it must be.
+QString breakable(QString text) {
+    constexpr int Longest = 64;
+    int word = 0;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        word = text[i].isSpace() ? 0 : word + 1;
+        if (word <= Longest) continue;
+        text.insert(i, QChar(0x200b));
+        word = 0;
+    }
+    return text;
+}
+
 }  // namespace
 
 bool QtDialogs::turnedAway(std::string_view text) {
@@ -77,7 +90,7 @@ Answer QtDialogs::message(std::string_view text, std::string_view title, Buttons
     box.setIcon(iconOf(buttons));
     box.setTextFormat(Qt::PlainText);
     box.setWindowTitle(toQString(title));
-    box.setText(toQString(text));
+    box.setText(breakable(toQString(text)));
     box.setStandardButtons(buttonsOf(buttons));
     return answerOf(box.exec(), buttons);
 }
@@ -90,7 +103,7 @@ std::optional<std::string> QtDialogs::input(std::string_view prompt, std::string
     box.setObjectName("inputBox");
     box.setWindowTitle(toQString(title));
     box.setMinimumWidth(InputWidth);
-    auto* label = new QLabel(toQString(prompt), &box);
+    auto* label = new QLabel(breakable(toQString(prompt)), &box);
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
     auto* field = new QLineEdit(toQString(value), &box);

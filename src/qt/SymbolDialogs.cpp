@@ -49,6 +49,11 @@ QHBoxLayout* makeButtonRow(std::initializer_list<QPushButton*> buttons) {
     return row;
 }
 
+// What stands in brackets begins a line of its own, and so is not broken in its middle.
+QString bracketsApart(const std::string& caption) {
+    return toQString(caption).replace(QLatin1String(" ("), QLatin1String("\n("));
+}
+
 void showColor(QWidget& widget, Long color) {
     QPalette palette = widget.palette();
     palette.setColor(QPalette::Button, theme::color(color));
@@ -67,7 +72,7 @@ ButtonColorDialog::ButtonColorDialog(Program& program, QWidget* parent)
     cmdBackColor_->setFixedSize(ColorPitch, ColorPitch);
     cmdBackColor_->setFocusPolicy(Qt::NoFocus);
     auto* const lblBackColor = new QLabel(toQString(form.lblBackColor.Caption), this);
-    auto* const lblMessage = new QLabel(toQString(form.lblMessage.Caption), this);
+    auto* const lblMessage = new QLabel(bracketsApart(form.lblMessage.Caption), this);
     lblMessage->setObjectName(QStringLiteral("lblMessage"));
     lblMessage->setForegroundRole(QPalette::PlaceholderText);
     lblMessage->setWordWrap(true);
