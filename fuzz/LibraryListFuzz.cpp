@@ -1,6 +1,7 @@
 // Any bytes as the list of a library that holds the symbols "a" and "b"; the first one chooses
 // whether the list has changed on disk before it is written.
 #include <algorithm>
+#include <array>
 #include <cstdint>
 
 #include "Machine.h"
@@ -12,6 +13,9 @@ using namespace ladrix;
 using Names = std::vector<std::string>;
 
 constexpr std::string_view List = "/d/User Symbols.lib";
+constexpr std::string_view Folder = "/d/User Symbols/";
+constexpr std::array<std::string_view, 6> Present = {"a.uds", "a.bmp", "a_Cyan.bmp",
+                                                     "b.uds", "b.bmp", "B_cyan.bmp"};
 constexpr std::string_view SafetyCopy = "/d/User Symbols/User Symbols.lib";
 
 class OneLibrary final : public fuzz::RefusingFiles {
@@ -21,24 +25,32 @@ class OneLibrary final : public fuzz::RefusingFiles {
     std::vector<FileEntry> list(const std::string& folder) override {
         if (folder == "/d/")
             return {fuzz::entryOf("User Symbols", true), fuzz::entryOf("User Symbols.lib")};
-        fuzz::require(folder == "/d/User Symbols/");
+        fuzz::require(folder == Folder);
         std::vector<FileEntry> entries;
-        for (const char* name : {"a.uds", "a.bmp", "a_Cyan.bmp", "b.uds", "b.bmp", "B_cyan.bmp"})
+        for (const std::string_view name : Present)
             entries.push_back(fuzz::entryOf(name));
         return entries;
     }
     std::optional<FileEntry> status(const std::string& path) override {
-        fuzz::require(path == "/d/User Symbols");
-        return FileEntry{};
+        if (path == "/d/User Symbols") return FileEntry{};
+        return isPresent(path) ? std::optional(FileEntry{}) : std::nullopt;
     }
     std::string read(const std::string& path, std::uintmax_t) override {
         if (path == List) return list_;
-        fuzz::require(path.starts_with("/d/User Symbols/") && path.rfind('/') == 15);
+        if (!isPresent(path)) throw Failure{failure::FileNotFound, "No such file"};
         return "Line:0:0:1:1\r\n";
     }
     void replace(const std::string& path, std::string_view content, bool) override {
         fuzz::require(path == List || path == SafetyCopy);
         (path == List ? list_ : copy_) = content;
+    }
+
+  private:
+    // Whatever the list says, nothing is looked for outside the library's folder.
+    static bool isPresent(std::string_view path) {
+        fuzz::require(path.starts_with(Folder) && path.rfind('/') == Folder.size() - 1);
+        return std::find(Present.begin(), Present.end(), path.substr(Folder.size())) !=
+               Present.end();
     }
 };
 
