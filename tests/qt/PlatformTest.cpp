@@ -124,7 +124,7 @@ TEST(Dialogs, AnUnattendedRunNeverWaits) {
 }
 
 QImage imageOf(const std::shared_ptr<const Picture>& picture) {
-    return dynamic_cast<const QtPicture&>(*picture).image();
+    return dynamic_cast<const QtPicture&>(*picture).image().convertToFormat(QImage::Format_RGB32);
 }
 
 // The own reading of the plain form and the toolkit's of the others see the same pixels.
