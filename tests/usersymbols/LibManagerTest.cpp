@@ -24,9 +24,6 @@ struct LibManagerTest : test::LibraryBench {
         manager.cmbSourceLibrary.Text = file;
         cmdOpen_Click(manager, symbols, editor);
     }
-    std::string script(const std::string& path) const {
-        return disk.read("documents/" + path + ".uds");
-    }
 };
 
 TEST_F(LibManagerTest, TheFormOpensOnTheCurrentLibrary) {
@@ -94,7 +91,7 @@ TEST_F(LibManagerTest, TransfersAskForEachSymbolOfTheSameName) {
         EXPECT_EQ(list("User Symbols"), c.source);
         EXPECT_EQ(list("Other Symbols"), c.destination);
         EXPECT_EQ(script("Other Symbols/B"),
-                  std::string("Line:0:0:0.5:0 of ") + c.scriptOfB + " Symbols\r\n");
+                  std::string("Line:0:0:0.5:0 of ") + c.scriptOfB + " Symbols/B\r\n");
         EXPECT_EQ(lastBox(), c.told);
         EXPECT_EQ(disk.read("documents/Other Symbols/Other Symbols.lib"),
                   disk.read("documents/Other Symbols.lib"))

@@ -4,7 +4,7 @@
 
 #include <map>
 
-#include "SymbolBench.h"
+#include "LibraryBench.h"
 #include "platform/Encoding.h"
 #include "support/FaultyFiles.h"
 
@@ -14,136 +14,104 @@ namespace {
 using test::SymbolBench;
 using test::TemporaryFolder;
 
-// What the fake machine takes for a picture.
-const std::string Bitmap = "BM";
-
-void writeSymbolFiles(const TemporaryFolder& disk, const std::string& library,
-                      const std::string& name, const std::string& mark) {
-    const std::string path = "documents/" + library + "/" + name;
-    disk.write(path + ".uds", "script " + mark);
-    disk.write(path + ".bmp", Bitmap + mark);
-    disk.write(path + "_Cyan.bmp", Bitmap + "cyan " + mark);
-}
-
-void writeLibrary(const TemporaryFolder& disk, const std::string& library,
-                  const std::vector<std::string>& names) {
-    std::string list;
-    disk.makeFolder("documents/" + library);
-    for (const std::string& name : names) {
-        writeSymbolFiles(disk, library, name, name);
-        list += name + "\r\n";
-    }
-    disk.write("documents/" + library + ".lib", list);
-}
-
-struct LibrariesTest : testing::Test {
-    SymbolBench bench;
-    UserSymbols& symbols = bench.symbols;
-    test::FakeDialogs& dialogs = bench.machine.dialogs;
-    const TemporaryFolder& disk = bench.machine.folder;
-
-    std::string list(const std::string& library) const {
+struct LibrariesTest : test::LibraryBench {
+    std::string listText(const std::string& library) const {
         return disk.read("documents/" + library + ".lib");
-    }
-    void load() {
-        ListUserLibraries(symbols, bench.editor);
-        ReloadLibrary(symbols, bench.editor);
     }
     void choose(const std::string& name) {
         const auto& names = symbols.UserSymbolName;
         const auto row = std::find(names.begin(), names.end(), name) - names.begin();
         symbols.ContextButton = static_cast<Short>(symbols.FirstUserButton + row);
     }
-    std::string lastBox() const { return dialogs.boxes.empty() ? "" : dialogs.boxes.back().text; }
 };
 
 TEST_F(LibrariesTest, TheStartFindsLibrariesAndBringsBackTheirLists) {
-    writeLibrary(disk, "zinc Symbols", {"a"});
-    writeLibrary(disk, "User Symbols", {});
-    writeLibrary(disk, "Other Library", {"x"});
-    writeSymbolFiles(disk, "Kept Symbols", "k", "k");
+    write("zinc Symbols", {"a"});
+    write("User Symbols", {});
+    write("Other Library", {"x"});
+    test::writeSymbol(disk, "Kept Symbols", "k");
     disk.write("documents/Kept Symbols/Kept Symbols.lib", "from the safety copy\r\n");
-    writeSymbolFiles(disk, "Lost Symbols", "b", "b");
+    test::writeSymbol(disk, "Lost Symbols", "b");
     disk.write("documents/Lost Symbols/a.uds", "without pictures");
-    ListUserLibraries(symbols, bench.editor);
+    ListUserLibraries(symbols, editor);
     EXPECT_EQ(symbols.LibraryList,
               (std::vector<std::string>{"Kept Symbols.lib", "Lost Symbols.lib", "User Symbols.lib",
                                         "zinc Symbols.lib"}));
     EXPECT_EQ(symbols.LibraryIndex, 2);
-    EXPECT_EQ(list("Kept Symbols"), "from the safety copy\r\n");
-    EXPECT_EQ(list("Lost Symbols"), "a\r\nb\r\n");
-    EXPECT_EQ(bench.notes.size(), 2u);
+    EXPECT_EQ(listText("Kept Symbols"), "from the safety copy\r\n");
+    EXPECT_EQ(listText("Lost Symbols"), "a\r\nb\r\n");
+    EXPECT_EQ(notes.size(), 2u);
 }
 
 TEST_F(LibrariesTest, TheShippedListIsTakenOverButNothingElse) {
-    UpdateOldUserSymbols(symbols, bench.editor);
+    UpdateOldUserSymbols(symbols, editor);
     EXPECT_FALSE(disk.has("documents/User Symbols.lib"));
     disk.write("program/Default User Symbols.lib", "one\r\n");
     disk.write("program/User Symbols/one.uds", "script");
-    UpdateOldUserSymbols(symbols, bench.editor);
-    EXPECT_EQ(list("User Symbols"), "one\r\n");
+    UpdateOldUserSymbols(symbols, editor);
+    EXPECT_EQ(listText("User Symbols"), "one\r\n");
     EXPECT_FALSE(disk.has("documents/User Symbols"));
     disk.write("documents/User Symbols.lib", "mine\r\n");
-    UpdateOldUserSymbols(symbols, bench.editor);
-    EXPECT_EQ(list("User Symbols"), "mine\r\n");
-    EXPECT_TRUE(dialogs.boxes.empty() && bench.machine.reports.empty());
+    UpdateOldUserSymbols(symbols, editor);
+    EXPECT_EQ(listText("User Symbols"), "mine\r\n");
+    EXPECT_TRUE(dialogs.boxes.empty() && machine.reports.empty());
 }
 
 TEST_F(LibrariesTest, AnOldListIsRenamedAndAMissingLibraryIsMarked) {
     disk.write("documents/User Symbol Structure.txt", "old\n");
-    ReadLibraryStructure(symbols, bench.editor);
+    ReadLibraryStructure(symbols, editor);
     EXPECT_TRUE(symbols.LibraryMissing);  // no folder
-    EXPECT_EQ(list("User Symbols"), "old\n");
+    EXPECT_EQ(listText("User Symbols"), "old\n");
     disk.makeFolder("documents/User Symbols");
-    ReadLibraryStructure(symbols, bench.editor);
+    ReadLibraryStructure(symbols, editor);
     EXPECT_FALSE(symbols.LibraryMissing);
     EXPECT_EQ(symbols.LibraryLines, std::vector<std::string>{"old"});
 }
 
 TEST_F(LibrariesTest, WhatIsIncompleteIsSkippedAndWhatIsDamagedStays) {
-    writeLibrary(disk, "User Symbols", {"good", "gone", "damaged", "huge", "LAST"});
+    write("User Symbols", {"good", "gone", "damaged", "huge", "LAST"});
     disk.write("documents/User Symbols/damaged.bmp", "noise");
     disk.write("documents/User Symbols/huge.uds", std::string(LargestScript + 1, 'x'));
-    bench.machine.files.remove(disk / "documents/User Symbols/gone_Cyan.bmp");
-    bench.machine.files.rename(disk / "documents/User Symbols/LAST.uds",
-                               disk / "documents/User Symbols/last.UDS");
+    machine.files.remove(disk / "documents/User Symbols/gone_Cyan.bmp");
+    machine.files.rename(disk / "documents/User Symbols/LAST.uds",
+                         disk / "documents/User Symbols/last.UDS");
     load();
     EXPECT_EQ(symbols.UserSymbolName, (std::vector<std::string>{"good", "damaged", "LAST"}));
-    EXPECT_EQ(symbols.UserSymbolScript[2], "script LAST");
-    EXPECT_EQ(bench.notes.size(), 3u);
-    EXPECT_EQ(bench.machine.reports.size(), 1u);  // the script that is too large
+    EXPECT_EQ(symbols.UserSymbolScript[2], "Line:0:0:0.5:0 of User Symbols/LAST\r\n");
+    EXPECT_EQ(notes.size(), 3u);
+    EXPECT_EQ(machine.reports.size(), 1u);  // the script that is too large
     const PaletteButton& first =
-        bench.editor.form.cmdSym[static_cast<std::size_t>(symbols.FirstUserButton)];
+        editor.form.cmdSym[static_cast<std::size_t>(symbols.FirstUserButton)];
     EXPECT_EQ(first.Tag, "good");
     EXPECT_TRUE(first.Visible && first.UpPicture && first.CyanPicture);
 
-    WriteLibraryStructure(symbols, bench.editor);
-    EXPECT_EQ(list("User Symbols"), "good\r\ndamaged\r\nLAST\r\nhuge\r\n");
-    EXPECT_EQ(disk.read("documents/User Symbols/User Symbols.lib"), list("User Symbols"));
+    WriteLibraryStructure(symbols, editor);
+    EXPECT_EQ(listText("User Symbols"), "good\r\ndamaged\r\nLAST\r\nhuge\r\n");
+    EXPECT_EQ(disk.read("documents/User Symbols/User Symbols.lib"), listText("User Symbols"));
     EXPECT_TRUE(disk.has("documents/User Symbols/gone.uds"));
 }
 
 TEST_F(LibrariesTest, DeletingTheLastSymbolLeavesTheList) {
-    writeLibrary(disk, "User Symbols", {"a", "b"});
+    write("User Symbols", {"a", "b"});
     load();
     choose("a");
-    DeleteUserSymbol(symbols, bench.editor);  // answered No
+    DeleteUserSymbol(symbols, editor);  // answered No
     EXPECT_TRUE(disk.has("documents/User Symbols/a.uds"));
     for (const std::string name : {"a", "b"}) {
         choose(name);
         dialogs.answers = {Answer::Yes};
-        DeleteUserSymbol(symbols, bench.editor);
-        EXPECT_EQ(list("User Symbols"), "b\r\n") << name;
+        DeleteUserSymbol(symbols, editor);
+        EXPECT_EQ(listText("User Symbols"), "b\r\n") << name;
     }
     EXPECT_EQ(symbols.UserSymbolCount, 0);
     EXPECT_EQ(disk.entries("documents/User Symbols"), std::vector<std::string>{"User Symbols.lib"});
     symbols.ContextButton = 91;
-    DeleteUserSymbol(symbols, bench.editor);
+    DeleteUserSymbol(symbols, editor);
     EXPECT_EQ(dialogs.boxes.size(), 3u);
 }
 
 TEST_F(LibrariesTest, RenamingTakesTheFilesAndKeepsTheOrder) {
-    writeLibrary(disk, "User Symbols", {"a", "b", "c"});
+    write("User Symbols", {"a", "b", "c"});
     disk.write("documents/User Symbols/orphan.bmp", "BM");
     load();
     struct Attempt {
@@ -166,27 +134,27 @@ TEST_F(LibrariesTest, RenamingTakesTheFilesAndKeepsTheOrder) {
         dialogs.boxes.clear();
         choose("b");
         dialogs.inputAnswers = {attempt.answer};
-        RenameUserSymbol(symbols, bench.editor);
+        RenameUserSymbol(symbols, editor);
         EXPECT_EQ(lastBox(), attempt.box);
-        EXPECT_EQ(list("User Symbols"), attempt.list) << attempt.answer;
+        EXPECT_EQ(listText("User Symbols"), attempt.list) << attempt.answer;
     }
-    EXPECT_EQ(bench.machine.reports.size(), 2u);
+    EXPECT_EQ(machine.reports.size(), 2u);
     choose("Motor");
     dialogs.inputAnswers = {"MOTOR"};
-    RenameUserSymbol(symbols, bench.editor);
-    EXPECT_EQ(disk.read("documents/User Symbols/MOTOR.uds"), "script b");
+    RenameUserSymbol(symbols, editor);
+    EXPECT_EQ(script("User Symbols/MOTOR"), "Line:0:0:0.5:0 of User Symbols/b\r\n");
     EXPECT_EQ(symbols.UserSymbolName[1], "MOTOR");
     EXPECT_FALSE(disk.has("documents/User Symbols/b.uds") ||
                  disk.has("documents/User Symbols/Motor.bmp"));
 }
 
 TEST_F(LibrariesTest, TransfersStopAtAFullLibraryAndAtASymbolOfTheSameName) {
-    writeLibrary(disk, "User Symbols", {"a", "b"});
-    writeLibrary(disk, "Other Symbols", {"b"});
+    write("User Symbols", {"a", "b"});
+    write("Other Symbols", {"b"});
     load();
     const auto transfer = [&](const std::string& name, Transfer kind) {
         choose(name);
-        TransferUserSymbol(symbols, bench.editor, kind, bench.editor.BasePath, "Other Symbols.lib");
+        TransferUserSymbol(symbols, editor, kind, editor.BasePath, "Other Symbols.lib");
     };
     transfer("b", Transfer::Move);
     EXPECT_EQ(lastBox(), "Symbol transfer failed. Symbol already exists in selected library.");
@@ -195,18 +163,18 @@ TEST_F(LibrariesTest, TransfersStopAtAFullLibraryAndAtASymbolOfTheSameName) {
     EXPECT_EQ(lastBox(), "Symbol library is full. Please select another library.");
     symbols.MaxSymbolsPerLibrary = 2;
     transfer("a", Transfer::Copy);
-    EXPECT_EQ(list("User Symbols"), "a\r\nb\r\n");
-    EXPECT_EQ(list("Other Symbols"), "b\r\na\r\n");
-    EXPECT_EQ(disk.read("documents/Other Symbols/a.uds"), "script a");
+    EXPECT_EQ(listText("User Symbols"), "a\r\nb\r\n");
+    EXPECT_EQ(listText("Other Symbols"), "b\r\na\r\n");
+    EXPECT_EQ(script("Other Symbols/a"), "Line:0:0:0.5:0 of User Symbols/a\r\n");
 }
 
 TEST_F(LibrariesTest, MergingStopsAboveTheLimitAndSkipsClashes) {
-    writeLibrary(disk, "User Symbols", {"a"});
-    writeLibrary(disk, "Other Symbols", {"b", "A", "c"});
-    bench.machine.files.remove(disk / "documents/Other Symbols/c.bmp");
+    write("User Symbols", {"a"});
+    write("Other Symbols", {"b", "A", "c"});
+    machine.files.remove(disk / "documents/Other Symbols/c.bmp");
     load();
     const auto merge = [&] {
-        MergeUserLibrary(symbols, bench.editor, bench.editor.BasePath, "Other Symbols.lib");
+        MergeUserLibrary(symbols, editor, editor.BasePath, "Other Symbols.lib");
     };
     symbols.MaxSymbolsPerLibrary = 3;
     merge();
@@ -215,39 +183,38 @@ TEST_F(LibrariesTest, MergingStopsAboveTheLimitAndSkipsClashes) {
               "maximum allowed which is 3.\r\nPlease open another library and try again later.");
     symbols.MaxSymbolsPerLibrary = 4;
     merge();
-    EXPECT_EQ(list("User Symbols"), "a\r\nb\r\n");
-    EXPECT_EQ(disk.read("documents/User Symbols/a.uds"), "script a");
+    EXPECT_EQ(listText("User Symbols"), "a\r\nb\r\n");
+    EXPECT_EQ(script("User Symbols/a"), "Line:0:0:0.5:0 of User Symbols/a\r\n");
     EXPECT_EQ(symbols.UserSymbolCount, 2);
-    MergeUserLibrary(symbols, bench.editor, bench.editor.BasePath, "No Symbols.lib");
+    MergeUserLibrary(symbols, editor, editor.BasePath, "No Symbols.lib");
     EXPECT_EQ(lastBox(), "Library folder does not exist.");
 }
 
 TEST_F(LibrariesTest, LibrariesAreMadeOpenedAndSteppedThrough) {
-    StepUserLibrary(symbols, bench.editor, 1);
-    EXPECT_EQ(lastBox(), "User library does not exist in " + bench.editor.BasePath);
-    writeLibrary(disk, "User Symbols", {"a"});
+    StepUserLibrary(symbols, editor, 1);
+    EXPECT_EQ(lastBox(), "User library does not exist in " + editor.BasePath);
+    write("User Symbols", {"a"});
     load();
     dialogs.inputAnswers = {"Motor", "Motor", "Lost"};
-    NewUserLibrary(symbols, bench.editor);
+    NewUserLibrary(symbols, editor);
     EXPECT_EQ(lastBox(), "Motor Symbols has been successfully created.");
-    EXPECT_EQ(list("Motor Symbols"), "");
+    EXPECT_EQ(listText("Motor Symbols"), "");
     EXPECT_EQ(symbols.LibraryFile, "Motor Symbols.lib");
-    EXPECT_EQ(bench.editor.form.Caption,
-              "Ladrix - Current Library: Motor Symbols - File Name: Untitled");
-    NewUserLibrary(symbols, bench.editor);
+    EXPECT_EQ(editor.form.Caption, "Ladrix - Current Library: Motor Symbols - File Name: Untitled");
+    NewUserLibrary(symbols, editor);
     EXPECT_EQ(lastBox(), "Symbol Folder Already Exists - Cannot Overwrite");
     disk.write("documents/Lost Symbols.lib", "a\r\n");
-    NewUserLibrary(symbols, bench.editor);
+    NewUserLibrary(symbols, editor);
     EXPECT_EQ(lastBox(), "Symbol File Already Exists - Cannot Overwrite");
-    EXPECT_EQ(list("Lost Symbols"), "a\r\n") << "a list without its folder is not emptied";
-    bench.editor.PreviousTool = 95;
+    EXPECT_EQ(listText("Lost Symbols"), "a\r\n") << "a list without its folder is not emptied";
+    editor.PreviousTool = 95;
     for (const auto& [step, file] : std::vector<std::pair<int, std::string>>{
              {1, "User Symbols.lib"}, {1, "Motor Symbols.lib"}, {-1, "User Symbols.lib"}}) {
-        StepUserLibrary(symbols, bench.editor, step);
+        StepUserLibrary(symbols, editor, step);
         EXPECT_EQ(symbols.LibraryFile, file);
     }
     EXPECT_EQ(symbols.UserSymbolCount, 1);
-    EXPECT_EQ(bench.editor.PreviousTool, -1);
+    EXPECT_EQ(editor.PreviousTool, -1);
 }
 
 // --- Every change, broken off at every change of the disk
@@ -364,8 +331,8 @@ struct Outcome {
 Outcome runBroken(const Change& change, int at, bool kill) {
     SymbolBench bench;
     const TemporaryFolder& disk = bench.machine.folder;
-    writeLibrary(disk, "User Symbols", {"a", "b", "c"});
-    writeLibrary(disk, "Other Symbols", {"x", "y"});
+    test::writeLibrary(disk, "User Symbols", {"a", "b", "c"});
+    test::writeLibrary(disk, "Other Symbols", {"x", "y"});
     ListUserLibraries(bench.symbols, bench.editor);
     ReloadLibrary(bench.symbols, bench.editor);
     int calls = 0;

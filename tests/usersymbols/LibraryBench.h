@@ -1,5 +1,4 @@
-// Libraries on disk for the tests of the palette, the manager and the search: short symbols by
-// name, and the folders as text to compare.
+// Libraries on disk: short symbols by name, and the folders as text to compare.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -7,39 +6,38 @@
 #include <string>
 #include <vector>
 
-#include "canvas/PaletteButtons.h"
-#include "support/FakePlatform.h"
-#include "usersymbols/Libraries.h"
+#include "SymbolBench.h"
 
 namespace ladrix::test {
 
-struct LibraryBench : testing::Test {
-    FakePlatform machine;
-    Editor editor{machine.platform};
-    UserSymbols symbols;
+// A symbol's three files tell whose they are, so that each shows where it came from.
+inline void writeSymbol(const TemporaryFolder& disk, const std::string& library,
+                        const std::string& name) {
+    const std::string path = "documents/" + library + "/" + name;
+    disk.write(path + ".uds", "Line:0:0:0.5:0 of " + library + "/" + name + "\r\n");
+    disk.write(path + ".bmp", "BM " + library + name);
+    disk.write(path + "_Cyan.bmp", "BM cyan " + library + name);
+}
+
+inline void writeLibrary(const TemporaryFolder& disk, const std::string& library,
+                         const std::vector<std::string>& names) {
+    std::string list;
+    disk.makeFolder("documents/" + library);
+    for (const std::string& name : names) {
+        writeSymbol(disk, library, name);
+        list += name + "\r\n";
+    }
+    disk.write("documents/" + library + ".lib", list);
+}
+
+struct LibraryBench : testing::Test, SymbolBench {
     FakeDialogs& dialogs = machine.dialogs;
     const TemporaryFolder& disk = machine.folder;
 
-    LibraryBench() {
-        editor.AppFilePath = machine.folder / "program/";
-        editor.BasePath = machine.folder / "documents/";
-        LoadDeviceButtons(editor);
-        LoadLibraryButtons(editor, Library::NEMA);
-        selectLibrary(symbols, editor, editor.BasePath, DefaultLibraryFile);
-    }
+    LibraryBench() { LoadLibraryButtons(editor, Library::NEMA); }
 
-    // Each file holds its library's name, so that it shows where it came from.
     void write(const std::string& library, const std::vector<std::string>& names) {
-        std::string list;
-        disk.makeFolder("documents/" + library);
-        for (const std::string& name : names) {
-            const std::string path = "documents/" + library + "/" + name;
-            disk.write(path + ".uds", "Line:0:0:0.5:0 of " + library + "\r\n");
-            disk.write(path + ".bmp", "BM " + library + name);
-            disk.write(path + "_Cyan.bmp", "BM cyan " + library + name);
-            list += name + "\r\n";
-        }
-        disk.write("documents/" + library + ".lib", list);
+        writeLibrary(disk, library, names);
     }
 
     void load() {
@@ -62,6 +60,10 @@ struct LibraryBench : testing::Test {
         return names;
     }
 
+    // The file of a listed or unlisted symbol: "User Symbols/A".
+    std::string script(const std::string& symbol) const {
+        return disk.read("documents/" + symbol + ".uds");
+    }
     // The scripts in the folder, listed or not.
     std::string scripts(const std::string& library) const {
         std::string names;
