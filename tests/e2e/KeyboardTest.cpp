@@ -15,25 +15,16 @@ struct KeyboardTest : testing::Test {
         const QKeyCombination pressed = keys[0];
         Journey::key(pressed.key(), pressed.keyboardModifiers());
     }
-    // From here on the entry does nothing but tell that it was chosen.
-    void listenTo(const Command& row) {
-        auto& entry = journey.find<QAction>(std::string(row.name).c_str());
-        entry.disconnect();
-        entry.setEnabled(true);
-        QObject::connect(&entry, &QAction::triggered, &entry,
-                         [this, name = std::string(row.name)] { chosen.push_back(name); });
-    }
+    // From here on the entries with shortcuts do nothing but tell that they were chosen.
     void listenToAll() {
-        for (const Command& row : commandTable())
-            if (!row.shortcut.empty()) listenTo(row);
-    }
-    // Two grounds, selected.
-    void selectGrounds() {
-        journey.press("Ground");
-        journey.clickPage(2, 2);
-        journey.clickPage(4, 2);
-        Journey::key(Qt::Key_Escape);
-        Journey::key(Qt::Key_A, Qt::ControlModifier);
+        for (const Command& row : commandTable()) {
+            if (row.shortcut.empty()) continue;
+            auto& entry = journey.find<QAction>(std::string(row.name).c_str());
+            entry.disconnect();
+            entry.setEnabled(true);
+            QObject::connect(&entry, &QAction::triggered, &entry,
+                             [this, name = std::string(row.name)] { chosen.push_back(name); });
+        }
     }
 
     Home home;
@@ -64,37 +55,31 @@ TEST_F(KeyboardTest, EveryShortcutOfTheTableChoosesItsEntryAndNoOther) {
 }
 
 TEST_F(KeyboardTest, TheFormsOwnKeysAct) {
-    struct Case {
-        QKeySequence keys;
-        std::function<bool()> acted;
+    const std::pair<const char*, Long> colors[] = {
+        {"Ctrl+Alt+R", Red},    {"Ctrl+B", Black},
+        {"Ctrl+Alt+G", 0xFF00}, {"Ctrl+Alt+Y", 0xFFFF},
+        {"Ctrl+Alt+C", Cyan},   {"Ctrl+Alt+M", Magenta},
+        {"Ctrl+Alt+U", Blue},   {"Ctrl+Alt+V", RGB(128, 0, 128)},
+        {"Ctrl+Alt+B", Black}};
+    for (const auto& [keys, color] : colors) {
+        press(QKeySequence(keys));
+        EXPECT_EQ(editor.CurrentColor, color) << keys;
+    }
+    const auto lowest = [this] { return editor.PageHeight - editor.VisibleHeight - 0.01f; };
+    const std::pair<const char*, std::function<bool()>> views[] = {
+        {"Ctrl+Left", [this] { return editor.SnapStep == 0.125f; }},
+        {"Ctrl+Right", [this] { return editor.SnapStep == 0.25f; }},
+        {"Ctrl+=", [this] { return editor.ZoomStepCount == 1; }},
+        {"Ctrl+Shift++", [this] { return editor.ZoomStepCount == 2; }},
+        {"Ctrl+-", [this] { return editor.ZoomStepCount == 1; }},
+        {"PgDown", [this] { return editor.ScaleTop > 1; }},
+        {"PgUp", [this] { return editor.ScaleTop == 0; }},
+        {"Ctrl+End", [&] { return editor.ScaleTop > lowest(); }},
+        {"Ctrl+Home", [this] { return editor.ScaleTop == 0; }},
     };
-    const auto colored = [this](Long color) {
-        return [this, color] { return editor.CurrentColor == color; };
-    };
-    const Case cases[] = {
-        {QKeySequence("Ctrl+Alt+R"), colored(Red)},
-        {QKeySequence("Ctrl+B"), colored(Black)},
-        {QKeySequence("Ctrl+Alt+G"), colored(0xFF00)},
-        {QKeySequence("Ctrl+Alt+Y"), colored(0xFFFF)},
-        {QKeySequence("Ctrl+Alt+C"), colored(Cyan)},
-        {QKeySequence("Ctrl+Alt+M"), colored(Magenta)},
-        {QKeySequence("Ctrl+Alt+U"), colored(Blue)},
-        {QKeySequence("Ctrl+Alt+V"), colored(RGB(128, 0, 128))},
-        {QKeySequence("Ctrl+Alt+B"), colored(Black)},
-        {QKeySequence("Ctrl+Left"), [this] { return editor.SnapStep == 0.125f; }},
-        {QKeySequence("Ctrl+Right"), [this] { return editor.SnapStep == 0.25f; }},
-        {QKeySequence("Ctrl+="), [this] { return editor.ZoomStepCount == 1; }},
-        {QKeySequence("Ctrl+Shift++"), [this] { return editor.ZoomStepCount == 2; }},
-        {QKeySequence("Ctrl+-"), [this] { return editor.ZoomStepCount == 1; }},
-        {QKeySequence("PgDown"), [this] { return editor.ScaleTop > 1; }},
-        {QKeySequence("PgUp"), [this] { return editor.ScaleTop == 0; }},
-        {QKeySequence("Ctrl+End"),
-         [this] { return editor.ScaleTop > editor.PageHeight - editor.VisibleHeight - 0.01f; }},
-        {QKeySequence("Ctrl+Home"), [this] { return editor.ScaleTop == 0; }},
-    };
-    for (const Case& c : cases) {
-        press(c.keys);
-        EXPECT_TRUE(c.acted()) << c.keys.toString().toStdString();
+    for (const auto& [keys, acted] : views) {
+        press(QKeySequence(keys));
+        EXPECT_TRUE(acted()) << keys;
     }
     journey.press("Line");
     const Short line = editor.CurrentTool;
@@ -106,13 +91,16 @@ TEST_F(KeyboardTest, TheFormsOwnKeysAct) {
     Journey::key(Qt::Key_Escape);
     EXPECT_EQ(editor.CurrentTool, -1);
 
-    selectGrounds();
+    journey.press("Ground");
+    journey.clickPage(4, 2);
+    Journey::key(Qt::Key_Escape);
+    Journey::key(Qt::Key_A, Qt::ControlModifier);
     Journey::key(Qt::Key_Right, Qt::ShiftModifier);
-    EXPECT_EQ(editor.drawing.devices.DeviceX[1], 4.25f);
+    EXPECT_EQ(editor.drawing.devices.DeviceX.at(0), 4.25f);
     Journey::key(Qt::Key_Delete);
     EXPECT_EQ(editor.drawing.devices.DeviceCount, 0);
     Journey::key(Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(editor.drawing.devices.DeviceX.at(1), 4.25f);
+    EXPECT_EQ(editor.drawing.devices.DeviceX.at(0), 4.25f);
 }
 
 TEST_F(KeyboardTest, AFieldKeepsTheKeysThatEditItsText) {

@@ -10,7 +10,6 @@
 namespace ladrix::test {
 namespace {
 
-using testing::HasSubstr;
 using testing::StartsWith;
 
 constexpr auto Ready =
@@ -113,37 +112,6 @@ TEST_F(ToolsTest, TheReadOutTellsWhereTheNextPointWillBe) {
     EXPECT_EQ(journey.textOf("lblCoords"), "2, 3");
 }
 
-TEST_F(ToolsTest, TheMessageGuideLeadsThroughEachTool) {
-    journey.press("Line");
-    EXPECT_EQ(journey.message(), "Line Selected - Click a start point or press ESC to end.");
-    journey.clickPage(1, 1);
-    EXPECT_THAT(journey.message(), StartsWith("Continuing with Line Control."));
-    journey.press("Square");
-    journey.clickPage(1, 1);
-    EXPECT_THAT(journey.message(), StartsWith("Continuing with Square."));
-    journey.clickPage(2, 2);
-    EXPECT_THAT(journey.message(), StartsWith("End point for Square found."));
-    journey.press("Arc Up");
-    EXPECT_THAT(journey.message(), HasSubstr("start and end point in degrees, click a location."));
-    EXPECT_TRUE(journey.find("txtCircleEnd").isVisible());
-    EXPECT_EQ(journey.textOf("txtCircleStart"), "360.0");
-    journey.press("Large Circle");
-    EXPECT_THAT(journey.message(), HasSubstr("After editing the radius, click a location."));
-    EXPECT_TRUE(journey.find("txtRadius").isVisible());
-    EXPECT_FALSE(journey.find("txtCircleEnd").isVisible());
-    journey.press("Text");
-    journey.moveOnPage(3, 3);
-    EXPECT_THAT(journey.message(), StartsWith("Text edit area has the focus."));
-    Journey::type("A");
-    EXPECT_EQ(journey.message(), "Type desired text and press ENTER. Press Esc when finished.");
-    journey.clickPage(3, 3);
-    EXPECT_THAT(journey.message(), StartsWith("Continuing with Text Selection"));
-    journey.press("Lamp");
-    EXPECT_THAT(journey.message(), HasSubstr("type a name for the device if applicable."));
-    Journey::click(journey.find("cmdReset"));
-    EXPECT_EQ(journey.message(), Ready);
-}
-
 TEST_F(ToolsTest, TheTextBoxStandsBesideItsCaptionInAnyWidth) {
     journey.press("Text");
     journey.moveOnPage(3, 3);
@@ -159,30 +127,6 @@ TEST_F(ToolsTest, TheTextBoxStandsBesideItsCaptionInAnyWidth) {
         widest = std::max(widest, box.width());
     }
     EXPECT_LE(widest, 400);
-}
-
-TEST_F(ToolsTest, TheOrientationChosenInTheFlyOutIsPlaced) {
-    const Short capacitor = journey.indexOf("Capacitor");
-    PaletteWidget& palette = journey.window().palette();
-    auto& flyOut = journey.find("picMoreSym");
-    std::vector<QImage> placed;
-    for (const int variant : {0, 1, 2, 3}) {
-        Journey::move(palette, palette.buttonRect(capacitor).center());
-        ASSERT_TRUE(flyOut.isVisible());
-        const int cell = flyOut.height() / 4;
-        Journey::click(flyOut, QPoint(flyOut.width() / 2, variant * cell + cell / 2));
-        EXPECT_FALSE(flyOut.isVisible());
-        journey.clickPage(2 + variant, 3);
-        ASSERT_EQ(devices().DeviceCount, variant + 1);
-        EXPECT_EQ(devices().DeviceOrientation.back(), variant);
-        Journey::key(Qt::Key_Escape);
-    }
-    for (int variant = 0; variant < 4; ++variant)
-        placed.push_back(journey.picture().copy(
-            QRect(journey.at(1.5 + variant, 2.5), journey.at(2.5 + variant, 3.5))));
-    EXPECT_NE(placed[0], placed[1]);
-    EXPECT_NE(placed[0], placed[2]);
-    EXPECT_NE(placed[1], placed[3]);
 }
 
 TEST_F(ToolsTest, EveryLibraryShowsItsPaletteAndPlacesItsFirstSymbol) {
