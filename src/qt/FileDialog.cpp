@@ -4,6 +4,7 @@
 #include <QComboBox>
 #include <QGridLayout>
 #include <QGroupBox>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -75,6 +76,8 @@ FileDialog::FileDialog(Program& program, QWidget* parent)
     connectList(sheet_);
     makeShortcuts();
     setTabOrders();
+    for (QWidget* const widget : findChildren<QWidget*>())
+        if (widget->focusPolicy() != Qt::NoFocus) widget->installEventFilter(this);
 }
 
 QWidget* FileDialog::makePrompt() {
@@ -317,6 +320,17 @@ void FileDialog::setTabOrders() {
                               options_,       cmdNewFolder_,  cmdUp_};
     for (std::size_t i = 1; i < std::size(order); ++i)
         setTabOrder(order[i - 1], order[i]);
+}
+
+// Enter that is held down acts once: the focus goes on to other controls, which it is not meant
+// for.
+bool FileDialog::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::KeyPress) {
+        const auto* const press = static_cast<QKeyEvent*>(event);
+        const bool enter = press->key() == Qt::Key_Return || press->key() == Qt::Key_Enter;
+        if (enter && press->isAutoRepeat()) return true;
+    }
+    return QDialog::eventFilter(watched, event);
 }
 
 int FileDialog::run() {

@@ -35,6 +35,9 @@ class FileDialog final : public QDialog {
 
     void reject() override;
 
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
   private:
     QWidget* makePrompt();
     QWidget* makeTop();

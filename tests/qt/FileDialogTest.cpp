@@ -175,7 +175,11 @@ TEST_F(FileDialogTest, ThePathCanBeClickedAndTyped) {
             EXPECT_EQ(named<QWidget>(dialog, "lblNote").property("text").toString(),
                       "nowhere: No such folder");
         }
-        named<QTreeView>(dialog, "FileList1").setFocus();
+        QTreeView& list = named<QTreeView>(dialog, "FileList1");
+        list.setFocus();
+        QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QString(), true);
+        QCoreApplication::sendEvent(&list, &held);
+        ASSERT_TRUE(dialog.isVisible()) << "nor does Enter while it is held down";
         press(Qt::Key_Up);
         EXPECT_EQ(named<QWidget>(dialog, "lblNote").property("text").toString(), "");
     });
