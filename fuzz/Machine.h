@@ -9,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/Platform.h"
+#include "platform/SilentDialogs.h"
 
 namespace ladrix::fuzz {
 
@@ -54,7 +54,7 @@ inline FileEntry entryOf(std::string_view name, bool isFolder = false) {
 }
 
 // Answers every question alike and keeps what it was told last.
-class SilentDialogs final : public Dialogs {
+class ToldLast final : public SilentDialogs {
   public:
     Answer answer = Answer::Ok;
     std::string told;
@@ -63,17 +63,10 @@ class SilentDialogs final : public Dialogs {
         told = text;
         return answer;
     }
-    std::optional<std::string> input(std::string_view, std::string_view,
-                                     std::string_view) override {
-        return std::nullopt;
-    }
-    void show(Form) override {}
-    void open(Form) override {}
-    void popUp(std::string_view) override {}
 };
 
 struct Machine {
-    SilentDialogs dialogs;
+    ToldLast dialogs;
     int reports = 0;
     Platform platform;
 

@@ -5,25 +5,13 @@
 #include "canvas/DrawingIO.h"
 #include "document/DrawingFile.h"
 #include "document/Records.h"
+#include "platform/SilentDialogs.h"
 
 namespace ladrix {
 
 namespace {
 
-// Nobody waits for a small preview: what would be told is dropped.
-class SilentDialogs final : public Dialogs {
-  public:
-    Answer message(std::string_view, std::string_view, Buttons) override { return Answer::Cancel; }
-    std::optional<std::string> input(std::string_view, std::string_view,
-                                     std::string_view) override {
-        return std::nullopt;
-    }
-    void show(Form) override {}
-    void open(Form) override {}
-    void popUp(std::string_view) override {}
-};
-
-// Runs the steps on a platform that tells nobody anything.
+// Runs the steps on a platform that tells nobody anything: nobody waits for a small preview.
 template <class Steps>
 void quietly(const Platform& platform, const Steps& steps) {
     SilentDialogs silence;

@@ -15,6 +15,7 @@
 #include "platform/DiskFiles.h"
 #include "platform/Encoding.h"
 #include "platform/Numbers.h"
+#include "platform/SilentDialogs.h"
 #include "qt/PageFile.h"
 #include "qt/QtFonts.h"
 #include "qt/QtImages.h"
@@ -111,7 +112,7 @@ PageFormat formatOf(const std::string& output) {
 }
 
 // Nobody is asked and nothing is shown: what the core tells is kept.
-class KeptMessages final : public Dialogs {
+class KeptMessages final : public SilentDialogs {
   public:
     std::vector<std::string> told;
 
@@ -119,13 +120,6 @@ class KeptMessages final : public Dialogs {
         told.emplace_back(text);
         return Answer::Ok;
     }
-    std::optional<std::string> input(std::string_view, std::string_view,
-                                     std::string_view) override {
-        return std::nullopt;
-    }
-    void show(Form) override {}
-    void open(Form) override {}
-    void popUp(std::string_view) override {}
 };
 
 // Routines for free lines set properties of the canvas, whatever they draw on.
