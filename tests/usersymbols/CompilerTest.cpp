@@ -135,7 +135,9 @@ TEST(CompilerTest, TextsFollowTheDevicesAndNumbersTakeTheLocalesMark) {
     label.fontSize = 8.25f;
     label.bold = true;
     select(bench, label);
-    bench.drawing.devices.append(device("InsertGround", 5, 5));  // not selected
+    label.text = "K2";
+    bench.drawing.labels.append(label);  // not selected, as the next
+    bench.drawing.devices.append(device("InsertGround", 5, 5));
     compileAt(bench, 1, 1, ',');
     EXPECT_EQ(test::readable(bench.symbols.compiler.SymbolScriptText),
               "\nLine|0|0|1,3334|0\nText|K1|0,5|-0,25|255|Arial|8,25|True|False");
