@@ -43,6 +43,7 @@ class FileDialogTest : public testing::Test {
     FileDialogTest() {
         fake.folder.makeFolder("drawings");
         program.paths.DrawingsPath = fake.folder / "drawings/";
+        program.paths.DataFilesPath = fake.folder.path();
         program.editor.drawing.TempFolder = fake.folder / "program/";
     }
 
