@@ -46,7 +46,7 @@ inline void checkPictures(const Drawing& drawing) {
     }
 }
 
-inline bool sameDevices(const DeviceTable& a, const DeviceTable& b) {
+inline bool same(const DeviceTable& a, const DeviceTable& b) {
     return a.DeviceName == b.DeviceName && a.DeviceX == b.DeviceX && a.DeviceY == b.DeviceY &&
            a.DeviceX2 == b.DeviceX2 && a.DeviceY2 == b.DeviceY2 &&
            a.DeviceRadius == b.DeviceRadius && a.DeviceDirection == b.DeviceDirection &&
@@ -57,7 +57,7 @@ inline bool sameDevices(const DeviceTable& a, const DeviceTable& b) {
            a.DeviceFlip == b.DeviceFlip;
 }
 
-inline bool sameLabels(const LabelTable& a, const LabelTable& b) {
+inline bool same(const LabelTable& a, const LabelTable& b) {
     return a.LabelText == b.LabelText && a.LabelX == b.LabelX && a.LabelY == b.LabelY &&
            a.LabelColor == b.LabelColor && a.LabelFontName == b.LabelFontName &&
            a.LabelFontSize == b.LabelFontSize && a.LabelBold == b.LabelBold &&
@@ -76,34 +76,43 @@ inline bool sameBesidesNumbers(const LabelTable& a, const LabelTable& b) {
            a.LabelBold == b.LabelBold && a.LabelItalic == b.LabelItalic;
 }
 
+// One of a drawing's tables, the text it is kept in, and what writes and reads it.
+template <class Table>
+struct Section {
+    Table& table;
+    std::string& text;
+    void (*write)(Drawing&, const Platform&);
+    void (*read)(Drawing&, const Platform&);
+    void (*check)(const Drawing&);
+};
+
 // The first writing rounds numbers to seven digits; from then on nothing may change any more. Where
 // the second one gives the same text, its reading would give the same table.
+template <class Table>
+void checkRewriting(Drawing& drawing, const Platform& platform, const Section<Table>& section) {
+    const Table first = section.table;
+    section.write(drawing, platform);
+    section.read(drawing, platform);
+    require(sameBesidesNumbers(section.table, first));
+    const std::string written = section.text;
+    section.write(drawing, platform);
+    if (section.text == written) return;
+    const Table table = section.table;
+    section.read(drawing, platform);
+    section.check(drawing);
+    require(same(section.table, table));
+}
+
 inline void checkDeviceRewriting(Drawing& drawing, const Platform& platform) {
-    const DeviceTable first = drawing.devices;
-    RebuildDeviceString(drawing, platform);
-    ParseDeviceString(drawing, platform);
-    require(sameBesidesNumbers(drawing.devices, first));
-    const std::string written = drawing.DeviceString;
-    RebuildDeviceString(drawing, platform);
-    if (drawing.DeviceString == written) return;
-    const DeviceTable table = drawing.devices;
-    ParseDeviceString(drawing, platform);
-    checkDevices(drawing);
-    require(sameDevices(drawing.devices, table));
+    checkRewriting(drawing, platform,
+                   Section<DeviceTable>{drawing.devices, drawing.DeviceString, RebuildDeviceString,
+                                        ParseDeviceString, checkDevices});
 }
 
 inline void checkLabelRewriting(Drawing& drawing, const Platform& platform) {
-    const LabelTable first = drawing.labels;
-    RebuildLabelString(drawing, platform);
-    ParseLabelString(drawing, platform);
-    require(sameBesidesNumbers(drawing.labels, first));
-    const std::string written = drawing.LabelString;
-    RebuildLabelString(drawing, platform);
-    if (drawing.LabelString == written) return;
-    const LabelTable table = drawing.labels;
-    ParseLabelString(drawing, platform);
-    checkLabels(drawing);
-    require(sameLabels(drawing.labels, table));
+    checkRewriting(drawing, platform,
+                   Section<LabelTable>{drawing.labels, drawing.LabelString, RebuildLabelString,
+                                       ParseLabelString, checkLabels});
 }
 
 }  // namespace ladrix::fuzz

@@ -16,13 +16,6 @@ using Folders = std::vector<std::string>;
 
 constexpr std::size_t MostGestures = 16;
 
-std::string fileOf(const Folders& folders) {
-    std::string text;
-    for (const std::string& folder : folders)
-        text += folder + "\r\n";
-    return text;
-}
-
 class Session {
   public:
     Session() { editor_.AppFilePath = "/program/"; }
@@ -54,7 +47,7 @@ class Session {
         fuzz::require(file() == content && machine_.reports == 0);
         for (const std::string& folder : expected_)
             fuzz::require(!folder.empty() && folder.find('\n') == std::string::npos);
-        file() = fileOf(expected_);
+        file() = fuzz::linesText(expected_);
         ReadFavorites(favorites_, editor_);
         fuzz::require(favorites_.FavoriteFolders == expected_);
     }
@@ -121,7 +114,7 @@ class Session {
         if (files_.full) {
             fuzz::require(file() == before && machine_.reports == reports + 1);
         } else {
-            fuzz::require(file() == fileOf(expected_));
+            fuzz::require(file() == fuzz::linesText(expected_));
             changed_ = false;
         }
     }
@@ -144,7 +137,7 @@ class Session {
         const auto before = file();
         fuzz::require(frmFavorites_QueryUnload(form_, favorites_, browser_, editor_));
         fuzz::require(file() == before && !favorites_.FavoritesChanged);
-        fuzz::require(fileOf(favorites_.FavoriteFolders) == *file());
+        fuzz::require(fuzz::linesText(favorites_.FavoriteFolders) == *file());
         // Nothing is kept, so that what a run has lost is seen.
         favorites_ = Favorites();
         form_ = FavoritesForm();

@@ -53,6 +53,14 @@ inline FileEntry entryOf(std::string_view name, bool isFolder = false) {
     return entry;
 }
 
+// A file of lines, each with its end.
+inline std::string linesText(const std::vector<std::string>& lines) {
+    std::string text;
+    for (const std::string& line : lines)
+        text.append(line).append("\r\n");
+    return text;
+}
+
 // Answers every question alike and keeps what it was told last.
 class ToldLast final : public SilentDialogs {
   public:

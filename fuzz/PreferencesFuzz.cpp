@@ -18,13 +18,6 @@ constexpr std::array Settings = {Setting::PrinterName, Setting::PrinterNumber,
                                  Setting::DashSpacing};
 constexpr std::size_t TagLength = 15;
 
-std::string textOf(const std::vector<std::string>& lines) {
-    std::string text;
-    for (const std::string& line : lines)
-        text += line + "\r\n";
-    return text;
-}
-
 class Session {
   public:
     Session() {
@@ -96,7 +89,7 @@ class Session {
             fuzz::require(files_.content(file) == input.text);
             fuzz::require(files_.content(Spare) == input.text && files_.content(Log));
         } else {
-            fuzz::require(files_.content(file) == textOf(lines) && !files_.content(Spare));
+            fuzz::require(files_.content(file) == fuzz::linesText(lines) && !files_.content(Spare));
             readBack(lines, setting, value);
         }
     }
