@@ -7,11 +7,11 @@
 #include "EditorWindow.h"
 #include "FullDrawing.h"
 #include "Measure.h"
-#include "canvas/Pointer.h"
-#include "canvas/Selection.h"
-#include "canvas/Undo.h"
-#include "canvas/View.h"
-#include "canvas/Zoom.h"
+#include "canvas/gestures/Pointer.h"
+#include "canvas/gestures/Selection.h"
+#include "canvas/history/Undo.h"
+#include "canvas/view/View.h"
+#include "canvas/view/Zoom.h"
 #include "document/Records.h"
 
 namespace {

@@ -11,7 +11,7 @@
 #include "EditorWindow.h"
 #include "FullDrawing.h"
 #include "Measure.h"
-#include "canvas/DrawingCommands.h"
+#include "canvas/file/DrawingCommands.h"
 #include "document/DrawingFile.h"
 
 namespace {

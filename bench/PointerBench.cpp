@@ -6,7 +6,7 @@
 #include "EditorWindow.h"
 #include "FullDrawing.h"
 #include "Measure.h"
-#include "canvas/Tools.h"
+#include "canvas/tools/Tools.h"
 
 namespace {
 

@@ -7,8 +7,8 @@
 #include "EditorWindow.h"
 #include "FullDrawing.h"
 #include "Measure.h"
-#include "canvas/Labels.h"
-#include "canvas/Tools.h"
+#include "canvas/labels/Labels.h"
+#include "canvas/tools/Tools.h"
 #include "document/Records.h"
 
 namespace {

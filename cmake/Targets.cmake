@@ -24,10 +24,11 @@ if(LADRIX_FUZZ)
   target_link_options(ladrix_options INTERFACE -fsanitize=address,undefined)
 endif()
 
-# ladrix_library(name [DEPENDS ...]): all sources of the calling folder, includes relative to src/.
+# ladrix_library(name [DEPENDS ...]): all sources of the calling folder and the folders in it,
+# includes relative to src/.
 function(ladrix_library name)
   cmake_parse_arguments(ARG "" "" "DEPENDS" ${ARGN})
-  file(GLOB sources CONFIGURE_DEPENDS
+  file(GLOB_RECURSE sources CONFIGURE_DEPENDS
     ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/*.h)
   if(NOT sources)  # a target must have a source, even before its folder has one
     file(CONFIGURE OUTPUT empty.cpp CONTENT "")

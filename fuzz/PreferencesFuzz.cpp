@@ -7,7 +7,7 @@
 #include <cstdint>
 
 #include "FewFiles.h"
-#include "canvas/LineTool.h"
+#include "canvas/tools/LineTool.h"
 
 namespace {
 

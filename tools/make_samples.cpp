@@ -6,7 +6,7 @@
 
 #include "SampleSymbols.h"
 #include "ToolMachine.h"
-#include "canvas/Editor.h"
+#include "canvas/state/Editor.h"
 #include "document/DrawingFile.h"
 #include "platform/DiskFiles.h"
 #include "qt/QtImages.h"

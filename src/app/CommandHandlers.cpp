@@ -1,9 +1,9 @@
 #include "app/CommandHandlers.h"
 
 #include "app/FailureLog.h"
-#include "canvas/DrawingCommands.h"
-#include "canvas/Redraw.h"
-#include "canvas/View.h"
+#include "canvas/file/DrawingCommands.h"
+#include "canvas/view/Redraw.h"
+#include "canvas/view/View.h"
 #include "document/Records.h"
 #include "help/HelpCommands.h"
 

@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "app/Program.h"
-#include "canvas/MenuEntries.h"
+#include "canvas/state/MenuEntries.h"
 
 namespace ladrix {
 

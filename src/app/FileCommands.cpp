@@ -1,7 +1,7 @@
 #include "app/FileCommands.h"
 
 #include "app/Preferences.h"
-#include "canvas/Pictures.h"
+#include "canvas/file/Pictures.h"
 #include "usersymbols/UserPalette.h"
 
 namespace ladrix {

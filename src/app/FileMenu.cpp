@@ -4,8 +4,8 @@
 #include <utility>
 
 #include "app/RecentFiles.h"
-#include "canvas/DrawingCommands.h"
-#include "canvas/SaveGuard.h"
+#include "canvas/file/DrawingCommands.h"
+#include "canvas/file/SaveGuard.h"
 #include "document/BackupCopies.h"
 
 namespace ladrix {

@@ -1,6 +1,6 @@
 #include "app/LibraryCommands.h"
 
-#include "canvas/Redraw.h"
+#include "canvas/view/Redraw.h"
 #include "simulation/Simulation.h"
 #include "usersymbols/Compiler.h"
 #include "usersymbols/Libraries.h"

@@ -1,7 +1,7 @@
 #include "app/LineOptions.h"
 
 #include "app/Preferences.h"
-#include "canvas/LineTool.h"
+#include "canvas/tools/LineTool.h"
 #include "platform/Numbers.h"
 
 namespace ladrix {

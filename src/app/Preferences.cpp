@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "app/FailureLog.h"
-#include "canvas/LineTool.h"
+#include "canvas/tools/LineTool.h"
 #include "platform/Files.h"
 #include "platform/Numbers.h"
 

@@ -1,8 +1,8 @@
 #include "app/Program.h"
 
 #include "app/FailureLog.h"
-#include "canvas/Labels.h"
-#include "canvas/Undo.h"
+#include "canvas/history/Undo.h"
+#include "canvas/labels/Labels.h"
 #include "output/PrinterForms.h"
 #include "usersymbols/Compiler.h"
 #include "usersymbols/Script.h"

@@ -7,7 +7,7 @@
 
 #include "app/FailureLog.h"
 #include "app/Program.h"
-#include "canvas/DrawingCommands.h"
+#include "canvas/file/DrawingCommands.h"
 
 namespace ladrix {
 

@@ -6,7 +6,7 @@
 #include "browser/BrowserFolders.h"
 #include "browser/FormState.h"
 #include "browser/PreferencesCopy.h"
-#include "canvas/DrawingCommands.h"
+#include "canvas/file/DrawingCommands.h"
 #include "platform/Encoding.h"
 
 namespace ladrix {

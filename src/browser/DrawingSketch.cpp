@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "canvas/DrawingIO.h"
+#include "canvas/file/DrawingIO.h"
 #include "document/DrawingFile.h"
 #include "document/Records.h"
 #include "platform/SilentDialogs.h"

@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-#include "canvas/Editor.h"
+#include "canvas/state/Editor.h"
 #include "document/PageLayout.h"
 
 namespace ladrix {

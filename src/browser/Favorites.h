@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "canvas/Controls.h"
-#include "canvas/Editor.h"
+#include "canvas/state/Controls.h"
+#include "canvas/state/Editor.h"
 
 namespace ladrix {
 

@@ -8,8 +8,8 @@
 #include "browser/Favorites.h"
 #include "browser/FormState.h"
 #include "browser/PreferencesCopy.h"
-#include "canvas/DrawingCommands.h"
-#include "canvas/Pictures.h"
+#include "canvas/file/DrawingCommands.h"
+#include "canvas/file/Pictures.h"
 
 namespace ladrix {
 

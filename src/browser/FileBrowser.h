@@ -9,8 +9,8 @@
 
 #include "browser/BrowserModes.h"
 #include "browser/FileList.h"
-#include "canvas/Controls.h"
-#include "canvas/Editor.h"
+#include "canvas/state/Controls.h"
+#include "canvas/state/Editor.h"
 #include "platform/Files.h"
 
 namespace ladrix {

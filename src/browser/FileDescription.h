@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "canvas/Editor.h"
+#include "canvas/state/Editor.h"
 
 namespace ladrix {
 

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "browser/BrowserSaving.h"
-#include "canvas/DrawingCommands.h"
+#include "canvas/file/DrawingCommands.h"
 #include "document/PageLayout.h"
 
 namespace ladrix {

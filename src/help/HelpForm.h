@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "canvas/Controls.h"
+#include "canvas/state/Controls.h"
 #include "platform/Platform.h"
 
 namespace ladrix {

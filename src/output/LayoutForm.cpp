@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "canvas/View.h"
+#include "canvas/view/View.h"
 #include "document/PageLayout.h"
 
 namespace ladrix {

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "canvas/Controls.h"
+#include "canvas/state/Controls.h"
 
 namespace ladrix {
 

@@ -7,8 +7,8 @@
 #include <string>
 #include <string_view>
 
-#include "canvas/Controls.h"
-#include "canvas/Editor.h"
+#include "canvas/state/Controls.h"
+#include "canvas/state/Editor.h"
 
 namespace ladrix {
 

@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "canvas/Redraw.h"
+#include "canvas/view/Redraw.h"
 #include "platform/Encoding.h"
 #include "platform/Files.h"
 

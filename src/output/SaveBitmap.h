@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "canvas/Editor.h"
+#include "canvas/state/Editor.h"
 
 namespace ladrix {
 

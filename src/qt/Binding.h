@@ -6,7 +6,7 @@
 #include <optional>
 #include <vector>
 
-#include "canvas/Controls.h"
+#include "canvas/state/Controls.h"
 
 class QAbstractButton;
 class QLabel;

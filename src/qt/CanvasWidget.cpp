@@ -5,11 +5,11 @@
 #include <QWheelEvent>
 #include <cmath>
 
-#include "canvas/LabelEvents.h"
-#include "canvas/Pointer.h"
-#include "canvas/Selection.h"
-#include "canvas/View.h"
-#include "canvas/Zoom.h"
+#include "canvas/gestures/Pointer.h"
+#include "canvas/gestures/Selection.h"
+#include "canvas/labels/LabelEvents.h"
+#include "canvas/view/View.h"
+#include "canvas/view/Zoom.h"
 #include "qt/KeyCodes.h"
 #include "qt/Theme.h"
 

@@ -3,7 +3,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 
-#include "canvas/Colors.h"
+#include "canvas/tools/Colors.h"
 #include "qt/Theme.h"
 
 namespace ladrix {

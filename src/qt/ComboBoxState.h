@@ -5,7 +5,7 @@
 #include <QComboBox>
 #include <QSignalBlocker>
 
-#include "canvas/Controls.h"
+#include "canvas/state/Controls.h"
 #include "qt/QtText.h"
 
 namespace ladrix {

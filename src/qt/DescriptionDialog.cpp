@@ -7,7 +7,7 @@
 #include <QVBoxLayout>
 
 #include "browser/FileDescription.h"
-#include "canvas/DrawingCommands.h"
+#include "canvas/file/DrawingCommands.h"
 #include "qt/InputFilters.h"
 #include "qt/QtText.h"
 #include "qt/Theme.h"

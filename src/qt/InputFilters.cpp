@@ -3,7 +3,7 @@
 #include <QTextDocument>
 #include <algorithm>
 
-#include "canvas/RadiusFields.h"
+#include "canvas/tools/RadiusFields.h"
 #include "platform/Encoding.h"
 
 namespace ladrix {

@@ -1,7 +1,7 @@
 #include "qt/KeyCodes.h"
 
-#include "canvas/Keys.h"
-#include "canvas/Pointer.h"
+#include "canvas/gestures/Keys.h"
+#include "canvas/gestures/Pointer.h"
 
 namespace ladrix {
 

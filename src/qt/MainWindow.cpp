@@ -11,7 +11,7 @@
 
 #include "app/CommandHandlers.h"
 #include "app/FileMenu.h"
-#include "canvas/Keys.h"
+#include "canvas/gestures/Keys.h"
 #include "qt/KeyCodes.h"
 #include "qt/QtText.h"
 #include "qt/Theme.h"

@@ -5,8 +5,8 @@
 #include <QPainter>
 #include <QToolTip>
 
-#include "canvas/PaletteButtons.h"
-#include "canvas/Tools.h"
+#include "canvas/tools/PaletteButtons.h"
+#include "canvas/tools/Tools.h"
 #include "qt/QtPainterPage.h"
 #include "qt/QtText.h"
 #include "qt/Theme.h"

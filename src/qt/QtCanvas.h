@@ -12,7 +12,7 @@
 #include <functional>
 #include <vector>
 
-#include "canvas/Editor.h"
+#include "canvas/state/Editor.h"
 #include "qt/QtPainterPage.h"
 
 namespace ladrix {

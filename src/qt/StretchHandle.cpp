@@ -3,7 +3,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 
-#include "canvas/Stretch.h"
+#include "canvas/view/Stretch.h"
 #include "qt/KeyCodes.h"
 #include "qt/Theme.h"
 

@@ -14,7 +14,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "canvas/Keys.h"
+#include "canvas/gestures/Keys.h"
 #include "platform/Numbers.h"
 #include "qt/InputFilters.h"
 #include "qt/QtText.h"

@@ -3,14 +3,14 @@
 #include <QFocusEvent>
 #include <QPainter>
 
-#include "canvas/Colors.h"
-#include "canvas/Keys.h"
-#include "canvas/Labels.h"
-#include "canvas/Pointer.h"
-#include "canvas/RadiusFields.h"
-#include "canvas/Redraw.h"
-#include "canvas/Snap.h"
-#include "canvas/Zoom.h"
+#include "canvas/gestures/Keys.h"
+#include "canvas/gestures/Pointer.h"
+#include "canvas/labels/Labels.h"
+#include "canvas/tools/Colors.h"
+#include "canvas/tools/RadiusFields.h"
+#include "canvas/view/Redraw.h"
+#include "canvas/view/Snap.h"
+#include "canvas/view/Zoom.h"
 #include "qt/InputFilters.h"
 #include "qt/QtText.h"
 #include "qt/Theme.h"

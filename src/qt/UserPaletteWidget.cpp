@@ -7,7 +7,7 @@
 #include <QPushButton>
 #include <cmath>
 
-#include "canvas/Tools.h"
+#include "canvas/tools/Tools.h"
 #include "qt/PaletteWidget.h"
 #include "qt/QtCanvas.h"
 #include "qt/QtText.h"

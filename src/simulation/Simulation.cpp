@@ -2,12 +2,12 @@
 
 #include <algorithm>
 
-#include "canvas/Colors.h"
-#include "canvas/DrawingCommands.h"
-#include "canvas/Keys.h"
-#include "canvas/RadiusFields.h"
-#include "canvas/Redraw.h"
-#include "canvas/View.h"
+#include "canvas/file/DrawingCommands.h"
+#include "canvas/gestures/Keys.h"
+#include "canvas/tools/Colors.h"
+#include "canvas/tools/RadiusFields.h"
+#include "canvas/view/Redraw.h"
+#include "canvas/view/View.h"
 #include "platform/Numbers.h"
 
 namespace ladrix {

@@ -7,7 +7,7 @@
 
 #include <string_view>
 
-#include "canvas/Editor.h"
+#include "canvas/state/Editor.h"
 #include "usersymbols/UserSymbols.h"
 
 namespace ladrix {

@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-#include "canvas/Editor.h"
+#include "canvas/state/Editor.h"
 #include "usersymbols/UserSymbols.h"
 
 namespace ladrix {

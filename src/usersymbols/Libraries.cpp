@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "canvas/DrawingCommands.h"
+#include "canvas/file/DrawingCommands.h"
 #include "platform/Encoding.h"
 #include "usersymbols/Script.h"
 #include "usersymbols/UserPalette.h"

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "canvas/Editor.h"
+#include "canvas/state/Editor.h"
 #include "usersymbols/SymbolFiles.h"
 #include "usersymbols/UserSymbols.h"
 

@@ -1,7 +1,7 @@
 // The two small forms of saving a user symbol: the colour of its button, and its name.
 #pragma once
 
-#include "canvas/Editor.h"
+#include "canvas/state/Editor.h"
 #include "usersymbols/UserSymbols.h"
 
 namespace ladrix {

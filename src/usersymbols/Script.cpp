@@ -7,7 +7,7 @@
 #include <span>
 #include <utility>
 
-#include "canvas/Redraw.h"
+#include "canvas/view/Redraw.h"
 #include "document/Records.h"
 #include "platform/Numbers.h"
 #include "symbols/FreeShapes.h"

@@ -16,7 +16,7 @@
 #include <string_view>
 #include <vector>
 
-#include "canvas/Editor.h"
+#include "canvas/state/Editor.h"
 #include "usersymbols/UserSymbols.h"
 
 namespace ladrix {

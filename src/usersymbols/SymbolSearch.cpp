@@ -4,8 +4,8 @@
 #include <array>
 #include <unordered_set>
 
-#include "canvas/PaletteButtons.h"
-#include "canvas/Tools.h"
+#include "canvas/tools/PaletteButtons.h"
+#include "canvas/tools/Tools.h"
 #include "platform/Encoding.h"
 #include "usersymbols/Libraries.h"
 #include "usersymbols/UserButtonOrder.h"

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "canvas/Redraw.h"
+#include "canvas/view/Redraw.h"
 
 namespace ladrix {
 

@@ -1,7 +1,7 @@
 // The user's columns of the palette: the buttons of cmdSym behind the built-in ones.
 #pragma once
 
-#include "canvas/Editor.h"
+#include "canvas/state/Editor.h"
 #include "usersymbols/UserSymbols.h"
 
 namespace ladrix {

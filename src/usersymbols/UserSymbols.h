@@ -9,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-#include "canvas/Controls.h"
+#include "canvas/state/Controls.h"
 #include "document/Tables.h"
 #include "platform/Platform.h"
 

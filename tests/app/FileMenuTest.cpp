@@ -9,7 +9,7 @@
 #include "app/CommandTable.h"
 #include "app/FileCommands.h"
 #include "app/Startup.h"
-#include "canvas/DrawingCommands.h"
+#include "canvas/file/DrawingCommands.h"
 #include "support/FakePlatform.h"
 
 namespace ladrix {

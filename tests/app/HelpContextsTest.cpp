@@ -7,7 +7,7 @@
 
 #include "app/CommandTable.h"
 #include "app/Startup.h"
-#include "canvas/PaletteButtons.h"
+#include "canvas/tools/PaletteButtons.h"
 #include "help/HelpCommands.h"
 #include "help/HelpFile.h"
 #include "support/FakePlatform.h"

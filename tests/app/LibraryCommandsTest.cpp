@@ -3,8 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "app/Startup.h"
-#include "canvas/Pointer.h"
-#include "canvas/Tools.h"
+#include "canvas/gestures/Pointer.h"
+#include "canvas/tools/Tools.h"
 #include "support/FakePlatform.h"
 #include "usersymbols/SymbolFiles.h"
 

@@ -4,8 +4,8 @@
 
 #include "app/LineOptions.h"
 #include "app/Preferences.h"
-#include "canvas/DrawingCommands.h"
-#include "canvas/PaletteButtons.h"
+#include "canvas/file/DrawingCommands.h"
+#include "canvas/tools/PaletteButtons.h"
 #include "support/FakePlatform.h"
 
 namespace ladrix {

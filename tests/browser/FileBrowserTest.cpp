@@ -9,7 +9,7 @@
 #include "browser/BrowserFolders.h"
 #include "browser/BrowserSaving.h"
 #include "browser/Favorites.h"
-#include "canvas/DrawingCommands.h"
+#include "canvas/file/DrawingCommands.h"
 #include "platform/Encoding.h"
 #include "support/FakePlatform.h"
 

@@ -4,13 +4,13 @@
 #include <sstream>
 #include <stdexcept>
 
-#include "canvas/DrawingCommands.h"
-#include "canvas/Keys.h"
-#include "canvas/Labels.h"
-#include "canvas/PaletteButtons.h"
-#include "canvas/Pointer.h"
-#include "canvas/Redraw.h"
-#include "canvas/Tools.h"
+#include "canvas/file/DrawingCommands.h"
+#include "canvas/gestures/Keys.h"
+#include "canvas/gestures/Pointer.h"
+#include "canvas/labels/Labels.h"
+#include "canvas/tools/PaletteButtons.h"
+#include "canvas/tools/Tools.h"
+#include "canvas/view/Redraw.h"
 #include "document/Records.h"
 
 namespace ladrix::test {

@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "canvas/Editor.h"
+#include "canvas/state/Editor.h"
 #include "support/FakePlatform.h"
 
 namespace ladrix::test {

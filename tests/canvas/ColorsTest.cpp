@@ -1,12 +1,12 @@
 // Colour, width and figures given to a selection: what each kind of device takes, and that each is
 // one step of the history.
-#include "canvas/Colors.h"
+#include "canvas/tools/Colors.h"
 
 #include "Bench.h"
-#include "canvas/RadiusFields.h"
-#include "canvas/Redraw.h"
-#include "canvas/Selection.h"
-#include "canvas/Undo.h"
+#include "canvas/gestures/Selection.h"
+#include "canvas/history/Undo.h"
+#include "canvas/tools/RadiusFields.h"
+#include "canvas/view/Redraw.h"
 
 namespace ladrix::test {
 namespace {

@@ -1,9 +1,9 @@
 // Copy and move by two points.
-#include "canvas/CopyMove.h"
+#include "canvas/gestures/CopyMove.h"
 
 #include "Bench.h"
-#include "canvas/Redraw.h"
-#include "canvas/Selection.h"
+#include "canvas/gestures/Selection.h"
+#include "canvas/view/Redraw.h"
 
 namespace ladrix::test {
 namespace {

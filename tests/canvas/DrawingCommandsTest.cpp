@@ -1,5 +1,5 @@
 // New, open, save and the prompt before each; templates, the crash copy and the description.
-#include "canvas/DrawingCommands.h"
+#include "canvas/file/DrawingCommands.h"
 
 #include <filesystem>
 

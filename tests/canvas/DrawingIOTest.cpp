@@ -1,10 +1,10 @@
 // Between the drawing's file and the tables: old files, unknown pages, pictures.
-#include "canvas/DrawingIO.h"
+#include "canvas/file/DrawingIO.h"
 
 #include <filesystem>
 
 #include "Bench.h"
-#include "canvas/DrawingCommands.h"
+#include "canvas/file/DrawingCommands.h"
 
 namespace ladrix::test {
 namespace {

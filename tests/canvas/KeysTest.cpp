@@ -1,8 +1,8 @@
 // What the keys mean, on the form and on the canvas.
-#include "canvas/Keys.h"
+#include "canvas/gestures/Keys.h"
 
 #include "Bench.h"
-#include "canvas/View.h"
+#include "canvas/view/View.h"
 #include "document/Records.h"
 
 namespace ladrix::test {

@@ -1,13 +1,13 @@
 // Labels under the pointer, and the commands on those that are selected.
-#include "canvas/LabelEvents.h"
+#include "canvas/labels/LabelEvents.h"
 
 #include "Bench.h"
-#include "canvas/CopyMove.h"
-#include "canvas/LabelCommands.h"
-#include "canvas/Labels.h"
-#include "canvas/Pointer.h"
-#include "canvas/Redraw.h"
-#include "canvas/Zoom.h"
+#include "canvas/gestures/CopyMove.h"
+#include "canvas/gestures/Pointer.h"
+#include "canvas/labels/LabelCommands.h"
+#include "canvas/labels/Labels.h"
+#include "canvas/view/Redraw.h"
+#include "canvas/view/Zoom.h"
 
 namespace ladrix::test {
 namespace {

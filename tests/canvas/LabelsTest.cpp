@@ -1,5 +1,5 @@
 // Labels: those that come with a device, the text tool, and typing.
-#include "canvas/Labels.h"
+#include "canvas/labels/Labels.h"
 
 #include "Bench.h"
 

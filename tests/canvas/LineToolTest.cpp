@@ -1,5 +1,5 @@
 // The line and square tools, click by click.
-#include "canvas/LineTool.h"
+#include "canvas/tools/LineTool.h"
 
 #include "Bench.h"
 

@@ -1,11 +1,11 @@
 // The built-in buttons of each library and their images.
-#include "canvas/PaletteButtons.h"
+#include "canvas/tools/PaletteButtons.h"
 
 #include <algorithm>
 #include <cmath>
 
 #include "Bench.h"
-#include "canvas/Tools.h"
+#include "canvas/tools/Tools.h"
 
 namespace ladrix::test {
 namespace {

@@ -1,7 +1,7 @@
-#include "canvas/Pictures.h"
+#include "canvas/file/Pictures.h"
 
 #include "Bench.h"
-#include "canvas/Undo.h"
+#include "canvas/history/Undo.h"
 
 namespace ladrix::test {
 namespace {

@@ -1,5 +1,5 @@
 // Presses, moves and releases on the canvas: snap, cursor, grip, band, ghost and placement.
-#include "canvas/Pointer.h"
+#include "canvas/gestures/Pointer.h"
 
 #include "Bench.h"
 

@@ -1,11 +1,11 @@
 // The picture on the canvas made again from the tables, and the way back to idle.
-#include "canvas/Redraw.h"
+#include "canvas/view/Redraw.h"
 
 #include <cmath>
 #include <set>
 
 #include "Bench.h"
-#include "canvas/Colors.h"
+#include "canvas/tools/Colors.h"
 #include "document/Records.h"
 
 namespace ladrix::test {

@@ -1,11 +1,11 @@
 // What is asked before a save replaces a file, and what is kept of it; a backup copy opened in the
 // drawing's place.
-#include "canvas/SaveGuard.h"
+#include "canvas/file/SaveGuard.h"
 
 #include <filesystem>
 
 #include "Bench.h"
-#include "canvas/DrawingCommands.h"
+#include "canvas/file/DrawingCommands.h"
 #include "document/DrawingFile.h"
 
 namespace ladrix::test {

@@ -1,9 +1,9 @@
 // Picks by line, grip, band and picture, Select All, delete, and what follows the count.
-#include "canvas/Selection.h"
+#include "canvas/gestures/Selection.h"
 
 #include "Bench.h"
-#include "canvas/Pointer.h"
-#include "canvas/Redraw.h"
+#include "canvas/gestures/Pointer.h"
+#include "canvas/view/Redraw.h"
 #include "document/Records.h"
 
 namespace ladrix::test {

@@ -1,8 +1,8 @@
 // The snap pitch, typed and by its buttons, and the grid's options.
-#include "canvas/Snap.h"
+#include "canvas/view/Snap.h"
 
 #include "Bench.h"
-#include "canvas/Pointer.h"
+#include "canvas/gestures/Pointer.h"
 
 namespace ladrix::test {
 namespace {

@@ -1,9 +1,9 @@
 // The view made narrower and wider by its right margin.
-#include "canvas/Stretch.h"
+#include "canvas/view/Stretch.h"
 
 #include "Bench.h"
-#include "canvas/Pointer.h"
-#include "canvas/View.h"
+#include "canvas/gestures/Pointer.h"
+#include "canvas/view/View.h"
 
 namespace ladrix::test {
 namespace {

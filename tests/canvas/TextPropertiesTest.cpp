@@ -1,10 +1,10 @@
 // frmTextProps: what it shows, what it applies, and what it refuses.
-#include "canvas/TextProperties.h"
+#include "canvas/labels/TextProperties.h"
 
 #include "Bench.h"
-#include "canvas/Keys.h"
-#include "canvas/Redraw.h"
-#include "canvas/Selection.h"
+#include "canvas/gestures/Keys.h"
+#include "canvas/gestures/Selection.h"
+#include "canvas/view/Redraw.h"
 
 namespace ladrix::test {
 namespace {

@@ -1,8 +1,8 @@
 // The tool in hand: what a press on a palette button does, its panel and its fly-out.
-#include "canvas/Tools.h"
+#include "canvas/tools/Tools.h"
 
 #include "Bench.h"
-#include "canvas/RadiusFields.h"
+#include "canvas/tools/RadiusFields.h"
 
 namespace ladrix::test {
 namespace {

@@ -1,18 +1,18 @@
 // Undo and redo, told by the saved texts; and how the history keeps them.
-#include "canvas/Undo.h"
+#include "canvas/history/Undo.h"
 
 #include <malloc.h>
 
 #include <random>
 
 #include "Bench.h"
-#include "canvas/Colors.h"
-#include "canvas/CopyMove.h"
-#include "canvas/DrawingCommands.h"
-#include "canvas/Labels.h"
-#include "canvas/RadiusFields.h"
-#include "canvas/Redraw.h"
-#include "canvas/Selection.h"
+#include "canvas/file/DrawingCommands.h"
+#include "canvas/gestures/CopyMove.h"
+#include "canvas/gestures/Selection.h"
+#include "canvas/labels/Labels.h"
+#include "canvas/tools/Colors.h"
+#include "canvas/tools/RadiusFields.h"
+#include "canvas/view/Redraw.h"
 #include "document/DrawingFile.h"
 #include "document/Records.h"
 

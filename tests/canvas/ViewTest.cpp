@@ -1,8 +1,8 @@
 // How the page lies in the frame: sizes, bars and grid.
-#include "canvas/View.h"
+#include "canvas/view/View.h"
 
 #include "Bench.h"
-#include "canvas/Colors.h"
+#include "canvas/tools/Colors.h"
 
 namespace ladrix::test {
 namespace {

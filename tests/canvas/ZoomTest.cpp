@@ -1,12 +1,12 @@
 // Zooming at a point: by pressed button, by menu and key, and by the wheel.
-#include "canvas/Zoom.h"
+#include "canvas/view/Zoom.h"
 
 #include <cmath>
 
 #include "Bench.h"
-#include "canvas/Keys.h"
-#include "canvas/Redraw.h"
-#include "canvas/View.h"
+#include "canvas/gestures/Keys.h"
+#include "canvas/view/Redraw.h"
+#include "canvas/view/View.h"
 
 namespace ladrix::test {
 namespace {

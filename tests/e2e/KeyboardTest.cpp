@@ -4,7 +4,7 @@
 
 #include "Journey.h"
 #include "app/CommandTable.h"
-#include "canvas/Tools.h"
+#include "canvas/tools/Tools.h"
 #include "qt/QtText.h"
 
 namespace ladrix::test {

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "canvas/View.h"
+#include "canvas/view/View.h"
 #include "support/FakePlatform.h"
 
 namespace ladrix {

@@ -3,8 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "canvas/Redraw.h"
-#include "canvas/View.h"
+#include "canvas/view/Redraw.h"
+#include "canvas/view/View.h"
 #include "document/PageLayout.h"
 #include "output/PrinterForms.h"
 #include "support/FakePlatform.h"

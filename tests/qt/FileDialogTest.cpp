@@ -12,7 +12,7 @@
 #include <QTreeView>
 #include <functional>
 
-#include "canvas/DrawingCommands.h"
+#include "canvas/file/DrawingCommands.h"
 #include "platform/Encoding.h"
 #include "qt/DescriptionDialog.h"
 #include "qt/Driving.h"

@@ -15,7 +15,7 @@
 
 #include "Driving.h"
 #include "app/Startup.h"
-#include "canvas/View.h"
+#include "canvas/view/View.h"
 #include "document/PageLayout.h"
 #include "output/PrinterForms.h"
 #include "output/SaveBitmap.h"

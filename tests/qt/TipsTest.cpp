@@ -10,7 +10,7 @@
 #include <QLineEdit>
 
 #include "ProgramOnQt.h"
-#include "canvas/Tools.h"
+#include "canvas/tools/Tools.h"
 #include "qt/DescriptionDialog.h"
 #include "qt/FavoritesDialog.h"
 #include "qt/FileDialog.h"

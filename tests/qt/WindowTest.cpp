@@ -13,7 +13,7 @@
 #include <map>
 
 #include "ProgramOnQt.h"
-#include "canvas/View.h"
+#include "canvas/view/View.h"
 #include "qt/QtText.h"
 
 namespace ladrix {

@@ -5,11 +5,11 @@
 
 #include <algorithm>
 
-#include "canvas/Keys.h"
-#include "canvas/PaletteButtons.h"
-#include "canvas/Pointer.h"
-#include "canvas/Redraw.h"
-#include "canvas/Zoom.h"
+#include "canvas/gestures/Keys.h"
+#include "canvas/gestures/Pointer.h"
+#include "canvas/tools/PaletteButtons.h"
+#include "canvas/view/Redraw.h"
+#include "canvas/view/Zoom.h"
 #include "support/FakePlatform.h"
 
 namespace ladrix::test {

@@ -6,8 +6,8 @@
 #include <cmath>
 
 #include "SymbolBench.h"
-#include "canvas/Pointer.h"
-#include "canvas/Selection.h"
+#include "canvas/gestures/Pointer.h"
+#include "canvas/gestures/Selection.h"
 
 namespace ladrix {
 namespace {

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "canvas/PaletteButtons.h"
+#include "canvas/tools/PaletteButtons.h"
 #include "support/FakePlatform.h"
 #include "usersymbols/Compiler.h"
 #include "usersymbols/Libraries.h"

@@ -1,0 +1,31 @@
+// Between a drawing's file and the editor: the steps that open, save and restore share. Each throws
+// a Failure where the file system fails; the commands catch it.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "canvas/state/Editor.h"
+#include "document/DrawingFile.h"
+
+namespace ladrix {
+
+// The whole file. Refuses what is missing, not a regular file or too large.
+FileText readDrawingFile(Files& files, const std::string& path);
+
+// Writes the drawing's text under its name, after its pictures have been copied beside it.
+void writeDrawing(Editor& editor, std::string_view text);
+
+// Fills the tables from a file's text, or adds it to the template in force, and shows the drawing:
+// at 100 percent from its upper left, or where the view stood.
+enum class PageView { Fresh, Kept };
+void openText(Editor& editor, const FileText& file, PageView view);
+
+// Fills the tables from a crash copy; the drawing stays untitled.
+void restoreText(Editor& editor, const FileText& file);
+
+// Loads the images of PictureTable, those of the history's pictures from memory; one that cannot be
+// read leaves an empty place, told once.
+void loadPictures(Editor& editor);
+
+}  // namespace ladrix

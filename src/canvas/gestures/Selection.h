@@ -1,0 +1,56 @@
+// Selecting: every pick is a toggle, and items add up until a reset. The marks are columns of the
+// tables (DeviceSelected, LabelSelected, PictureRow::Selected); a selected item is painted in
+// SelectionColor and keeps its own colour. A pick paints the item over itself, nothing else, and
+// rebuilds no record.
+#pragma once
+
+#include <optional>
+
+#include "canvas/state/Editor.h"
+
+namespace ladrix {
+
+// A press on the canvas with no tool: each line under the point. A line on an axis is picked near
+// it, any line within its bounding rectangle; one that is both is toggled twice.
+void pickLines(Editor& editor, Single x, Single y);
+
+// The grip stands on a device's insertion point; a click on it toggles every device there. The
+// right button opens the menu.
+void picGrip_Click(Editor& editor);
+void picGrip_MouseDown(Editor& editor, Short button);
+
+// What lies strictly within the band: the insertion points of devices, the corners of labels, whole
+// pictures.
+void pickInBand(Editor& editor);
+
+// The picture that takes a press at this point of the page, the uppermost one: at 100 percent and
+// while the editor is idle. nullopt: the press is the canvas's.
+std::optional<Short> pictureAt(const Editor& editor, Single x, Single y);
+
+// X and Y are inches of the page. A press toggles the picture, moving with the left button held
+// drags it; the release of a picture that was moved stores its place and resets the editor.
+void img_MouseDown(Editor& editor, Short index, Short button, Single x, Single y);
+void img_MouseMove(Editor& editor, Short button, Single x, Single y);
+void img_MouseUp(Editor& editor);
+
+void mnuEditSelectAll_Click(Editor& editor);
+void mnuEditDelete_Click(Editor& editor);
+
+// Takes the selected items out of the drawing; one undo step. With nothing selected it tells so.
+void DeleteSelection(Editor& editor);
+
+// Counts the marks and lets the menus, the scale, the message guide and Reset follow. Ends the edit
+// of a label that is no longer the only one selected.
+void RecountSelection(Editor& editor);
+
+// No mark is left; the controls that follow the count are the caller's.
+void ClearSelection(Editor& editor);
+
+// Moves every selected item, of a line or square both corners. False if nothing is selected.
+bool moveSelectedItems(Drawing& drawing, Single dx, Single dy);
+
+// Draws one device over itself in this colour and loads the tool strip's panel by the selection:
+// the figures of a circle or an arc while all selected devices have one name, else no panel.
+void DrawDeviceFromTable(Editor& editor, Short index, Long color);
+
+}  // namespace ladrix

@@ -1,0 +1,191 @@
+#include "canvas/history/Undo.h"
+
+#include <algorithm>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "canvas/file/DrawingIO.h"
+#include "canvas/gestures/Selection.h"
+#include "canvas/labels/Labels.h"
+#include "canvas/tools/Tools.h"
+#include "canvas/view/Redraw.h"
+#include "document/Records.h"
+
+namespace ladrix {
+
+namespace {
+
+constexpr std::string_view DevicesMark = "///DEVICES///", LabelsMark = "///LABELS///",
+                           PicturesMark = "///PICTURES///";
+constexpr Short FirstShift = 500;
+
+std::string snapshotText(const Drawing& drawing) {
+    std::string text;
+    text.reserve(DevicesMark.size() + LabelsMark.size() + PicturesMark.size() +
+                 drawing.DeviceString.size() + drawing.LabelString.size() +
+                 drawing.PictureString.size());
+    text += DevicesMark;
+    text += drawing.DeviceString;
+    text += LabelsMark;
+    text += drawing.LabelString;
+    text += PicturesMark;
+    text += drawing.PictureString;
+    return text;
+}
+
+struct Sections {
+    std::string_view devices, labels, pictures;
+};
+
+// A label may read like the marker of the pictures, the name of a picture file cannot.
+std::optional<Sections> sectionsOf(std::string_view text) {
+    const auto devices = text.find(DevicesMark);
+    const auto labels = text.find(LabelsMark);
+    const auto pictures = text.rfind(PicturesMark);
+    constexpr auto None = std::string_view::npos;
+    if (devices == None || labels == None || pictures == None) return std::nullopt;
+    const auto devicesStart = devices + DevicesMark.size(),
+               labelsStart = labels + LabelsMark.size();
+    if (labels < devicesStart || pictures < labelsStart) return std::nullopt;
+    return Sections{text.substr(devicesStart, labels - devicesStart),
+                    text.substr(labelsStart, pictures - labelsStart),
+                    text.substr(pictures + PicturesMark.size())};
+}
+
+// A picture that was deleted comes back from where it lay, with the image that it had.
+void rememberPictures(Editor& editor) {
+    const auto& rows = editor.drawing.PictureTable;
+    for (std::size_t i = 0; i < rows.size() && i < editor.img.size(); ++i)
+        editor.HistoryPictures.insert_or_assign(rows[i].FileName,
+                                                KnownPicture{rows[i].FullPath, editor.img[i]});
+}
+
+void reportFullHistory(const Editor& editor) {
+    editor.platform.ReportError(
+        "Take Undo Snapshot",
+        {failure::Subscript,
+         "The undo history is full: further changes cannot be undone one by one."});
+}
+
+// Pictures that the step leaves alone are not parsed again, so that one whose file is missing is
+// not told at every step.
+void parsePictures(Editor& editor, std::string_view text) {
+    if (editor.drawing.PictureString == text) return;
+    editor.drawing.PictureString = text;
+    PicturePaths paths;
+    for (const auto& [name, known] : editor.HistoryPictures)
+        paths.emplace(name, known.FullPath);
+    ParsePictureString(editor.drawing, editor.platform, paths);
+    loadPictures(editor);
+}
+
+// A field of a record; "" where it has fewer.
+std::string_view fieldOf(std::string_view record, int index) {
+    for (; index > 0; --index) {
+        const auto separator = record.find(FieldSeparator);
+        if (separator == std::string_view::npos) return {};
+        record.remove_prefix(separator + 1);
+    }
+    return record.substr(0, record.find(FieldSeparator));
+}
+
+// A file's reader passes over the width tag of circles and semicircles; a step back and forth must
+// not lose it.
+void restoreWidthTags(Drawing& drawing) {
+    DeviceTable& devices = drawing.devices;
+    const auto rows = std::min(devices.DeviceName.size(), drawing.DeviceRecords.start.size());
+    for (std::size_t i = 0; i < rows; ++i) {
+        const RecordLayout layout = recordLayout(devices.DeviceName[i]);
+        if (layout != RecordLayout::Circle && layout != RecordLayout::SemiCircle) continue;
+        const int tagField = layout == RecordLayout::Circle ? 5 : 6;
+        devices.DeviceWidthTag[i] = fieldOf(drawing.DeviceRecord(static_cast<Short>(i)), tagField);
+    }
+}
+
+void parseSections(Editor& editor, const Sections& sections) {
+    Drawing& drawing = editor.drawing;
+    drawing.DeviceString = sections.devices;
+    drawing.LabelString = sections.labels;
+    ParseDeviceString(drawing, editor.platform);
+    restoreWidthTags(drawing);
+    ParseLabelString(drawing, editor.platform);
+    parsePictures(editor, sections.pictures);
+}
+
+void finishPendingEdit(Editor& editor) {
+    if (editor.LastSelectedLabel == -1) return;
+    finishLabelEdit(editor);
+    if (editor.CurrentTool != TextTool) showPanel(editor, Panel::None);
+}
+
+}  // namespace
+
+void TakeUndoSnapshot(Editor& editor) {
+    editor.form.menu[Menu::mnuEditUndo].Enabled = true;
+    const bool wasFull = editor.UndoTop == UndoHistory::Slots;
+    if (!wasFull) ++editor.UndoTop;
+    editor.UndoPosition = editor.UndoTop;
+    if (editor.UndoTop == UndoHistory::Slots) {
+        if (!wasFull) reportFullHistory(editor);
+        return;
+    }
+    if (editor.UndoTop >= FirstShift) editor.history.shiftDown();
+    rememberPictures(editor);
+    editor.history.set(editor.UndoTop, snapshotText(editor.drawing));
+}
+
+void recordStep(Editor& editor) {
+    Drawing& drawing = editor.drawing;
+    RebuildDeviceString(drawing, editor.platform);
+    RebuildLabelString(drawing, editor.platform);
+    RebuildPictureString(drawing, editor.platform);
+    drawing.DrawingChanged = true;
+    editor.form.menu[Menu::mnuEditUndo].Enabled = true;
+    if (drawing.TakeUndoSnapshot) drawing.TakeUndoSnapshot();
+}
+
+void RestoreSnapshot(Editor& editor) {
+    if (editor.UndoPosition < 0) {
+        editor.UndoPosition = 0;
+        return editor.platform.tell("Nothing more can be undone.");
+    }
+    if (editor.UndoPosition > editor.UndoTop) {
+        editor.UndoPosition = editor.UndoTop;
+        return editor.platform.tell("Nothing more can be re-done.");
+    }
+    if (editor.UndoPosition == UndoHistory::Slots) return;
+    const std::string snapshot = editor.history.text(editor.UndoPosition);
+    const auto sections = sectionsOf(snapshot);
+    if (!sections) return;
+    editor.SnapshotPending = false;
+    ClearSelection(editor);
+    if (editor.CurrentTool == -1) showPanel(editor, Panel::None);
+    parseSections(editor, *sections);
+    editor.form.lblMessage.Caption = "Action has been undone.";
+    editor.drawing.DrawingChanged = true;
+    RecountSelection(editor);
+    RedrawDrawing(editor);
+}
+
+void mnuEditUndo_Click(Editor& editor) {
+    finishPendingEdit(editor);
+    --editor.UndoPosition;
+    RestoreSnapshot(editor);
+}
+
+void mnuEditRedo_Click(Editor& editor) {
+    finishPendingEdit(editor);
+    ++editor.UndoPosition;
+    RestoreSnapshot(editor);
+}
+
+void ClearHistory(Editor& editor) {
+    editor.history.clear();
+    editor.HistoryPictures.clear();
+    editor.UndoTop = editor.UndoPosition = 0;
+    rememberPictures(editor);
+    editor.history.set(0, snapshotText(editor.drawing));
+}
+
+}  // namespace ladrix

@@ -1,0 +1,150 @@
+#include "canvas/labels/LabelEvents.h"
+
+#include <cmath>
+#include <utility>
+
+#include "canvas/gestures/Pointer.h"
+#include "canvas/gestures/Selection.h"
+#include "canvas/labels/Labels.h"
+#include "canvas/view/Redraw.h"
+
+namespace ladrix {
+
+namespace {
+
+constexpr Single DragReach = 0.025f;  // inches on the screen; a smaller movement is a click
+
+// No text of a font is wider or higher than this many of its sizes a character; spares measuring.
+constexpr Single WidestCharacter = 2, HighestLine = 3;
+
+bool pressesAreTheCanvas(const Editor& editor) {
+    return editor.SimulationMode || editor.ZoomInPending || editor.ZoomOutPending ||
+           editor.CopyArmed || editor.TextAlignPending;
+}
+
+bool exists(const Editor& editor, Short index) {
+    return index >= 0 && index < editor.drawing.labels.LabelCount &&
+           static_cast<std::size_t>(index) < editor.form.lbl.size();
+}
+
+// As it is painted: in its fitted font, which the zoom enlarges by itself.
+bool covers(const LabelControl& label, const Editor& editor, Single x, Single y) {
+    const Single dx = x - label.Left, dy = y - label.Top;
+    const Single size = label.Font.size / editor.ZoomFactor;
+    const Single inches = size / 72;
+    if (!label.Visible || dx < 0 || dy < 0 || dy > HighestLine * inches ||
+        dx > WidestCharacter * inches * static_cast<Single>(label.Caption.size()))
+        return false;
+    FontSpec onPaper = label.Font;
+    onPaper.size = size;
+    Fonts& fonts = *editor.platform.fonts;
+    return dy <= fonts.textHeight(onPaper) && dx <= fonts.textWidth(onPaper, label.Caption);
+}
+
+void mark(Editor& editor, Short index, bool selected) {
+    const auto i = static_cast<std::size_t>(index);
+    editor.drawing.labels.LabelSelected[i] = selected ? Short{1} : Short{0};
+    RecountSelection(editor);
+    editor.form.lbl[i].ForeColor =
+        selected ? editor.SelectionColor : editor.drawing.labels.LabelColor[i];
+    ++editor.form.LabelVersion;
+}
+
+template <class Action>
+bool forEachSelected(Editor& editor, const Action& action) {
+    const LabelTable& labels = editor.drawing.labels;
+    bool any = false;
+    for (Short i = 0; exists(editor, i); ++i) {
+        if (labels.LabelSelected[static_cast<std::size_t>(i)] == 0) continue;
+        action(static_cast<std::size_t>(i));
+        any = true;
+    }
+    return any;
+}
+
+void startMoving(Editor& editor) {
+    editor.draggedLabels.moved = true;
+    endTextEdit(editor);
+    const Short pressed = editor.draggedLabels.index;
+    if (exists(editor, pressed)) mark(editor, pressed, true);
+}
+
+void storePlaces(Editor& editor) {
+    LabelTable& labels = editor.drawing.labels;
+    const bool any = forEachSelected(editor, [&](std::size_t i) {
+        LabelControl& control = editor.form.lbl[i];
+        labels.LabelX[i] = control.Left;
+        labels.LabelY[i] = control.Top;
+        labels.LabelSelected[i] = 0;
+        control.ForeColor = labels.LabelColor[i];
+    });
+    if (!any) return;
+    ++editor.form.LabelVersion;
+    RebuildLabelString(editor.drawing, editor.platform);
+    RecountSelection(editor);
+    editor.drawing.DrawingChanged = true;
+    if (editor.drawing.TakeUndoSnapshot) editor.drawing.TakeUndoSnapshot();
+}
+
+}  // namespace
+
+std::optional<Short> labelAt(const Editor& editor, Single x, Single y) {
+    if (pressesAreTheCanvas(editor)) return std::nullopt;
+    for (std::size_t i = editor.form.lbl.size(); i-- > 0;)
+        if (covers(editor.form.lbl[i], editor, x, y)) return static_cast<Short>(i);
+    return std::nullopt;
+}
+
+void lbl_MouseDown(Editor& editor, Short index, Short button, Single x, Single y) {
+    if (editor.SimulationMode || editor.ZoomInPending || editor.ZoomOutPending) return;
+    if (!exists(editor, index)) return;
+    editor.form.pointer.picGrip.Visible = false;
+    if (editor.CurrentTool != -1) ResetEditor(editor);
+    if (editor.SavingUserSymbol) {
+        editor.LastSelectedLabel = index;
+        if (editor.SymbolPointPending) takeSymbolPoint(editor, x, y, index);
+        return;
+    }
+    if (button == RightButton) return lbl_DblClick(editor, index);
+    if (button == LeftButton) editor.draggedLabels = {index, x, y, false};
+}
+
+void lbl_MouseMove(Editor& editor, Short button, Single x, Single y) {
+    const LabelDrag& drag = editor.draggedLabels;
+    if (drag.index < 0 || button != LeftButton) return;
+    const Single dx = x - drag.pressX, dy = y - drag.pressY;
+    const Single reach = DragReach / editor.ZoomFactor;
+    if (!drag.moved && std::fabs(dx) < reach && std::fabs(dy) < reach) return;
+    if (!drag.moved) startMoving(editor);
+    const LabelTable& labels = editor.drawing.labels;
+    forEachSelected(editor, [&](std::size_t i) {
+        editor.form.lbl[i].Left = labels.LabelX[i] + dx;
+        editor.form.lbl[i].Top = labels.LabelY[i] + dy;
+    });
+    ++editor.form.LabelVersion;
+}
+
+bool lbl_MouseUp(Editor& editor) {
+    const LabelDrag drag = std::exchange(editor.draggedLabels, {});
+    if (drag.moved) storePlaces(editor);
+    return drag.index >= 0 && !drag.moved;
+}
+
+void lbl_Click(Editor& editor, Short index) {
+    editor.draggedLabels = {};
+    if (!exists(editor, index)) return;
+    endTextEdit(editor);
+    mark(editor, index, editor.drawing.labels.LabelSelected[static_cast<std::size_t>(index)] == 0);
+}
+
+void lbl_DblClick(Editor& editor, Short index) {
+    if (!exists(editor, index)) return;
+    editor.draggedLabels = {};
+    endTextEdit(editor);
+    mark(editor, index, true);
+    editor.LastSelectedLabel = index;
+    editor.form.menu[Menu::mnuEditText].Enabled = true;
+    editor.platform.dialogs->popUp("mnuEditText");
+}
+
+}  // namespace ladrix

@@ -1,0 +1,156 @@
+#include "canvas/tools/Colors.h"
+
+#include "canvas/history/Undo.h"
+#include "canvas/labels/Labels.h"
+#include "canvas/view/Redraw.h"
+#include "platform/Numbers.h"
+
+namespace ladrix {
+
+namespace {
+
+constexpr Long PanelColors[] = {
+    // clang-format off
+    RGB(255, 0, 0), RGB(255, 128, 0), RGB(255, 255, 0), RGB(0, 255, 0), RGB(0, 255, 255), RGB(0, 0, 255),
+    RGB(0, 0, 0), RGB(128, 0, 255), RGB(255, 0, 255), RGB(255, 0, 128), RGB(128, 64, 0), RGB(255, 255, 255),
+    RGB(255, 204, 204), RGB(255, 224, 192), RGB(255, 255, 192), RGB(204, 255, 204), RGB(204, 255, 255), RGB(204, 204, 255),
+    RGB(255, 128, 128), RGB(255, 184, 112), RGB(240, 224, 96), RGB(128, 224, 128), RGB(128, 224, 224), RGB(128, 128, 255),
+    RGB(208, 48, 48), RGB(216, 112, 16), RGB(192, 168, 0), RGB(32, 160, 64), RGB(0, 152, 168), RGB(48, 80, 200),
+    RGB(160, 0, 0), RGB(160, 80, 0), RGB(128, 112, 0), RGB(0, 112, 32), RGB(0, 104, 120), RGB(0, 32, 144),
+    RGB(96, 0, 0), RGB(96, 48, 0), RGB(80, 72, 0), RGB(0, 72, 16), RGB(0, 64, 80), RGB(0, 0, 96),
+    RGB(232, 208, 255), RGB(192, 128, 255), RGB(144, 64, 208), RGB(128, 0, 128), RGB(80, 0, 112), RGB(255, 192, 224),
+    RGB(240, 240, 240), RGB(208, 208, 208), RGB(168, 168, 168), RGB(128, 128, 128), RGB(88, 88, 88), RGB(48, 48, 48),
+    // clang-format on
+};
+
+void recolorSelection(Editor& editor, Long color) {
+    finishLabelEdit(editor);
+    DeviceTable& devices = editor.drawing.devices;
+    for (std::size_t i = 0; i < devices.DeviceSelected.size(); ++i)
+        if (devices.DeviceSelected[i] != 0) devices.DeviceColor[i] = color;
+    LabelTable& labels = editor.drawing.labels;
+    for (std::size_t i = 0; editor.LabelColorOn && i < labels.LabelSelected.size(); ++i)
+        if (labels.LabelSelected[i] != 0) labels.LabelColor[i] = color;
+    recordStep(editor);
+}
+
+void chooseColor(Editor& editor, Long color) {
+    if (std::exchange(editor.SelectionColorPending, false)) editor.SelectionColor = color;
+    editor.form.picSelectedColor.BackColor = color;
+    editor.CurrentColor = color;
+    editor.form.picColors.Visible = false;
+    editor.form.FocusRequest = Focus::Canvas;
+    if (editor.SelectedCount == 0) return;
+    recolorSelection(editor, color);
+    ResetEditor(editor);
+}
+
+// The width tag of a selected device.
+std::string_view widthTagFor(const Editor& editor, std::string_view name) {
+    const bool thick =
+        editor.ThickLineTool && (name == "InsertSavedLine" || editor.symbols.ThickDevices);
+    return thick ? "DrawWidth=2" : "";
+}
+
+bool retagSelection(Editor& editor) {
+    DeviceTable& devices = editor.drawing.devices;
+    bool any = false;
+    for (std::size_t i = 0; i < devices.DeviceSelected.size(); ++i) {
+        if (devices.DeviceSelected[i] == 0) continue;
+        devices.DeviceWidthTag[i] = widthTagFor(editor, devices.DeviceName[i]);
+        any = true;
+    }
+    return any;
+}
+
+void applyScaleText(Editor& editor) {
+    const auto typed = typedNumber(editor.form.cmbScale.Text);
+    if (typed && *typed > 0) editor.SymbolScaleX = editor.SymbolScaleY = *typed;
+    if (!typed || *typed <= 0)
+        editor.form.cmbScale.Text =
+            singleText(editor.SymbolScaleX, editor.platform.locale.decimalMark);
+}
+
+}  // namespace
+
+void LoadMyColors(Editor& editor) {
+    editor.form.lblColor.assign(std::begin(PanelColors), std::end(PanelColors));
+}
+
+void cmdColors_Click(Editor& editor) {
+    editor.form.picColors.Visible = true;
+}
+
+void lblColor_Click(Editor& editor, std::size_t index) {
+    if (index < editor.form.lblColor.size()) chooseColor(editor, editor.form.lblColor[index]);
+}
+
+void picSelectedColor_Click(Editor& editor) {
+    chooseColor(editor, editor.form.picSelectedColor.BackColor);
+}
+
+void mnuOptChangeSelectionColor_Click(Editor& editor) {
+    editor.SelectionColorPending = true;
+    editor.form.lblMessage.Caption = "Choose the color in which selected items are shown.";
+    cmdColors_Click(editor);
+}
+
+void cmdDrawWidth_Click(Editor& editor, Short index) {
+    editor.ThickLineTool = index == 0;
+    editor.form.cmdDrawWidth[0].BackColor = editor.ThickLineTool ? Cyan : ButtonFace;
+    editor.form.cmdDrawWidth[1].BackColor = editor.ThickLineTool ? ButtonFace : Cyan;
+    if (!retagSelection(editor)) return;
+    paintDrawing(editor);
+    recordStep(editor);
+}
+
+void FillScaleList(Editor& editor) {
+    static constexpr Single Scales[] = {0.25f, 0.5f, 0.75f, 1, 1.25f, 1.5f,
+                                        1.75f, 2,    2.5f,  3, 4,     5};
+    ComboBox& box = editor.form.cmbScale;
+    const auto twoDecimals = [&](Single value) {
+        const int hundredths = static_cast<int>(value * 100 + 0.5f);
+        std::string text = std::to_string(hundredths / 100);
+        text += editor.platform.locale.decimalMark;
+        text += static_cast<char>('0' + hundredths / 10 % 10);
+        text += static_cast<char>('0' + hundredths % 10);
+        return text;
+    };
+    box.List.clear();
+    for (const Single scale : Scales)
+        box.List.push_back(twoDecimals(scale));
+    box.Text = twoDecimals(1);
+}
+
+void cmbScale_Click(Editor& editor) {
+    applyScaleText(editor);
+    editor.form.FocusRequest = Focus::Canvas;
+}
+
+void cmdScaleOK_Click(Editor& editor) {
+    applyScaleText(editor);
+}
+
+void mnuOptionThickDevices_Click(Editor& editor) {
+    editor.symbols.ThickDevices = !editor.symbols.ThickDevices;
+    editor.form.menu[Menu::mnuOptionThickDevices].Checked = editor.symbols.ThickDevices;
+    applyThickDevices(editor);
+    RedrawDrawing(editor);
+}
+
+void mnuOptBlackBackground_Click(Editor& editor) {
+    editor.BlackBackground = !editor.BlackBackground;
+    editor.form.menu[Menu::mnuOptBlackBackground].Checked = editor.BlackBackground;
+    applyBlackBackground(editor);
+    RedrawDrawing(editor);
+}
+
+void applyThickDevices(Editor& editor) {
+    editor.platform.picLX->DrawWidth = editor.symbols.ThickDevices ? 2 : 1;
+}
+
+void applyBlackBackground(Editor& editor) {
+    editor.platform.picLX->BackColor = editor.BlackBackground ? Black : White;
+}
+
+}  // namespace ladrix

@@ -1,0 +1,43 @@
+// The tool in hand: what a press on a palette button does, the fly-out of orientations and the
+// panels that belong to some tools.
+#pragma once
+
+#include "canvas/state/Editor.h"
+
+namespace ladrix {
+
+constexpr Short TextTool = 0, DashedLineTool = 2, LineTool = 3;
+
+// Chooses the tool of this button. Clears a selection and a pending zoom first. Cannot fail.
+void cmdSym_Click(Editor& editor, Short index);
+
+// The pointer is over button `index`; `dx` and `dy` are twips from the box of the button's corner.
+// Opens the fly-out beside a button that has orientations.
+void cmdSym_MouseMove(Editor& editor, Short index, Single dx, Single dy);
+
+// Takes this orientation for the button beside which the fly-out stands, and the button as the
+// tool.
+void cmdMoreSym_Click(Editor& editor, Short orientation);
+
+// Presses the last tool again; it survives a reset.
+void mnuEditRepeat_Click(Editor& editor);
+
+// Puts the tool's device, place, colour and figures in the dispatcher's block, with the canvas as
+// its surface.
+void fillToolBlock(Editor& editor, Single x, Single y, Long color);
+
+// ToolName from the pressed button, with "US " in front for a user symbol; "" without a tool.
+void refreshToolName(Editor& editor);
+
+enum class Panel { None, Text, Radius };
+void showPanel(Editor& editor, Panel panel);
+
+// What stands in the radius panel: circles have no angles.
+enum class RadiusPanel { RadiusAlone, WithAngles };
+void layOutRadiusPanel(Editor& editor, RadiusPanel fields);
+
+// A button shows its up or its pressed image.
+void releaseButton(Editor& editor, Short index);
+void pressButton(Editor& editor, Short index);
+
+}  // namespace ladrix
