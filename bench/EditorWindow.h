@@ -8,7 +8,6 @@
 #include <stdexcept>
 
 #include "app/Startup.h"
-#include "canvas/view/Redraw.h"
 #include "qt/MainWindow.h"
 #include "qt/QtPlatform.h"
 #include "qt/Theme.h"

@@ -7,6 +7,7 @@
 #include "FullDrawing.h"
 #include "Measure.h"
 #include "canvas/tools/Tools.h"
+#include "canvas/view/Painting.h"
 
 namespace {
 

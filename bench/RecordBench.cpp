@@ -7,8 +7,11 @@
 #include "EditorWindow.h"
 #include "FullDrawing.h"
 #include "Measure.h"
+#include "canvas/gestures/Gesture.h"
+#include "canvas/labels/LabelEdit.h"
 #include "canvas/labels/Labels.h"
 #include "canvas/tools/Tools.h"
+#include "canvas/view/Painting.h"
 #include "document/Records.h"
 
 namespace {
@@ -218,7 +221,7 @@ class Placements {
     }
     void placeOne(Single x) {
         Editor& editor = window_.editor();
-        finishLabelEdit(editor);
+        keepLabelEdit(editor);
         refreshToolName(editor);
         editor.drawing.LabelPending = false;
         fillToolBlock(editor, x, 1, editor.CurrentColor);

@@ -8,6 +8,7 @@
 
 #include "FewFiles.h"
 #include "canvas/tools/LineTool.h"
+#include "canvas/tools/ToolTable.h"
 
 namespace {
 

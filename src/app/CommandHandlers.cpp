@@ -2,7 +2,8 @@
 
 #include "app/FailureLog.h"
 #include "canvas/file/DrawingCommands.h"
-#include "canvas/view/Redraw.h"
+#include "canvas/gestures/Gesture.h"
+#include "canvas/view/Painting.h"
 #include "canvas/view/View.h"
 #include "document/Records.h"
 #include "help/HelpCommands.h"

@@ -1,5 +1,6 @@
 #include "app/HelpContexts.h"
 
+#include "canvas/tools/ToolTable.h"
 #include "help/HelpCommands.h"
 
 namespace ladrix {
@@ -19,18 +20,6 @@ constexpr std::string_view Simulating = "simulation", SavingSymbol = "saving a s
 
 // clang-format off
 constexpr HelpContext Contexts[] = {
-    {"Text", "2.7 Text"},
-    {"Line", "2.3 Lines and Dashed Lines"},
-    {"Dashed Line", "2.3 Lines and Dashed Lines"},
-    {"Square", "2.4 Squares and Dashed Squares"},
-    {"Dashed Square", "2.4 Squares and Dashed Squares"},
-    {"Small Circle", "2.5 Circles and Connection Points"},
-    {"Large Circle", "2.5 Circles and Connection Points"},
-    {"Connection Point", "2.5 Circles and Connection Points"},
-    {"Arc Left", "2.6 Arcs"},
-    {"Arc Right", "2.6 Arcs"},
-    {"Arc Up", "2.6 Arcs"},
-    {"Arc Down", "2.6 Arcs"},
     {AnySymbol, "2.1 Placing Symbols"},
     {UserSymbol, "7.3 The User Palette"},
     {Simulating, "8.1 Circuit Simulation"},
@@ -72,13 +61,13 @@ constexpr HelpContext Contexts[] = {
 std::string_view topicOf(std::string_view where) {
     for (const HelpContext& context : Contexts)
         if (context.where == where) return context.topic;
-    return {};
+    return toolOfName(where).helpTopic;
 }
 
 std::string_view toolContext(const Editor& editor) {
-    if (editor.CurrentTool > editor.LastBuiltInButton) return UserSymbol;
+    if (editor.gesture.CurrentTool > editor.LastBuiltInButton) return UserSymbol;
     const auto& buttons = editor.form.cmdSym;
-    const auto index = static_cast<std::size_t>(editor.CurrentTool);
+    const auto index = static_cast<std::size_t>(editor.gesture.CurrentTool);
     if (index >= buttons.size() || topicOf(buttons[index].Tag).empty()) return AnySymbol;
     return buttons[index].Tag;
 }
@@ -111,12 +100,12 @@ std::string_view browserContext(const Program& program) {
 // What is under way in the main window.
 std::string_view editorContext(const Editor& editor) {
     if (editor.SimulationMode) return Simulating;
-    if (editor.SavingUserSymbol) return SavingSymbol;
+    if (editor.gesture.SavingUserSymbol) return SavingSymbol;
     if (editor.Arranging) return Arranging;
-    if (editor.ZoomInPending || editor.ZoomOutPending) return Zooming;
-    if (editor.TextAlignPending) return Aligning;
-    if (editor.CopyArmed) return Copying;
-    if (editor.CurrentTool != -1) return toolContext(editor);
+    if (editor.gesture.ZoomInPending || editor.gesture.ZoomOutPending) return Zooming;
+    if (editor.gesture.TextAlignPending) return Aligning;
+    if (editor.gesture.CopyArmed) return Copying;
+    if (editor.gesture.CurrentTool != -1) return toolContext(editor);
     if (editor.SelectedCount == 0) return Idle;
     return editor.SelectedLabelCount == editor.SelectedCount ? LabelsSelected : Selected;
 }

@@ -8,7 +8,7 @@
 
 namespace ladrix {
 
-// `where` is a window's name, a tool's name, or one of the states told in the table.
+// `where` is a window's name or one of the states told in the table; the drawing tools tell theirs.
 struct HelpContext {
     std::string_view where, topic;
 };

@@ -1,6 +1,7 @@
 #include "app/LibraryCommands.h"
 
-#include "canvas/view/Redraw.h"
+#include "canvas/gestures/Gesture.h"
+#include "canvas/state/Editor.h"
 #include "simulation/Simulation.h"
 #include "usersymbols/Compiler.h"
 #include "usersymbols/Libraries.h"

@@ -1,7 +1,7 @@
 #include "app/Program.h"
 
 #include "app/FailureLog.h"
-#include "canvas/history/Undo.h"
+#include "canvas/history/History.h"
 #include "canvas/labels/Labels.h"
 #include "output/PrinterForms.h"
 #include "usersymbols/Compiler.h"
@@ -17,7 +17,6 @@ Program::Program(Platform& machine) : platform(machine), editor(machine) {
         BeginLabel(editor, prefix, x, y);
     };
     editor.drawing.TakeUndoSnapshot = [this] { TakeUndoSnapshot(editor); };
-    editor.ClearHistory = [this] { ClearHistory(editor); };
     editor.FileTouched = [this] { KeepRecentFile(*this); };
     editor.symbols.DrawUserSymbol = [this](const DeviceBlock& block) {
         drawToolsUserSymbol(usersymbols, editor, block);

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "canvas/file/DrawingIO.h"
+#include "canvas/file/FileText.h"
 #include "document/DrawingFile.h"
 #include "document/Records.h"
 #include "platform/SilentDialogs.h"

@@ -56,7 +56,7 @@ struct Drawing {
     std::string PictureParentFolder, PictureFolderName;
 
     // Set once by the layer above.
-    std::function<void()> TakeUndoSnapshot;
+    std::function<void()> TakeUndoSnapshot = [] {};
 };
 
 // Every name of these is drawn from its own geometry, in place of scale and orientation.

@@ -2,7 +2,8 @@
 
 #include <optional>
 
-#include "canvas/view/Redraw.h"
+#include "canvas/state/Editor.h"
+#include "canvas/view/Painting.h"
 #include "platform/Encoding.h"
 #include "platform/Files.h"
 

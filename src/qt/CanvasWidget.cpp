@@ -5,6 +5,7 @@
 #include <QWheelEvent>
 #include <cmath>
 
+#include "canvas/gestures/PictureEvents.h"
 #include "canvas/gestures/Pointer.h"
 #include "canvas/gestures/Selection.h"
 #include "canvas/labels/LabelEvents.h"

@@ -1,7 +1,6 @@
 #include "qt/KeyCodes.h"
 
 #include "canvas/gestures/Keys.h"
-#include "canvas/gestures/Pointer.h"
 
 namespace ladrix {
 

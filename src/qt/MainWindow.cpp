@@ -231,7 +231,7 @@ void MainWindow::showState() {
 
 // The button of the tool in hand comes into view.
 void MainWindow::revealTool() {
-    const Short tool = program_.editor.CurrentTool;
+    const Short tool = program_.editor.gesture.CurrentTool;
     if (tool < 0) return;
     refresh();
     picUserTools_->reveal(tool);

@@ -3,12 +3,14 @@
 #include <QFocusEvent>
 #include <QPainter>
 
+#include "canvas/gestures/Gesture.h"
 #include "canvas/gestures/Keys.h"
-#include "canvas/gestures/Pointer.h"
+#include "canvas/labels/LabelEdit.h"
 #include "canvas/labels/Labels.h"
 #include "canvas/tools/Colors.h"
+#include "canvas/tools/LineWidth.h"
 #include "canvas/tools/RadiusFields.h"
-#include "canvas/view/Redraw.h"
+#include "canvas/tools/ScaleBox.h"
 #include "canvas/view/Snap.h"
 #include "canvas/view/Zoom.h"
 #include "qt/InputFilters.h"

@@ -4,9 +4,10 @@
 
 #include "canvas/file/DrawingCommands.h"
 #include "canvas/gestures/Keys.h"
-#include "canvas/tools/Colors.h"
+#include "canvas/tools/LineWidth.h"
 #include "canvas/tools/RadiusFields.h"
-#include "canvas/view/Redraw.h"
+#include "canvas/view/Background.h"
+#include "canvas/view/Painting.h"
 #include "canvas/view/View.h"
 #include "platform/Numbers.h"
 

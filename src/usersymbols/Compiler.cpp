@@ -290,15 +290,15 @@ void firstPass(UserSymbols& symbols, Editor& editor) {
     makeIconPictures(symbols, editor.platform);
     editor.form.lblMessage.Caption = longText(editor.SelectedDeviceCount) +
                                      " devices have been selected for Inclusion as a User Symbol.";
-    editor.SymbolPointPending = true;
+    editor.gesture.SymbolPointPending = true;
     symbols.frmButtonColor.Visible = true;
     editor.platform.dialogs->show(Form::frmButtonColor);
-    editor.SymbolPointFound = true;
+    editor.gesture.SymbolPointFound = true;
 }
 
 // The flags are off before the form is up, so that nothing of the canvas waits behind it.
 void secondPass(UserSymbols& symbols, Editor& editor, Short collectedCount) {
-    editor.SymbolPointPending = editor.SymbolPointFound = false;
+    editor.gesture.SymbolPointPending = editor.gesture.SymbolPointFound = false;
     if (collectedCount == 0) {
         editor.form.lblMessage.Caption =
             "A symbol of labels alone takes its insertion point from a click on one of them. Hit "
@@ -308,7 +308,7 @@ void secondPass(UserSymbols& symbols, Editor& editor, Short collectedCount) {
     SymbolCompiler& compiler = symbols.compiler;
     compileScript(compiler, editor.platform.locale.decimalMark);
     putOnClipboard(compiler, *editor.platform.clipboard);
-    if (editor.SavingUserSymbol) drawSymbolIcons(symbols);
+    if (editor.gesture.SavingUserSymbol) drawSymbolIcons(symbols);
     symbols.frmUS.txtSymbolName.Text.clear();
     symbols.frmUS.Visible = true;
     editor.platform.dialogs->show(Form::frmUS);
@@ -319,15 +319,15 @@ void secondPass(UserSymbols& symbols, Editor& editor, Short collectedCount) {
 void mnuEditSaveUserSymbol_Click(UserSymbols& symbols, Editor& editor) {
     if (editor.SelectedDeviceCount == 0 && editor.SelectedLabelCount == 0)
         return editor.platform.tell("Nothing has been selected.");
-    editor.SavingUserSymbol = true;
-    editor.SymbolPointFound = false;
+    editor.gesture.SavingUserSymbol = true;
+    editor.gesture.SymbolPointFound = false;
     CompileUserSymbol(symbols, editor);
 }
 
 void takeInsertionPoint(UserSymbols& symbols, Editor& editor, Single x, Single y, Short label) {
     SymbolCompiler& compiler = symbols.compiler;
-    editor.SymbolPointFound = true;
-    editor.SymbolPointPending = false;
+    editor.gesture.SymbolPointFound = true;
+    editor.gesture.SymbolPointPending = false;
     compiler.InsertionX = x;
     compiler.InsertionY = y;
     if (label >= 0) {
@@ -368,12 +368,12 @@ void CollectSelectedLabels(SymbolCompiler& compiler, const Drawing& drawing, Fon
 }
 
 void CompileUserSymbol(UserSymbols& symbols, Editor& editor) {
-    if (!editor.SymbolPointFound) return firstPass(symbols, editor);
+    if (!editor.gesture.SymbolPointFound) return firstPass(symbols, editor);
     secondPass(symbols, editor, symbols.compiler.items.DeviceCount);
 }
 
 void CompileLabelSymbol(UserSymbols& symbols, Editor& editor) {
-    if (!editor.SymbolPointFound) return firstPass(symbols, editor);
+    if (!editor.gesture.SymbolPointFound) return firstPass(symbols, editor);
     secondPass(symbols, editor, symbols.compiler.labels.LabelCount);
 }
 

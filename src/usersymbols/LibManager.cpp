@@ -190,7 +190,7 @@ void mnuLibManageUserLibraries_Click(LibManager& manager, UserSymbols& symbols, 
 void frmLibManager_Unload(LibManager& manager, UserSymbols& symbols, Editor& editor) {
     manager = {};
     editor.platform.attempt("User Symbol Library Manager", [&] {
-        if (editor.CurrentTool > editor.LastBuiltInButton) resetTool(editor);
+        if (editor.gesture.CurrentTool > editor.LastBuiltInButton) resetTool(editor);
         ListUserLibraries(symbols, editor);
         ReloadLibrary(symbols, editor);
     });

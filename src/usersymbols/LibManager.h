@@ -10,7 +10,9 @@
 #include <string>
 #include <vector>
 
+#include "canvas/gestures/Selection.h"
 #include "canvas/state/Editor.h"
+#include "canvas/tools/ScaleBox.h"
 #include "usersymbols/UserSymbols.h"
 
 namespace ladrix {

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "canvas/file/DrawingCommands.h"
+#include "canvas/file/Title.h"
 #include "platform/Encoding.h"
 #include "usersymbols/Script.h"
 #include "usersymbols/UserPalette.h"

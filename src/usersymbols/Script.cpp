@@ -7,7 +7,8 @@
 #include <span>
 #include <utility>
 
-#include "canvas/view/Redraw.h"
+#include "canvas/state/Editor.h"
+#include "canvas/view/Painting.h"
 #include "document/Records.h"
 #include "platform/Numbers.h"
 #include "symbols/FreeShapes.h"
@@ -371,8 +372,9 @@ void PreviewUserSymbol(Editor& editor, SymbolPlacement& placement, std::string_v
 
 void drawToolsUserSymbol(const UserSymbols& symbols, Editor& editor, const DeviceBlock& block) {
     SymbolPlacement placement{block.obj, block.CurX, block.CurY, block.CurColor};
-    InsertUserSymbol(symbols, editor, placement,
-                     static_cast<Short>(editor.CurrentTool - (editor.LastBuiltInButton + 1)));
+    InsertUserSymbol(
+        symbols, editor, placement,
+        static_cast<Short>(editor.gesture.CurrentTool - (editor.LastBuiltInButton + 1)));
 }
 
 }  // namespace ladrix

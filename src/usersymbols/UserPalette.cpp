@@ -3,7 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
-#include "canvas/view/Redraw.h"
+#include "canvas/gestures/Gesture.h"
+#include "canvas/state/Editor.h"
 
 namespace ladrix {
 
@@ -56,7 +57,7 @@ void LayOutUserButtons(UserSymbols& symbols, Editor& editor) {
         if (i >= count) continue;
         button.Tag = symbols.UserSymbolName[i];
         button.Visible = true;
-        button.Pressed = editor.CurrentTool == static_cast<Short>(first + i);
+        button.Pressed = editor.gesture.CurrentTool == static_cast<Short>(first + i);
         button.UpPicture = symbols.UserSymbolPicture[i];
         button.CyanPicture = symbols.UserSymbolCyanPicture[i];
         button.Left = symbols.UserButtonPlace[i].Left;
@@ -113,8 +114,8 @@ void openUserButtonMenu(UserSymbols& symbols, Editor& editor, Short button) {
 }
 
 void resetTool(Editor& editor) {
-    if (editor.CurrentTool != -1) ResetEditor(editor);
-    editor.CurrentTool = editor.PreviousTool = -1;
+    if (editor.gesture.CurrentTool != -1) ResetEditor(editor);
+    editor.gesture.CurrentTool = editor.PreviousTool = -1;
     if (editor.RepeatTool > editor.LastBuiltInButton) editor.RepeatTool = -1;
 }
 

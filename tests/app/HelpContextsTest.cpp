@@ -8,6 +8,7 @@
 #include "app/CommandTable.h"
 #include "app/Startup.h"
 #include "canvas/tools/PaletteButtons.h"
+#include "canvas/tools/ToolTable.h"
 #include "help/HelpCommands.h"
 #include "help/HelpFile.h"
 #include "support/FakePlatform.h"
@@ -52,6 +53,8 @@ TEST_F(HelpContextsTest, EveryContextLeadsToAShippedTopicWithAText) {
     }
     for (const HelpContext& context : helpContexts())
         EXPECT_TRUE(titles.contains(context.topic)) << context.where << ": " << context.topic;
+    for (const Tool& tool : drawingTools())
+        EXPECT_TRUE(titles.contains(tool.helpTopic)) << tool.name;
 }
 
 TEST_F(HelpContextsTest, EveryCaptionOfAMenuIsFoundInTheTopics) {
@@ -75,20 +78,20 @@ TEST_F(HelpContextsTest, TheTopicIsThatOfWhatIsUnderWay) {
         {"Arc Up", "2.6 Arcs"},
         {"Normally Open Contact", "2.1 Placing Symbols"}};
     for (const auto& [tag, title] : tools) {
-        editor.CurrentTool = buttonOf(tag);
+        editor.gesture.CurrentTool = buttonOf(tag);
         EXPECT_EQ(topic(), title) << tag;
     }
-    editor.CurrentTool = static_cast<Short>(editor.LastBuiltInButton + 1);
+    editor.gesture.CurrentTool = static_cast<Short>(editor.LastBuiltInButton + 1);
     EXPECT_EQ(topic(), "7.3 The User Palette");
     // Each goes before those above it.
-    editor.CurrentTool = -1;
+    editor.gesture.CurrentTool = -1;
     editor.SelectedCount = 2;
     EXPECT_EQ(topic(), "4.1 Selecting");
     editor.SelectedLabelCount = 2;
     EXPECT_EQ(topic(), "4.6 Text Properties and Alignment");
-    editor.CopyArmed = true;
+    editor.gesture.CopyArmed = true;
     EXPECT_EQ(topic(), "4.2 Copy and Move");
-    editor.ZoomInPending = true;
+    editor.gesture.ZoomInPending = true;
     EXPECT_EQ(topic(), "3.2 Zoom, Scrolling and Stretching");
     editor.SimulationMode = true;
     EXPECT_EQ(topic(), "8.1 Circuit Simulation");
@@ -105,11 +108,11 @@ TEST_F(HelpContextsTest, UnsavedWorkInTheHelpIsNeitherLeftNorLost) {
     runCommand(program, Menu::mnuHelpContents);
     EXPECT_EQ(fake.dialogs.forms, std::vector<Form>{Form::frmHelp});
     EXPECT_EQ(currentTitle(program.frmHelp), "1.1 Welcome to Ladrix");
-    program.editor.CurrentTool = 0;
+    program.editor.gesture.CurrentTool = 0;
     runCommand(program, Menu::mnuHelpContents);
     EXPECT_EQ(currentTitle(program.frmHelp), "2.7 Text");
     txtHelp_Change(program.frmHelp, "unsaved");
-    program.editor.CurrentTool = -1;
+    program.editor.gesture.CurrentTool = -1;
     runCommand(program, Menu::mnuHelpContents);
     EXPECT_EQ(program.frmHelp.txtHelp.Text, "unsaved");
     runCommand(program, Menu::mnuExit);  // the question is cancelled

@@ -10,7 +10,7 @@
 #include "canvas/labels/Labels.h"
 #include "canvas/tools/PaletteButtons.h"
 #include "canvas/tools/Tools.h"
-#include "canvas/view/Redraw.h"
+#include "canvas/view/Painting.h"
 #include "document/Records.h"
 
 namespace ladrix::test {

@@ -1,12 +1,14 @@
 // Colour, width and figures given to a selection: what each kind of device takes, and that each is
 // one step of the history.
+#include "canvas/gestures/Gesture.h"
+#include "canvas/history/History.h"
 #include "canvas/tools/Colors.h"
+#include "canvas/tools/LineWidth.h"
 
 #include "Bench.h"
 #include "canvas/gestures/Selection.h"
 #include "canvas/history/Undo.h"
 #include "canvas/tools/RadiusFields.h"
-#include "canvas/view/Redraw.h"
 
 namespace ladrix::test {
 namespace {

@@ -1,9 +1,9 @@
 // Copy and move by two points.
 #include "canvas/gestures/CopyMove.h"
+#include "canvas/gestures/Gesture.h"
 
 #include "Bench.h"
 #include "canvas/gestures/Selection.h"
-#include "canvas/view/Redraw.h"
 
 namespace ladrix::test {
 namespace {
@@ -32,7 +32,7 @@ TEST_F(CopyMoveTest, ACopyIsPastedAtEachClickUntilEscape) {
 
     play("release; click 1.02 0.99");
     EXPECT_EQ(message(), "First point found. Select new insertion point.");
-    EXPECT_FALSE(editor.BandArmed);
+    EXPECT_FALSE(editor.gesture.BandArmed);
     EXPECT_EQ(snapshots, 0);
     play("click 1.5 4");
     EXPECT_EQ(drawing.DeviceString.substr(original.size()),
@@ -83,7 +83,7 @@ TEST_F(CopyMoveTest, ACopyExplainsItselfOnceAndTellsAnEmptySelection) {
                                          "memory\r\nuntil the the drawing is reset"),
                                      "Nothing has been selected to copy.",
                                      "No devices have been selected.", "Nothing has been copied."));
-    EXPECT_FALSE(editor.CopyArmed);
+    EXPECT_FALSE(editor.gesture.CopyArmed);
 }
 
 TEST_F(CopyMoveTest, ACopyOutlivesAResetButNotAToolPress) {
@@ -98,7 +98,7 @@ TEST_F(CopyMoveTest, ACopyOutlivesAResetButNotAToolPress) {
     play("click 1 1; tool Ground");
     EXPECT_EQ(editor.copied.devices.DeviceCount + editor.copied.labels.LabelCount, 0);
     EXPECT_THAT(editor.copied.pictures, IsEmpty());
-    EXPECT_FALSE(editor.CopyArmed || drawing.PictureTable[0].Selected);
+    EXPECT_FALSE(editor.gesture.CopyArmed || drawing.PictureTable[0].Selected);
     EXPECT_EQ(editor.SelectedCount, 0);
 }
 
@@ -134,7 +134,8 @@ TEST_F(CopyMoveTest, AMoveTakesTheSelectedToTheSecondPointAndEndsInAReset) {
     EXPECT_THAT(labels(), ElementsAre("Motor|6.5|0.5|3|Arial|10|True|False"));
     EXPECT_EQ(drawing.PictureString, line("a.png|7.5|0.5|1|0.5"));
     EXPECT_EQ(editor.SelectedCount, 0);
-    EXPECT_FALSE(editor.CopyArmed || editor.MoveMode || editor.CopyStage != 0);
+    EXPECT_FALSE(editor.gesture.CopyArmed || editor.gesture.MoveMode ||
+                 editor.gesture.CopyStage != 0);
     EXPECT_TRUE(drawing.DrawingChanged);
     for (const Primitive& p : canvas.persistent)
         EXPECT_NE(p.color, editor.SelectionColor);
@@ -149,7 +150,7 @@ TEST_F(CopyMoveTest, AMoveOfNothingLeftChangesNothing) {
     play("click 3 3");
     EXPECT_EQ(drawing.DeviceString, original);
     EXPECT_EQ(snapshots, 0);
-    EXPECT_FALSE(editor.CopyArmed);
+    EXPECT_FALSE(editor.gesture.CopyArmed);
 }
 
 }  // namespace

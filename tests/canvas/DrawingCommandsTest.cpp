@@ -1,5 +1,6 @@
 // New, open, save and the prompt before each; templates, the crash copy and the description.
 #include "canvas/file/DrawingCommands.h"
+#include "canvas/history/History.h"
 
 #include <filesystem>
 
@@ -128,14 +129,13 @@ TEST_F(DrawingCommandsTest, NewEmptiesEverythingAndIsUntitled) {
     open("A.els");
     drawing.FileDescription = "Old";
     editor.ZoomFactor = 2;
-    int cleared = 0;
-    editor.ClearHistory = [&] { ++cleared; };
+    editor.UndoTop = editor.UndoPosition = 3;
     mnuFileNew_Click(editor);
     EXPECT_EQ(drawing.DeviceString + drawing.LabelString + drawing.FileDescription, "");
     EXPECT_THAT(editor.form.lbl, IsEmpty());
     EXPECT_THAT(canvas.persistent, IsEmpty());
     EXPECT_EQ(editor.ZoomFactor, 1);
-    EXPECT_EQ(cleared, 1);
+    EXPECT_EQ(editor.UndoTop + editor.UndoPosition, 0);
     EXPECT_EQ(drawing.TitleState, 0);
     EXPECT_EQ(editor.form.Caption, "Ladrix - Current Library: User Symbols - File Name: Untitled");
 }
@@ -144,7 +144,7 @@ TEST_F(DrawingCommandsTest, NewIsRefusedWhileACopyWaitsForItsPoint) {
     drawGround();
     drawing.CurrentFileName = "Mine.els";
     drawing.DrawingChanged = false;
-    editor.CopyStage = 1;
+    editor.gesture.CopyStage = 1;
     mnuFileNew_Click(editor);
     EXPECT_THAT(boxes(), ElementsAre("New drawing not possible. Copy point not selected."));
     EXPECT_THAT(devices(), ElementsAre(Ground));
@@ -270,12 +270,11 @@ TEST(Open, OfAFileThatCannotBeReadReportsOnceAndLeavesItAlone) {
 TEST_F(DrawingCommandsTest, OpenReplacesTheDrawingAndStartsItsHistory) {
     drawGround();
     writeDocument("B.els", line(Lamp), line("Motor|1|2|0|Arial|8|False|False"), "11x17Landscape");
-    std::string first;
-    editor.ClearHistory = [&] { first = drawing.DeviceString; };
     drawing.OpenAfterSave = true;
     open("B.els");
     EXPECT_THAT(devices(), ElementsAre(Lamp));
-    EXPECT_EQ(first, line(Lamp)) << "the opened drawing is the first state";
+    EXPECT_EQ(editor.UndoTop, 0);
+    EXPECT_THAT(editor.history.text(0), HasSubstr(line(Lamp))) << "the first state";
     EXPECT_EQ(editor.form.lbl.size(), 1u);
     EXPECT_EQ(editor.PageWidth, 17);
     EXPECT_FALSE(drawing.DrawingChanged || drawing.OpenAfterSave || drawing.Reading);

@@ -17,17 +17,20 @@ TEST(Escape, LeavesEveryStateTheSameWay) {
         SCOPED_TRACE(script);
         Bench bench;
         Editor& editor = bench.editor;
-        editor.ZoomInPending = editor.TextAlignPending = true;
+        editor.gesture.ZoomInPending = editor.gesture.TextAlignPending = true;
         bench.play(script);
-        editor.CopyArmed = editor.MoveMode = true;
-        editor.CopyStage = 2;
+        editor.gesture.CopyArmed = editor.gesture.MoveMode = true;
+        editor.gesture.CopyStage = 2;
         bench.play("key 27 0");
-        EXPECT_EQ(editor.CurrentTool, -1);
-        EXPECT_FALSE(editor.ToolActive || editor.ToolCursor || editor.ToolBlocksBand);
-        EXPECT_FALSE(editor.ZoomInPending || editor.TextAlignPending);
-        EXPECT_FALSE(editor.CopyArmed || editor.MoveMode || editor.CopyStage != 0);
-        EXPECT_FALSE(editor.SquareStarted || editor.BandArmed || editor.MouseIsDown);
-        EXPECT_EQ(editor.LineStartX, NoPoint);
+        EXPECT_EQ(editor.gesture.CurrentTool, -1);
+        EXPECT_FALSE(editor.gesture.ToolActive || editor.gesture.ToolCursor ||
+                     editor.gesture.ToolBlocksBand);
+        EXPECT_FALSE(editor.gesture.ZoomInPending || editor.gesture.TextAlignPending);
+        EXPECT_FALSE(editor.gesture.CopyArmed || editor.gesture.MoveMode ||
+                     editor.gesture.CopyStage != 0);
+        EXPECT_FALSE(editor.gesture.SquareStarted || editor.gesture.BandArmed ||
+                     editor.gesture.MouseIsDown);
+        EXPECT_EQ(editor.gesture.LineStartX, NoPoint);
         EXPECT_THAT(bench.canvas.temporary, IsEmpty());
         EXPECT_FALSE(editor.form.picText.Visible || editor.form.picRadius.Visible);
     }
@@ -96,26 +99,26 @@ TEST(PaletteWalk, MovesByOneAndByARowWithinTheButtons) {
         Bench bench;
         for (std::size_t i = 92; i < 100; ++i)
             bench.editor.form.cmdSym[i].Tag = "Mine " + std::to_string(i);
-        bench.editor.CurrentTool = bench.editor.PreviousTool = c.from;
+        bench.editor.gesture.CurrentTool = bench.editor.PreviousTool = c.from;
         Form_KeyDown(bench.editor, c.keyCode, NoShift);
-        EXPECT_EQ(bench.editor.CurrentTool, c.to) << c.keyCode << " from " << c.from;
+        EXPECT_EQ(bench.editor.gesture.CurrentTool, c.to) << c.keyCode << " from " << c.from;
     }
 }
 
 TEST_F(KeysTest, PaletteWalkNeedsAToolAndAFreeKeyboardAndStopsAtAnEmptyPlace) {
     play("key 40 0");
-    EXPECT_EQ(editor.CurrentTool, -1);
+    EXPECT_EQ(editor.gesture.CurrentTool, -1);
     play("tool Ground; key 38 1");
-    EXPECT_EQ(editor.CurrentTool, buttonOf("Ground"));
+    EXPECT_EQ(editor.gesture.CurrentTool, buttonOf("Ground"));
     editor.TextBoxFocused = true;
     play("key 38 0");
-    EXPECT_EQ(editor.CurrentTool, buttonOf("Ground"));
+    EXPECT_EQ(editor.gesture.CurrentTool, buttonOf("Ground"));
     editor.TextBoxFocused = false;
     button("Screw Terminal") = {};
     play("key 37 0");
-    EXPECT_EQ(editor.CurrentTool, buttonOf("Ground"));
+    EXPECT_EQ(editor.gesture.CurrentTool, buttonOf("Ground"));
     play("key 38 0");
-    EXPECT_EQ(editor.CurrentTool, buttonOf("Ground") - 4);
+    EXPECT_EQ(editor.gesture.CurrentTool, buttonOf("Ground") - 4);
 }
 
 // Devices, a label and a picture, all selected as a pick would leave them.

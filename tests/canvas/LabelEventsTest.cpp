@@ -1,12 +1,12 @@
 // Labels under the pointer, and the commands on those that are selected.
+#include "canvas/labels/LabelEdit.h"
 #include "canvas/labels/LabelEvents.h"
+#include "canvas/view/Painting.h"
 
 #include "Bench.h"
 #include "canvas/gestures/CopyMove.h"
-#include "canvas/gestures/Pointer.h"
 #include "canvas/labels/LabelCommands.h"
 #include "canvas/labels/Labels.h"
-#include "canvas/view/Redraw.h"
 #include "canvas/view/Zoom.h"
 
 namespace ladrix::test {
@@ -70,13 +70,15 @@ TEST(LabelUnderThePointer, IsWhereItsTextIsPaintedAtEveryZoom) {
 
 TEST_F(LabelEventsTest, LabelsLeaveThePressToTheCanvasWhileThatIsAskedForAPoint) {
     EXPECT_EQ(labelAt(editor, 1, 1), 0);
-    for (bool* pending : {&editor.SimulationMode, &editor.ZoomInPending, &editor.ZoomOutPending,
-                          &editor.CopyArmed, &editor.TextAlignPending}) {
+    for (bool* pending :
+         {&editor.SimulationMode, &editor.gesture.ZoomInPending, &editor.gesture.ZoomOutPending,
+          &editor.gesture.CopyArmed, &editor.gesture.TextAlignPending}) {
         *pending = true;
         EXPECT_EQ(labelAt(editor, 1, 1), std::nullopt);
         *pending = false;
     }
-    for (bool* pending : {&editor.SimulationMode, &editor.ZoomInPending, &editor.ZoomOutPending}) {
+    for (bool* pending :
+         {&editor.SimulationMode, &editor.gesture.ZoomInPending, &editor.gesture.ZoomOutPending}) {
         *pending = true;
         click(0);
         lbl_MouseDown(editor, 0, RightButton, 1, 1);
@@ -156,20 +158,20 @@ TEST_F(LabelEventsTest, LabelDragIsDroppedByEscapeAndByUndo) {
 TEST_F(LabelEventsTest, LabelPressDropsTheToolAndGivesAUserSymbolItsPoint) {
     play("tool Line; click 1 1; move 3 2");
     click(1);
-    EXPECT_EQ(editor.CurrentTool, -1);
-    EXPECT_EQ(editor.LineStartX, NoPoint);
+    EXPECT_EQ(editor.gesture.CurrentTool, -1);
+    EXPECT_EQ(editor.gesture.LineStartX, NoPoint);
     EXPECT_THAT(marks(), ElementsAre(0, 1, 0));
 
     std::vector<Single> point;
     editor.SymbolPointTaken = [&](Single x, Single y, Short label) {
         point = {static_cast<Single>(label), x, y};
     };
-    editor.SavingUserSymbol = true;
+    editor.gesture.SavingUserSymbol = true;
     press(2, 5.1f, 3.1f);
     release(2);
     EXPECT_EQ(editor.LastSelectedLabel, 2);
     EXPECT_THAT(point, IsEmpty()) << "no point is wanted yet";
-    editor.SymbolPointPending = true;
+    editor.gesture.SymbolPointPending = true;
     press(2, 5.1f, 3.1f);
     release(2);
     EXPECT_THAT(point, ElementsAre(2, 5.1f, 3.1f));
@@ -202,7 +204,7 @@ TEST(LabelAlignment, PutsTheSelectedLabelsAtTheNextPress) {
         EXPECT_THAT(bench.left(), ElementsAre(c.left[0], c.left[1], 5));
         EXPECT_THAT(bench.top(), ElementsAre(c.top[0], c.top[1], 3));
         EXPECT_EQ(bench.snapshots, 1);
-        EXPECT_FALSE(bench.editor.BandArmed) << "the press meant nothing else";
+        EXPECT_FALSE(bench.editor.gesture.BandArmed) << "the press meant nothing else";
         bench.play("press 8 8; release");
         EXPECT_EQ(bench.left()[0], c.left[0]) << "one press only";
     }
@@ -231,7 +233,8 @@ TEST_F(LabelEventsTest, CaptionOnlyEditsTheOneSelectedLabelInPlaceAndEnterEndsIt
     EXPECT_EQ(editor.form.FocusRequest, Focus::TextEdit);
     txtEdit_GotFocus(editor);
     type("BBBB");
-    EXPECT_FLOAT_EQ(left()[1], 3 - Wide) << "about its centre";
+    EXPECT_FLOAT_EQ(editor.form.lbl[1].Left, 3 - Wide) << "about its centre";
+    EXPECT_TRUE(labels()[1].starts_with("BB|")) << "until it is kept";
     EXPECT_EQ(editor.form.lbl[1].ForeColor, editor.SelectionColor);
     txtEdit_EnterPressed(editor);
     EXPECT_TRUE(labels()[1].starts_with("BBBB|"));

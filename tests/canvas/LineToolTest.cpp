@@ -1,5 +1,6 @@
 // The line and square tools, click by click.
 #include "canvas/tools/LineTool.h"
+#include "canvas/tools/ToolTable.h"
 
 #include "Bench.h"
 
@@ -78,11 +79,11 @@ TEST(DashedLine, IsCutIntoDashesAndGapsOfOneLength) {
 TEST(DashedLine, DashesOfADiagonalAreMeasuredAlongIt) {
     for (const Single sign : {1.0f, -1.0f}) {
         Bench bench;
-        bench.editor.LineStartX = bench.editor.LineStartY = 5;
+        bench.editor.gesture.LineStartX = bench.editor.gesture.LineStartY = 5;
         bench.editor.SnapX = 5 + 3 * sign;
         bench.editor.SnapY = 9;
         bench.editor.DashSpacing = 0.5f;
-        bench.editor.DashedMode = 1;
+        bench.editor.gesture.DashedMode = 1;
         InsertSavedLine(bench.editor, Black, "");
         const DeviceTable& table = bench.drawing.devices;
         ASSERT_EQ(table.DeviceCount, 5);
@@ -112,7 +113,7 @@ TEST_F(LineToolTest, SquareToolAlternatesBetweenItsCornersAndIsOneDevice) {
     EXPECT_THAT(devices(), IsEmpty());
     play("click 3 2");
     EXPECT_THAT(message(), HasSubstr("End point for Square found."));
-    EXPECT_EQ(editor.LineStartX, NoPoint);
+    EXPECT_EQ(editor.gesture.LineStartX, NoPoint);
     play("click 5 5; click 4 4; click 6 3; click 6 2");
     EXPECT_THAT(devices(),
                 ElementsAre("InsertSavedSquare|1|1|3|2|0|0", "InsertSavedSquare|5|5|4|4|0|0",

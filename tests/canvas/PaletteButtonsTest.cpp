@@ -46,7 +46,7 @@ TEST_F(PaletteButtonsTest, AnotherLibraryPutsEveryOrientationBackAndEndsTheTool)
     editor.form.cmdSym[92].Tag = "Mine";
     play("tool Capacitor");
     mnuLibIEC_Click(editor);
-    EXPECT_EQ(editor.CurrentTool, -1);
+    EXPECT_EQ(editor.gesture.CurrentTool, -1);
     EXPECT_EQ(editor.OpenLibrary, Library::IEC);
     EXPECT_EQ(button("Capacitor").ButtonOrientation, 0);
     for (const PaletteButton& place : editor.form.cmdSym)

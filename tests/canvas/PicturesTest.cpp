@@ -1,5 +1,7 @@
 #include "canvas/file/Pictures.h"
 
+#include "canvas/history/History.h"
+
 #include "Bench.h"
 #include "canvas/history/Undo.h"
 
@@ -9,7 +11,6 @@ namespace {
 struct PicturesTest : BenchTest {
     PicturesTest() {
         drawing.TakeUndoSnapshot = [this] { TakeUndoSnapshot(editor); };
-        editor.ClearHistory = [this] { ClearHistory(editor); };
         ClearHistory(editor);
         for (const char* folder : {"a", "b"})
             machine.folder.write(std::string(folder) + "/logo.bmp", folder);

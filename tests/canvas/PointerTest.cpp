@@ -1,5 +1,6 @@
 // Presses, moves and releases on the canvas: snap, cursor, grip, band, ghost and placement.
 #include "canvas/gestures/Pointer.h"
+#include "canvas/view/SnapLines.h"
 
 #include "Bench.h"
 
@@ -156,9 +157,9 @@ TEST_F(PointerTest, CursorFollowsZoomThenToolThenNothing) {
     };
     EXPECT_EQ(shape("move 1 1"), MousePointer::Default);
     EXPECT_EQ(shape("tool Lamp; move 1 2"), MousePointer::Cross);
-    editor.ZoomOutPending = true;
+    editor.gesture.ZoomOutPending = true;
     EXPECT_EQ(shape("move 1 3"), MousePointer::ZoomOut);
-    editor.ZoomInPending = true;
+    editor.gesture.ZoomInPending = true;
     EXPECT_EQ(shape("move 1 4"), MousePointer::ZoomIn);
     EXPECT_EQ(shape("key 27 0; move 1 5"), MousePointer::Default);
 }
@@ -187,12 +188,12 @@ TEST_F(PointerTest, BandShowsOnlyTowardsTheLowerRightAndGoesWithTheButton) {
     const PointerState& pointer = editor.form.pointer;
     play("move 2 2; press 2 2; drag 3 5");
     EXPECT_EQ(pointer.shpSelect, (Overlay{true, 2, 2, 1, 3}));
-    EXPECT_TRUE(editor.BandShown);
+    EXPECT_TRUE(editor.gesture.BandShown);
     play("release");
-    EXPECT_FALSE(pointer.shpSelect.Visible || editor.BandShown || editor.BandArmed);
+    EXPECT_FALSE(pointer.shpSelect.Visible || editor.gesture.BandShown || editor.gesture.BandArmed);
 
     play("press 4 4; drag 3 3");
-    EXPECT_TRUE(editor.BandShown);
+    EXPECT_TRUE(editor.gesture.BandShown);
     EXPECT_FALSE(pointer.shpSelect.Visible);
     play("release");
 
@@ -209,7 +210,7 @@ TEST(Band, StartsNeitherWithAToolNorWithTheRightButtonNorByMovingAlone) {
                                "move 2 2; press 2 2; move 3 3"}) {
         Bench bench;
         bench.play(script);
-        EXPECT_FALSE(bench.editor.BandShown) << script;
+        EXPECT_FALSE(bench.editor.gesture.BandShown) << script;
         EXPECT_FALSE(bench.editor.form.pointer.shpSelect.Visible) << script;
     }
 }
@@ -219,25 +220,25 @@ TEST_F(PointerTest, RightButtonOpensTheDrawingMenuButResetsTheDashedLine) {
         false;
     play("tool Line; click 1 1; click 2 1; right 3 1; release");
     EXPECT_THAT(machine.dialogs.popUps, ElementsAre("mnuEditDrawing"));
-    EXPECT_NE(editor.CurrentTool, -1);
+    EXPECT_NE(editor.gesture.CurrentTool, -1);
     EXPECT_TRUE(enabled(Menu::mnuEditCopy) && enabled(Menu::mnuEditMove));
     EXPECT_THAT(canvas.temporary, IsEmpty());
     EXPECT_EQ(devices().size(), 1u);
 
     play("tool Dashed Line; click 1 2; right 3 1; release");
     EXPECT_EQ(machine.dialogs.popUps.size(), 1u);
-    EXPECT_EQ(editor.CurrentTool, -1);
-    EXPECT_EQ(editor.LineStartX, NoPoint);
+    EXPECT_EQ(editor.gesture.CurrentTool, -1);
+    EXPECT_EQ(editor.gesture.LineStartX, NoPoint);
 }
 
 TEST_F(PointerTest, PressPlacesNothingWhileAZoomIsPendingOrTheSimulationRuns) {
     play("tool Ground; move 3 3");
-    editor.ZoomInPending = true;
+    editor.gesture.ZoomInPending = true;
     play("press 3.1 4.2; release");
     EXPECT_EQ(editor.ZoomPointX, 3.1f);
     EXPECT_EQ(editor.ZoomPointY, 4.2f);
-    EXPECT_FALSE(editor.MouseIsDown);
-    editor.ZoomInPending = false;
+    EXPECT_FALSE(editor.gesture.MouseIsDown);
+    editor.gesture.ZoomInPending = false;
     editor.SimulationMode = true;
     const std::string shown = coordinates();
     play("click 4 4; right 4 4; release");
@@ -252,15 +253,15 @@ TEST(DoubleClick, EndsThePolylineAndArmsTheNextInItsStyle) {
         Bench bench;
         bench.play("tool " + tool + "; click 1 1; double 2 1");
         const char* next = tool.starts_with("Dashed") ? "Dashed Line" : "Line";
-        EXPECT_EQ(bench.editor.ToolName, next);
-        EXPECT_EQ(bench.editor.LineStartX, NoPoint);
+        EXPECT_EQ(bench.editor.gesture.ToolName, next);
+        EXPECT_EQ(bench.editor.gesture.LineStartX, NoPoint);
         EXPECT_GT(bench.drawing.devices.DeviceCount, 0);
         EXPECT_TRUE(bench.button(next).Pressed);
     }
     Bench zooming;
-    zooming.editor.ZoomInPending = true;
+    zooming.editor.gesture.ZoomInPending = true;
     picLX_DblClick(zooming.editor);
-    EXPECT_EQ(zooming.editor.CurrentTool, -1);
+    EXPECT_EQ(zooming.editor.gesture.CurrentTool, -1);
 }
 
 TEST_F(PointerTest, PicturesAreOutlinedUnderThePointerAtFullSizeOnly) {
@@ -274,9 +275,9 @@ TEST_F(PointerTest, PicturesAreOutlinedUnderThePointerAtFullSizeOnly) {
     EXPECT_EQ(outlines("move 2 1.5"), 1u);
     EXPECT_EQ(describe(canvas.temporary[0]), "Line 1,1 3,2 Box color 16776960 width 1 style 0");
     EXPECT_EQ(outlines("move 4 4"), 0u);
-    editor.ZoomInPending = true;
+    editor.gesture.ZoomInPending = true;
     EXPECT_EQ(outlines("move 2 1.6"), 0u);
-    editor.ZoomInPending = false;
+    editor.gesture.ZoomInPending = false;
     editor.ZoomFactor = 1.25f;
     EXPECT_EQ(outlines("move 2 1.7"), 0u);
 }

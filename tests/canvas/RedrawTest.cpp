@@ -1,11 +1,12 @@
 // The picture on the canvas made again from the tables, and the way back to idle.
-#include "canvas/view/Redraw.h"
 
 #include <cmath>
 #include <set>
 
 #include "Bench.h"
-#include "canvas/tools/Colors.h"
+#include "canvas/gestures/Gesture.h"
+#include "canvas/tools/LineWidth.h"
+#include "canvas/view/Painting.h"
 #include "document/Records.h"
 
 namespace ladrix::test {
@@ -169,8 +170,9 @@ TEST_F(RedrawTest, ResetBringsEveryControlBackToIdleAndKeepsTheSettings) {
     editor.form.cmbScale.Enabled = editor.form.cmdScaleOK.Enabled = false;
     drawing.devices.DeviceSelected = {1, 1};
     editor.SelectedCount = editor.SelectedDeviceCount = 2;
-    editor.CopyFromX = editor.CopyToY = 3;
-    editor.SavingUserSymbol = editor.SymbolPointPending = editor.SnapshotPending = true;
+    editor.gesture.CopyFromX = editor.gesture.CopyToY = 3;
+    editor.gesture.SavingUserSymbol = editor.gesture.SymbolPointPending = editor.SnapshotPending =
+        true;
     editor.SnapStep = 0.5f;
     editor.ZoomFactor = 1.25f;
     editor.CurrentColor = editor.SelectionColor = 255;
@@ -191,8 +193,8 @@ TEST_F(RedrawTest, ResetBringsEveryControlBackToIdleAndKeepsTheSettings) {
     EXPECT_TRUE(enabled(Menu::mnuEditSelectAll));
     EXPECT_THAT(drawing.devices.DeviceSelected, ElementsAre(0, 0));
     EXPECT_EQ(editor.SelectedCount + editor.SelectedDeviceCount + editor.SelectedLabelCount, 0);
-    EXPECT_EQ(editor.CopyFromX + editor.CopyToY, 0);
-    EXPECT_FALSE(editor.SavingUserSymbol || editor.SymbolPointPending);
+    EXPECT_EQ(editor.gesture.CopyFromX + editor.gesture.CopyToY, 0);
+    EXPECT_FALSE(editor.gesture.SavingUserSymbol || editor.gesture.SymbolPointPending);
     EXPECT_EQ(editor.form.pointer.Pointer, MousePointer::Default);
     EXPECT_EQ(editor.form.FocusRequest, Focus::Canvas);
     EXPECT_FALSE(editor.form.pointer.LineV.Visible);
@@ -205,10 +207,10 @@ TEST_F(RedrawTest, ResetBringsEveryControlBackToIdleAndKeepsTheSettings) {
     EXPECT_EQ(editor.CurrentColor, 255);
     EXPECT_EQ(editor.SelectionColor, 255);
 
-    editor.CopyStage = 1;
+    editor.gesture.CopyStage = 1;
     cmdReset_Click(editor);
     EXPECT_TRUE(enabled(Menu::mnuEditPaste)) << "while a copy buffer stands";
-    EXPECT_EQ(editor.CopyStage, 0);
+    EXPECT_EQ(editor.gesture.CopyStage, 0);
     EXPECT_EQ(snapshots, 1);
 }
 

@@ -2,7 +2,6 @@
 #include "canvas/view/Snap.h"
 
 #include "Bench.h"
-#include "canvas/gestures/Pointer.h"
 
 namespace ladrix::test {
 namespace {
@@ -59,11 +58,11 @@ TEST_F(SnapTest, ThePitchIsToldInTheUsersMarkDoubledHalvedAndPutBackToTheDefault
     EXPECT_EQ(editor.SnapStep, 0.75f);
     cmdSnap_MouseDown(editor, RightButton);
     EXPECT_EQ(editor.form.cmdSnap.Caption, "Snap: 0,25");
-    EXPECT_NE(editor.CurrentTool, -1);
+    EXPECT_NE(editor.gesture.CurrentTool, -1);
     EXPECT_EQ(canvas.persistentCls, 0) << "nothing to repaint";
     editor.GridOn = editor.GridFollowsSnap = true;
     cmdSnapHigher_Click(editor);
-    EXPECT_EQ(editor.CurrentTool, -1);
+    EXPECT_EQ(editor.gesture.CurrentTool, -1);
     EXPECT_EQ(canvas.persistentCls, 1);
     EXPECT_FLOAT_EQ(canvas.persistent.at(0).x1, 1) << "a line at every second step";
 }

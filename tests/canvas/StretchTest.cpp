@@ -2,7 +2,6 @@
 #include "canvas/view/Stretch.h"
 
 #include "Bench.h"
-#include "canvas/gestures/Pointer.h"
 #include "canvas/view/View.h"
 
 namespace ladrix::test {

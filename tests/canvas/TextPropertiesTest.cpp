@@ -1,10 +1,9 @@
 // frmTextProps: what it shows, what it applies, and what it refuses.
+#include "canvas/gestures/Gesture.h"
 #include "canvas/labels/TextProperties.h"
 
 #include "Bench.h"
 #include "canvas/gestures/Keys.h"
-#include "canvas/gestures/Selection.h"
-#include "canvas/view/Redraw.h"
 
 namespace ladrix::test {
 namespace {

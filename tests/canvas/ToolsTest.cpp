@@ -22,37 +22,37 @@ TEST_F(ToolsTest, ToolPressKeepsExactlyOneButtonPressed) {
 
 TEST_F(ToolsTest, ToolPressEndsWhatWasUnderWay) {
     play("tool Ground; click 1 1; key 27 0");
-    editor.ZoomInPending = editor.ZoomOutPending = true;
-    editor.MouseIsDown = true;
+    editor.gesture.ZoomInPending = editor.gesture.ZoomOutPending = true;
+    editor.gesture.MouseIsDown = true;
     drawing.devices.DeviceSelected[0] = 1;
     editor.SelectedCount = editor.SelectedDeviceCount = 1;
-    editor.CopyStage = 1;
+    editor.gesture.CopyStage = 1;
     play("tool Lamp");
-    EXPECT_FALSE(editor.ZoomInPending || editor.ZoomOutPending);
-    EXPECT_FALSE(editor.MouseIsDown);
+    EXPECT_FALSE(editor.gesture.ZoomInPending || editor.gesture.ZoomOutPending);
+    EXPECT_FALSE(editor.gesture.MouseIsDown);
     EXPECT_EQ(editor.SelectedCount, 0);
     EXPECT_EQ(drawing.devices.DeviceSelected[0], 0);
-    EXPECT_EQ(editor.CopyStage, 0);
-    EXPECT_EQ(editor.ToolName, "Lamp");
+    EXPECT_EQ(editor.gesture.CopyStage, 0);
+    EXPECT_EQ(editor.gesture.ToolName, "Lamp");
 
     play("tool Line; click 1 1; move 2 2; tool Lamp");
     EXPECT_THAT(canvas.temporary, IsEmpty()) << "the rubber line";
-    EXPECT_EQ(editor.LineStartX, NoPoint);
+    EXPECT_EQ(editor.gesture.LineStartX, NoPoint);
 }
 
 TEST_F(ToolsTest, ToolPressWhileThePaletteIsArrangedDoesNothing) {
     editor.Arranging = true;
     play("tool Lamp");
-    EXPECT_EQ(editor.CurrentTool, -1);
+    EXPECT_EQ(editor.gesture.CurrentTool, -1);
     EXPECT_FALSE(button("Lamp").Pressed);
 }
 
 TEST_F(ToolsTest, ToolPressRepeatPressesTheLastToolEvenAfterAReset) {
     mnuEditRepeat_Click(editor);
-    EXPECT_EQ(editor.CurrentTool, -1);
+    EXPECT_EQ(editor.gesture.CurrentTool, -1);
     play("tool Lamp; key 27 0");
     mnuEditRepeat_Click(editor);
-    EXPECT_EQ(editor.ToolName, "Lamp");
+    EXPECT_EQ(editor.gesture.ToolName, "Lamp");
     EXPECT_TRUE(button("Lamp").Pressed);
 }
 

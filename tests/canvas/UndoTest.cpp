@@ -1,5 +1,7 @@
 // Undo and redo, told by the saved texts; and how the history keeps them.
+#include "canvas/history/History.h"
 #include "canvas/history/Undo.h"
+#include "canvas/tools/LineWidth.h"
 
 #include <malloc.h>
 
@@ -12,7 +14,6 @@
 #include "canvas/labels/Labels.h"
 #include "canvas/tools/Colors.h"
 #include "canvas/tools/RadiusFields.h"
-#include "canvas/view/Redraw.h"
 #include "document/DrawingFile.h"
 #include "document/Records.h"
 
@@ -22,7 +23,6 @@ namespace {
 struct UndoBench : Bench {
     UndoBench() {
         drawing.TakeUndoSnapshot = [this] { TakeUndoSnapshot(editor); };
-        editor.ClearHistory = [this] { ClearHistory(editor); };
         ClearHistory(editor);
     }
     void undo() { mnuEditUndo_Click(editor); }
@@ -76,7 +76,7 @@ TEST_F(UndoTest, UndoStepsBackAndForthAndStopsAtTheEnds) {
 
 TEST_F(UndoTest, UndoRestoresAnEmptySectionAsEmpty) {
     play("tool Text; move 3 3");
-    editor.TextBuffer = "///PICTURES///";  // a label may read like a marker
+    editor.gesture.TextBuffer = "///PICTURES///";  // a label may read like a marker
     play("click 3 3; key 27 0; tool Ground; click 1 1; key 27 0");
     undo();
     EXPECT_THAT(labels(), SizeIs(1));
@@ -175,7 +175,7 @@ struct RandomCommands {
         switch (below(7)) {
             case 0:
             case 1:
-                bench.editor.TextBuffer = "text " + std::to_string(below(9));
+                bench.editor.gesture.TextBuffer = "text " + std::to_string(below(9));
                 bench.play(std::string("tool ") + Tools[below(7)] + "; click " + point() +
                            "; click " + point() + "; key 27 0");
                 break;

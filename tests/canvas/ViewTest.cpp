@@ -1,8 +1,9 @@
 // How the page lies in the frame: sizes, bars and grid.
+#include "canvas/view/Background.h"
+#include "canvas/view/Painting.h"
 #include "canvas/view/View.h"
 
 #include "Bench.h"
-#include "canvas/tools/Colors.h"
 
 namespace ladrix::test {
 namespace {
@@ -15,7 +16,7 @@ struct ViewTest : BenchTest {
 
 TEST_F(ViewTest, PageTakesItsSizeFromTheKeyAndKeepsItForAnUnknownOne) {
     play("tool Ground; click 12 1");
-    EXPECT_FALSE(editor.SnapXFound);
+    EXPECT_FALSE(editor.gesture.SnapXFound);
     canvas.persistent.clear();
     for (const char* key : {"297x420Landscape", "", "8.5X11Portrait", "8.5x11", "A4"}) {
         drawing.PageLayoutKey = key;
@@ -72,7 +73,7 @@ TEST_F(ViewTest, ScrollBarsMoveTheViewAndRedraw) {
     EXPECT_EQ(canvas.persistentCls, redraws + 2) << "one redraw each";
     EXPECT_EQ(editor.form.FocusRequest, Focus::Canvas);
     EXPECT_TRUE(editor.symbols.SkipUserSymbolOnce);
-    editor.ZoomInPending = true;
+    editor.gesture.ZoomInPending = true;
     HScroll1_Change(editor);
     EXPECT_FALSE(editor.symbols.SkipUserSymbolOnce);
 }

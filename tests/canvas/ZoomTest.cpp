@@ -5,7 +5,6 @@
 
 #include "Bench.h"
 #include "canvas/gestures/Keys.h"
-#include "canvas/view/Redraw.h"
 #include "canvas/view/View.h"
 
 namespace ladrix::test {
@@ -49,7 +48,7 @@ TEST_F(ZoomTest, RunsFromMinusFiveToFourteenStepsAndBackAndRefusesTheNextWithARe
         EXPECT_THAT(machine.dialogs.boxes, ElementsAre(Box{c.refusal, "Ladrix"}));
         EXPECT_EQ(editor.ZoomFactor, last);
         EXPECT_EQ(std::abs(editor.ZoomStepCount), c.steps);
-        EXPECT_EQ(editor.CurrentTool, -1) << "reset";
+        EXPECT_EQ(editor.gesture.CurrentTool, -1) << "reset";
         EXPECT_EQ(canvas.scaleZoom, last);
         repeat(c.back, c.steps);
         EXPECT_EQ(editor.ZoomFactor, 1) << "exactly";
@@ -121,7 +120,7 @@ TEST_F(ZoomTest, EveryStepCostsOneRedraw) {
 TEST_F(ZoomTest, StaysPendingUntilResetOrATool) {
     play("tool Line; click 1 1");
     cmdZoomIn_Click(editor);
-    EXPECT_EQ(editor.CurrentTool, -1) << "a tool in hand is put away";
+    EXPECT_EQ(editor.gesture.CurrentTool, -1) << "a tool in hand is put away";
     EXPECT_EQ(editor.form.cmdZoomIn.BackColor, Cyan);
     play("click 1 1; right 1 1; release");
     EXPECT_EQ(editor.ZoomStepCount, 2) << "with either button";
@@ -143,7 +142,7 @@ TEST_F(ZoomTest, StaysPendingUntilResetOrATool) {
 TEST_F(ZoomTest, KeysZoomAtTheLastPlacement) {
     play("tool Ground; click 3 4; key 187 2");
     EXPECT_EQ(editor.ZoomStepCount, 1);
-    EXPECT_EQ(editor.CurrentTool, buttonOf("Ground")) << "the tool stays in hand";
+    EXPECT_EQ(editor.gesture.CurrentTool, buttonOf("Ground")) << "the tool stays in hand";
     EXPECT_NEAR(onScreenX(3), 3, 0.01);
     EXPECT_NEAR(onScreenY(4), 4, 0.01);
     play("key 187 3; key 189 2; key 189 2; key 189 2");
@@ -162,7 +161,7 @@ TEST_F(ZoomTest, TheWheelKeepsThePointUnderThePointerAtEveryStep) {
         EXPECT_NEAR(onScreenY(at + 1), y, 1e-4);
     }
     EXPECT_EQ(editor.ZoomStepCount, 3);
-    EXPECT_NE(editor.LineStartX, NoPoint) << "the line under way goes on";
+    EXPECT_NE(editor.gesture.LineStartX, NoPoint) << "the line under way goes on";
     EXPECT_EQ(message(), "Current Zoom Scale = 195.3125%");
     for (int i = 0; i < 20; ++i)
         zoomByWheel(editor, ZoomStep::In, 4, 4);

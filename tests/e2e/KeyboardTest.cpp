@@ -82,14 +82,14 @@ TEST_F(KeyboardTest, TheFormsOwnKeysAct) {
         EXPECT_TRUE(acted()) << keys;
     }
     journey.press("Line");
-    const Short line = editor.CurrentTool;
+    const Short line = editor.gesture.CurrentTool;
     for (const auto& [key, way] :
          {std::pair{Qt::Key_Down, 4}, {Qt::Key_Right, 5}, {Qt::Key_Up, 1}, {Qt::Key_Left, 0}}) {
         Journey::key(key);
-        EXPECT_EQ(editor.CurrentTool, line + way);
+        EXPECT_EQ(editor.gesture.CurrentTool, line + way);
     }
     Journey::key(Qt::Key_Escape);
-    EXPECT_EQ(editor.CurrentTool, -1);
+    EXPECT_EQ(editor.gesture.CurrentTool, -1);
 
     journey.press("Ground");
     journey.clickPage(4, 2);
@@ -122,7 +122,7 @@ TEST_F(KeyboardTest, AFieldKeepsTheKeysThatEditItsText) {
         field.selectAll();
         Journey::type(f.typed);
         const QString typed = toQString(f.typed);
-        const Short tool = editor.CurrentTool;
+        const Short tool = editor.gesture.CurrentTool;
         Journey::key(Qt::Key_Home);
         Journey::key(Qt::Key_Delete);
         EXPECT_EQ(field.text(), typed.mid(1));
@@ -137,11 +137,11 @@ TEST_F(KeyboardTest, AFieldKeepsTheKeysThatEditItsText) {
         for (const Qt::Key key : {Qt::Key_C, Qt::Key_Y, Qt::Key_X})
             Journey::key(key, Qt::ControlModifier);
         EXPECT_EQ(field.text(), "");
-        EXPECT_EQ(editor.CurrentTool, tool) << "the arrows have not walked the palette";
+        EXPECT_EQ(editor.gesture.CurrentTool, tool) << "the arrows have not walked the palette";
         EXPECT_EQ(editor.SnapStep, 0.25f);
         EXPECT_TRUE(chosen.empty()) << chosen.front();
         Journey::key(Qt::Key_Escape);
-        EXPECT_EQ(editor.CurrentTool, -1) << "ESC is the form's everywhere";
+        EXPECT_EQ(editor.gesture.CurrentTool, -1) << "ESC is the form's everywhere";
     }
 }
 

@@ -3,7 +3,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "canvas/view/Redraw.h"
 #include "canvas/view/View.h"
 #include "document/PageLayout.h"
 #include "output/PrinterForms.h"

@@ -93,7 +93,7 @@ struct UserSymbolWindowTest : test::WindowOnQt {
         test::press(field, Qt::Key_Return);
     }
     std::string toolTag() {
-        const Short tool = editor().CurrentTool;
+        const Short tool = editor().gesture.CurrentTool;
         return tool < 0 ? "" : editor().form.cmdSym[static_cast<std::size_t>(tool)].Tag;
     }
 };
@@ -138,7 +138,7 @@ TEST_F(UserSymbolWindowTest, CapturedPlacedArrangedTransferredAndFoundAfterARest
     EXPECT_EQ(toolTag(), "Gamma");
     search("zener");
     EXPECT_EQ(toolTag(), "Zener Diode");
-    EXPECT_FALSE(window->palette().buttonRect(editor().CurrentTool).isEmpty());
+    EXPECT_FALSE(window->palette().buttonRect(editor().gesture.CurrentTool).isEmpty());
 }
 
 TEST_F(UserSymbolWindowTest, ColumnsLeaveThePageItsRoomAndEverySymbolCanBeReached) {

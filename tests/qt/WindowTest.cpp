@@ -45,7 +45,7 @@ TEST_F(WindowTest, SelectsByGripAndBandDeletesAndTakesItBack) {
     EXPECT_EQ(shownAt(2, 2), QColor(Qt::white)) << "the grip stands on the insertion point";
     click(picLX(), at(2.02, 2));
     EXPECT_EQ(textOf("lblSelected"), "1 item selected");
-    EXPECT_FALSE(editor().BandArmed) << "the canvas has seen no press";
+    EXPECT_FALSE(editor().gesture.BandArmed) << "the canvas has seen no press";
 
     move(picLX(), at(2.5, 2.5));
     const QColor page = shownAt(3.4, 3.4);
@@ -175,12 +175,12 @@ TEST_F(WindowTest, TheFlyOutGivesAButtonItsOrientation) {
     click(flyOut, QPointF(flyOut.width() / 2.0, flyOut.height() * 5 / 8.0));
     EXPECT_FALSE(flyOut.isVisible());
     EXPECT_EQ(editor().form.cmdSym[static_cast<std::size_t>(index)].ButtonOrientation, 2);
-    EXPECT_EQ(editor().CurrentTool, index);
+    EXPECT_EQ(editor().gesture.CurrentTool, index);
     // The corner mark opens it too, without choosing the tool anew.
     press(picLX(), Qt::Key_Escape);
     click(window->palette(), cell.bottomRight() - QPoint(3, 3));
     EXPECT_TRUE(flyOut.isVisible());
-    EXPECT_EQ(editor().CurrentTool, -1);
+    EXPECT_EQ(editor().gesture.CurrentTool, -1);
     move(picLX(), at(4, 4));
     EXPECT_FALSE(flyOut.isVisible());
 }
@@ -269,7 +269,7 @@ TEST_F(WindowTest, TheWheelScrollsTheOtherWayWithShiftAndZoomsWithCtrl) {
     EXPECT_FLOAT_EQ(editor().ZoomFactor, 1.25f);
     EXPECT_NEAR(at(x, y).x(), pointer.x(), 0.6);
     EXPECT_NEAR(at(x, y).y(), pointer.y(), 0.6);
-    EXPECT_EQ(editor().CurrentTool, ContactButton);
+    EXPECT_EQ(editor().gesture.CurrentTool, ContactButton);
 }
 
 TEST_F(WindowTest, TheMiddleButtonDragsThePageAndTheSideButtonsDoNothing) {

@@ -8,7 +8,6 @@
 #include "canvas/gestures/Keys.h"
 #include "canvas/gestures/Pointer.h"
 #include "canvas/tools/PaletteButtons.h"
-#include "canvas/view/Redraw.h"
 #include "canvas/view/Zoom.h"
 #include "support/FakePlatform.h"
 
@@ -330,7 +329,7 @@ TEST_F(SimulationTest, TakesADoubleClickForAPressAndTheRightButtonForNothing) {
     release();
     picLX_DblClick(editor);
     EXPECT_EQ(shown(), "V_Demo_2_Start.els");
-    EXPECT_EQ(editor.CurrentTool, -1);
+    EXPECT_EQ(editor.gesture.CurrentTool, -1);
 }
 
 TEST_F(SimulationTest, DoesNotJoinATemplateToItsPictures) {

@@ -6,8 +6,8 @@
 #include <cmath>
 
 #include "SymbolBench.h"
+#include "canvas/gestures/Gesture.h"
 #include "canvas/gestures/Pointer.h"
-#include "canvas/gestures/Selection.h"
 
 namespace ladrix {
 namespace {
@@ -264,7 +264,7 @@ TEST_F(PassesTest, OneClickAfterTheColourMakesTheSymbolAndRecordsNothing) {
     EXPECT_EQ(test::readable(bench.symbols.compiler.SymbolScriptText), "Line|0|-0.25|1|-0.25");
     EXPECT_EQ(bench.machine.clipboard.text, bench.symbols.compiler.SymbolExportText);
     EXPECT_EQ(bench.drawing.devices.DeviceCount, 1);
-    EXPECT_FALSE(bench.editor.SymbolPointPending || bench.editor.SymbolPointFound);
+    EXPECT_FALSE(bench.editor.gesture.SymbolPointPending || bench.editor.gesture.SymbolPointFound);
     EXPECT_EQ(bench.drawing.devices.DeviceSelected[0], 1);
 }
 

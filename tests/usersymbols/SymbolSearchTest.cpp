@@ -27,9 +27,9 @@ struct SymbolSearchTest : test::LibraryBench {
         pressFound(SearchEntry(search.Entries[search.Found[0]]), symbols, editor);
     }
     std::string toolTag() const {
-        return editor.CurrentTool < 0
+        return editor.gesture.CurrentTool < 0
                    ? ""
-                   : editor.form.cmdSym[static_cast<std::size_t>(editor.CurrentTool)].Tag;
+                   : editor.form.cmdSym[static_cast<std::size_t>(editor.gesture.CurrentTool)].Tag;
     }
 };
 
@@ -67,7 +67,7 @@ TEST_F(SymbolSearchTest, TheSymbolsLibraryIsOpenedWhereItIsNot) {
     EXPECT_EQ(editor.OpenLibrary, Library::Electronic) << "it stands in this palette too";
     choose("plc");
     EXPECT_EQ(symbols.LibraryFile, "Sample Symbols.lib");
-    EXPECT_EQ(editor.CurrentTool, 92);
+    EXPECT_EQ(editor.gesture.CurrentTool, 92);
     EXPECT_EQ(editor.symbols.block.CurDevice, "InsertUserSymbol");
 }
 
@@ -77,7 +77,7 @@ TEST_F(SymbolSearchTest, ASymbolThatIsGoneIsTold) {
     write("Sample Symbols", {"PLC Input Card"});
     pressFound(entry, symbols, editor);
     EXPECT_EQ(lastBox(), "Starter, Reversing is no longer in Sample Symbols.");
-    EXPECT_EQ(editor.CurrentTool, -1);
+    EXPECT_EQ(editor.gesture.CurrentTool, -1);
 }
 
 }  // namespace

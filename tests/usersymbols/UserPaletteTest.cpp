@@ -100,7 +100,7 @@ TEST_F(UserPaletteTest, DraggedButtonsTakeTheirPlacesAndAreSavedInOneGo) {
     EXPECT_FALSE(symbols.cmdSaveSymbolOrder.Visible);
     EXPECT_EQ(list("User Symbols"), "B D C A");
     EXPECT_EQ(tags(), "B D C A");
-    EXPECT_EQ(editor.CurrentTool, -1);
+    EXPECT_EQ(editor.gesture.CurrentTool, -1);
 }
 
 struct SavingFormsTest : UserPaletteTest {

@@ -3,8 +3,11 @@
 #include <utility>
 
 #include "canvas/file/DrawingIO.h"
+#include "canvas/file/FileText.h"
 #include "canvas/file/SaveGuard.h"
-#include "canvas/view/Redraw.h"
+#include "canvas/file/Title.h"
+#include "canvas/gestures/Gesture.h"
+#include "canvas/history/History.h"
 #include "canvas/view/View.h"
 #include "canvas/view/Zoom.h"
 #include "document/DrawingFile.h"
@@ -129,7 +132,7 @@ void emptyDrawing(Editor& editor) {
     editor.drawing.FileDescription.clear();
     editor.img.clear();
     editor.LastSelectedLabel = -1;
-    editor.LabelEdited = false;
+    editor.labelEdit = {};
     editor.backups.shown.clear();
 }
 
@@ -256,7 +259,7 @@ void OpenNamedDrawing(Editor& editor, const std::string& folder, const std::stri
 }
 
 bool NewDrawing(Editor& editor) {
-    if (editor.CopyStage > 0) {
+    if (editor.gesture.CopyStage > 0) {
         editor.platform.tell("New drawing not possible. Copy point not selected.");
         return false;
     }
@@ -265,7 +268,7 @@ bool NewDrawing(Editor& editor) {
     drawing.TitleState = drawing.CurrentFileName.empty() ? 0 : 1;
     layOutNewPage(editor);
     ResetEditor(editor);
-    if (editor.ClearHistory) editor.ClearHistory();
+    ClearHistory(editor);
     UpdateTitle(editor);
     return true;
 }
@@ -405,14 +408,6 @@ void frmDesc_cmdSave_Click(Editor& editor) {
 
 void frmDesc_cmdExit_Click(Editor& editor) {
     editor.frmDesc.Visible = false;
-}
-
-void UpdateTitle(Editor& editor) {
-    const std::string& name = editor.drawing.CurrentFileName;
-    const std::string& backup = editor.backups.shown;
-    editor.form.Caption = "Ladrix - Current Library: " + editor.UserLibraryName +
-                          " - File Name: " + (name.empty() ? "Untitled" : name) +
-                          (backup.empty() ? "" : " (backup of " + backup + ")");
 }
 
 }  // namespace ladrix

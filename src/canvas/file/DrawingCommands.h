@@ -65,7 +65,4 @@ void mnuEditFileDescription_Click(Editor& editor);
 void frmDesc_cmdSave_Click(Editor& editor);
 void frmDesc_cmdExit_Click(Editor& editor);
 
-// The caption of the main window.
-void UpdateTitle(Editor& editor);
-
 }  // namespace ladrix

@@ -2,8 +2,9 @@
 
 #include <utility>
 
-#include "canvas/file/DrawingCommands.h"
-#include "canvas/view/Redraw.h"
+#include "canvas/file/Title.h"
+#include "canvas/history/History.h"
+#include "canvas/view/Painting.h"
 #include "canvas/view/View.h"
 #include "document/Records.h"
 
@@ -35,13 +36,6 @@ void parseAll(Editor& editor) {
 
 }  // namespace
 
-FileText readDrawingFile(Files& files, const std::string& path) {
-    FileText file;
-    file.content = files.read(path);
-    if (const auto status = files.status(path)) file.modified = status->modified;
-    return file;
-}
-
 void writeDrawing(Editor& editor, std::string_view text) {
     const Drawing& drawing = editor.drawing;
     copyPictures(editor);
@@ -67,7 +61,7 @@ void openText(Editor& editor, const FileText& file, PageView view) {
     else if (!joining)
         layOutNewPage(editor);
     RedrawDrawing(editor);
-    if (editor.ClearHistory) editor.ClearHistory();
+    ClearHistory(editor);
     drawing.DrawingChanged = false;
     drawing.OpenAfterSave = false;
     drawing.TitleState = 1;
@@ -83,7 +77,7 @@ void restoreText(Editor& editor, const FileText& file) {
     parseAll(editor);
     layOutNewPage(editor);
     RedrawDrawing(editor);
-    if (editor.ClearHistory) editor.ClearHistory();
+    ClearHistory(editor);
     // The copy on disk goes: what it held has no other place than the tables.
     drawing.DrawingChanged = true;
 }

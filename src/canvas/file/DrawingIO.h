@@ -10,9 +10,6 @@
 
 namespace ladrix {
 
-// The whole file. Refuses what is missing, not a regular file or too large.
-FileText readDrawingFile(Files& files, const std::string& path);
-
 // Writes the drawing's text under its name, after its pictures have been copied beside it.
 void writeDrawing(Editor& editor, std::string_view text);
 

@@ -4,8 +4,9 @@
 #include <cmath>
 #include <utility>
 
-#include "canvas/history/Undo.h"
-#include "canvas/view/Redraw.h"
+#include "canvas/gestures/Gesture.h"
+#include "canvas/history/History.h"
+#include "canvas/view/Painting.h"
 #include "document/Records.h"
 #include "platform/Encoding.h"
 #include "platform/Files.h"

@@ -2,7 +2,7 @@
 
 #include <functional>
 
-#include "canvas/file/DrawingIO.h"
+#include "canvas/file/FileText.h"
 #include "document/BackupCopies.h"
 
 namespace ladrix {

@@ -2,9 +2,11 @@
 
 #include <string>
 
+#include "canvas/gestures/Gesture.h"
 #include "canvas/gestures/Selection.h"
-#include "canvas/history/Undo.h"
-#include "canvas/view/Redraw.h"
+#include "canvas/history/History.h"
+#include "canvas/labels/LabelEdit.h"
+#include "canvas/view/Painting.h"
 
 namespace ladrix {
 
@@ -21,7 +23,8 @@ struct Way {
 };
 
 Way wayOf(const Editor& editor) {
-    return {editor.CopyToX - editor.CopyFromX, editor.CopyToY - editor.CopyFromY};
+    return {editor.gesture.CopyToX - editor.gesture.CopyFromX,
+            editor.gesture.CopyToY - editor.gesture.CopyFromY};
 }
 
 void enableCopyAndMove(Editor& editor, bool enabled) {
@@ -30,10 +33,12 @@ void enableCopyAndMove(Editor& editor, bool enabled) {
 }
 
 void arm(Editor& editor, bool move) {
+    keepLabelEdit(editor);
+    endGesture(editor);
     enableCopyAndMove(editor, false);
-    editor.CopyArmed = true;
-    editor.CopyStage = 1;
-    editor.MoveMode = move;
+    editor.gesture.CopyArmed = true;
+    editor.gesture.CopyStage = 1;
+    editor.gesture.MoveMode = move;
     colorReset(editor, true);
     editor.form.FocusRequest = Focus::Canvas;
 }
@@ -129,18 +134,18 @@ void mnuEditPaste_Click(Editor& editor) {
 }
 
 void takeCopyStart(Editor& editor) {
-    editor.CopyStage = 2;
-    editor.CopyFromX = editor.SnapX;
-    editor.CopyFromY = editor.SnapY;
-    editor.copied = editor.MoveMode ? CopyBuffer{} : selectedItems(editor);
+    editor.gesture.CopyStage = 2;
+    editor.gesture.CopyFromX = editor.SnapX;
+    editor.gesture.CopyFromY = editor.SnapY;
+    editor.copied = editor.gesture.MoveMode ? CopyBuffer{} : selectedItems(editor);
     editor.form.lblMessage.Caption = "First point found. Select new insertion point.";
 }
 
 void takeCopyEnd(Editor& editor) {
-    editor.CopyToX = editor.SnapX;
-    editor.CopyToY = editor.SnapY;
+    editor.gesture.CopyToX = editor.SnapX;
+    editor.gesture.CopyToY = editor.SnapY;
     enableCopyAndMove(editor, false);
-    if (!editor.MoveMode) return PasteBuffer(editor);
+    if (!editor.gesture.MoveMode) return PasteBuffer(editor);
     MoveSelection(editor);
     ResetEditor(editor);
 }
@@ -166,23 +171,10 @@ void MoveSelection(Editor& editor) {
     moveSelectedItems(editor.drawing, way.dx, way.dy);
     editor.form.lblMessage.Caption = std::to_string(editor.SelectedCount) + " items moved.";
     ClearSelection(editor);
-    endCopy(editor);
+    endGesture(editor);
     paintDrawing(editor);
     RecountSelection(editor);
     recordStep(editor);
-}
-
-void ClearCopyState(Editor& editor) {
-    ClearSelection(editor);
-    endCopy(editor);
-    editor.copied = {};
-    RecountSelection(editor);
-}
-
-void endCopy(Editor& editor) {
-    editor.MoveMode = editor.CopyArmed = false;
-    editor.CopyStage = 0;
-    editor.CopyFromX = editor.CopyFromY = editor.CopyToX = editor.CopyToY = 0;
 }
 
 }  // namespace ladrix

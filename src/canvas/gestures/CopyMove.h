@@ -25,10 +25,4 @@ void PasteBuffer(Editor& editor);
 // Moves the selected items by the way from FROM to TO and ends their selection; one undo step.
 void MoveSelection(Editor& editor);
 
-// No copy, no move, no buffer and no selection.
-void ClearCopyState(Editor& editor);
-
-// The copy or move under way ends; the buffer stays.
-void endCopy(Editor& editor);
-
 }  // namespace ladrix

@@ -3,11 +3,12 @@
 #include <algorithm>
 #include <cmath>
 
+#include "canvas/gestures/Gesture.h"
 #include "canvas/gestures/Selection.h"
-#include "canvas/history/Undo.h"
+#include "canvas/history/History.h"
 #include "canvas/tools/Colors.h"
 #include "canvas/tools/Tools.h"
-#include "canvas/view/Redraw.h"
+#include "canvas/view/Painting.h"
 #include "canvas/view/Snap.h"
 #include "canvas/view/View.h"
 #include "canvas/view/Zoom.h"
@@ -133,7 +134,7 @@ std::optional<Long> colorOfKey(Short keyCode) {
 }
 
 void walkPalette(Editor& editor, Short keyCode) {
-    int target = editor.CurrentTool;
+    int target = editor.gesture.CurrentTool;
     switch (keyCode) {
         case key::Down:
             target += PaletteColumns;
@@ -151,7 +152,7 @@ void walkPalette(Editor& editor, Short keyCode) {
             return;
     }
     if (target < 0) return;
-    if (target > editor.CurrentTool && target > editor.LastBuiltInButton) return;
+    if (target > editor.gesture.CurrentTool && target > editor.LastBuiltInButton) return;
     if (editor.form.cmdSym[static_cast<std::size_t>(target)].Tag.empty()) return;
     cmdSym_Click(editor, static_cast<Short>(target));
 }
@@ -172,7 +173,7 @@ void Form_KeyDown(Editor& editor, Short keyCode, Short shift) {
         }
     }
     if (editor.TextBoxFocused) return;
-    if (shift == NoShift && editor.CurrentTool != -1) walkPalette(editor, keyCode);
+    if (shift == NoShift && editor.gesture.CurrentTool != -1) walkPalette(editor, keyCode);
 }
 
 bool Form_KeyPress(Short keyAscii) {

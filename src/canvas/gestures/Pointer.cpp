@@ -4,12 +4,16 @@
 
 #include "canvas/file/DrawingCommands.h"
 #include "canvas/gestures/CopyMove.h"
+#include "canvas/gestures/Gesture.h"
 #include "canvas/gestures/Selection.h"
 #include "canvas/labels/LabelCommands.h"
+#include "canvas/labels/LabelEdit.h"
 #include "canvas/labels/Labels.h"
 #include "canvas/tools/LineTool.h"
+#include "canvas/tools/ToolTable.h"
 #include "canvas/tools/Tools.h"
-#include "canvas/view/Redraw.h"
+#include "canvas/view/Painting.h"
+#include "canvas/view/SnapLines.h"
 #include "canvas/view/Zoom.h"
 #include "platform/Numbers.h"
 
@@ -17,30 +21,31 @@ namespace ladrix {
 
 namespace {
 
-constexpr Single GripReach = 0.05f;           // inches on the screen
-constexpr Single GripOffset = 0.0375f;        // half the grip's side
-constexpr Single FinestCountedStep = 0.001f;  // below it lines are computed, not counted
+constexpr Single GripReach = 0.05f;     // inches on the screen
+constexpr Single GripOffset = 0.0375f;  // half the grip's side
+
+// below it lines are computed, not counted
 
 bool zoomPending(const Editor& editor) {
-    return editor.ZoomInPending || editor.ZoomOutPending;
+    return editor.gesture.ZoomInPending || editor.gesture.ZoomOutPending;
 }
 
 bool isLineTool(const Editor& editor) {
-    return editor.ToolName == "Line" || editor.ToolName == "Dashed Line";
+    return toolInHand(editor).kind == ToolKind::Line;
 }
 
 bool isSquareTool(const Editor& editor) {
-    return editor.ToolName == "Square" || editor.ToolName == "Dashed Square";
+    return toolInHand(editor).kind == ToolKind::Square;
 }
 
 void chooseCursor(Editor& editor) {
     MousePointer& pointer = editor.form.pointer.Pointer;
-    if (editor.ZoomInPending)
+    if (editor.gesture.ZoomInPending)
         pointer = MousePointer::ZoomIn;
-    else if (editor.ZoomOutPending)
+    else if (editor.gesture.ZoomOutPending)
         pointer = MousePointer::ZoomOut;
     else
-        pointer = editor.ToolCursor ? MousePointer::Cross : MousePointer::Default;
+        pointer = editor.gesture.ToolCursor ? MousePointer::Cross : MousePointer::Default;
 }
 
 void outlinePictureUnder(Editor& editor, Single x, Single y) {
@@ -59,7 +64,8 @@ void outlinePictureUnder(Editor& editor, Single x, Single y) {
 void showGrip(Editor& editor, Single x, Single y) {
     Overlay& grip = editor.form.pointer.picGrip;
     grip.Visible = false;
-    if (editor.ToolActive || editor.CopyArmed || editor.SymbolPointFound) return;
+    if (editor.gesture.ToolActive || editor.gesture.CopyArmed || editor.gesture.SymbolPointFound)
+        return;
     const Single reach = GripReach / editor.ZoomFactor;
     const Single offset = GripOffset / editor.ZoomFactor;
     const DeviceTable& devices = editor.drawing.devices;
@@ -78,34 +84,44 @@ void showPosition(Editor& editor, Single x, Single y) {
 }
 
 void stretchBand(Editor& editor, Short button) {
-    if (!editor.BandArmed || button != LeftButton) return;
-    editor.BandShown = true;
-    if (editor.BandX[1] <= editor.BandX[0] || editor.BandY[1] <= editor.BandY[0]) return;
+    if (!editor.gesture.BandArmed || button != LeftButton) return;
+    editor.gesture.BandShown = true;
+    if (editor.gesture.BandX[1] <= editor.gesture.BandX[0] ||
+        editor.gesture.BandY[1] <= editor.gesture.BandY[0])
+        return;
     PointerState& pointer = editor.form.pointer;
     Overlay& band = editor.BlackBackground ? pointer.shpSelectLight : pointer.shpSelect;
-    band = {true, editor.BandX[0], editor.BandY[0], editor.BandX[1] - editor.BandX[0],
-            editor.BandY[1] - editor.BandY[0]};
+    band = {true, editor.gesture.BandX[0], editor.gesture.BandY[0],
+            editor.gesture.BandX[1] - editor.gesture.BandX[0],
+            editor.gesture.BandY[1] - editor.gesture.BandY[0]};
 }
 
 bool pointIsWanted(const Editor& editor) {
-    return editor.SavingUserSymbol || editor.CopyStage > 0 || editor.CurrentTool != -1 ||
-           editor.CopyArmed;
+    return editor.gesture.SavingUserSymbol || editor.gesture.CopyStage > 0 ||
+           editor.gesture.CurrentTool != -1 || editor.gesture.CopyArmed;
+}
+
+void endBand(Editor& editor) {
+    editor.gesture.MouseIsDown = editor.gesture.BandArmed = editor.gesture.BandShown = false;
+    editor.form.pointer.shpSelect.Visible = editor.form.pointer.shpSelectLight.Visible = false;
 }
 
 void findSnap(Editor& editor, Single x, Single y) {
     const auto lineX = snapLineAt(x, editor.SnapStep, editor.PageWidth);
     const auto lineY = snapLineAt(y, editor.SnapStep, editor.PageHeight);
-    editor.SnapXFound = lineX.has_value();
-    editor.SnapYFound = lineY.has_value();
+    editor.gesture.SnapXFound = lineX.has_value();
+    editor.gesture.SnapYFound = lineY.has_value();
     if (lineX) editor.SnapX = *lineX;
     if (lineY) editor.SnapY = *lineY;
 }
 
 void drawRubber(Editor& editor) {
-    if (editor.LineStartX == NoPoint || !(isLineTool(editor) || isSquareTool(editor))) return;
+    if (editor.gesture.LineStartX == NoPoint || !(isLineTool(editor) || isSquareTool(editor)))
+        return;
     beginTemporaryGraphics(editor);
-    editor.platform.picLX->Line(editor.LineStartX, editor.LineStartY, editor.SnapX, editor.SnapY,
-                                Magenta, isLineTool(editor) ? LineForm::Plain : LineForm::Box);
+    editor.platform.picLX->Line(editor.gesture.LineStartX, editor.gesture.LineStartY, editor.SnapX,
+                                editor.SnapY, Magenta,
+                                isLineTool(editor) ? LineForm::Plain : LineForm::Box);
     editor.platform.picLX->AutoRedraw = true;
 }
 
@@ -123,7 +139,7 @@ void drawGhost(Editor& editor, Single x, Single y) {
     const Single ghostX = onPoint ? editor.SnapX : x;
     const Single ghostY = onPoint ? editor.SnapY : y;
     const Long color = onPoint ? Blue : Red;
-    if (editor.ToolName == "Text") {
+    if (toolInHand(editor).kind == ToolKind::Text) {
         drawTextGhost(editor, ghostX, ghostY, color);
     } else {
         fillToolBlock(editor, ghostX, ghostY, color);
@@ -134,15 +150,15 @@ void drawGhost(Editor& editor, Single x, Single y) {
 }
 
 void placeText(Editor& editor, Single x, Single y) {
-    editor.TextGhostShown = false;
-    const bool snapped = editor.SnapXFound && editor.SnapYFound;
+    editor.gesture.TextGhostShown = false;
+    const bool snapped = editor.gesture.SnapXFound && editor.gesture.SnapYFound;
     placeTextLabel(editor, snapped ? editor.SnapX : x, snapped ? editor.SnapY : y);
     editor.form.lblMessage.Caption = "Continuing with Text Selection - Press ESC to reset.";
 }
 
 void placeLine(Editor& editor) {
-    editor.DashedMode = editor.ToolName == "Dashed Line" ? 1 : 0;
-    const bool thick = editor.DashedMode == 0 && editor.ThickLineTool;
+    editor.gesture.DashedMode = toolInHand(editor).dashed ? 1 : 0;
+    const bool thick = editor.gesture.DashedMode == 0 && editor.ThickLineTool;
     InsertSavedLine(editor, editor.CurrentColor, thick ? "DrawWidth=2" : "");
     editor.form.lblMessage.Caption =
         "Continuing with Line Control. Click again for next point. Double-Click for end point. "
@@ -150,11 +166,11 @@ void placeLine(Editor& editor) {
 }
 
 void placeSquare(Editor& editor) {
-    editor.DashedMode = editor.ToolName == "Dashed Square" ? 1 : 0;
-    InsertSavedSquare(editor, editor.CurrentColor, editor.DashedMode != 0 ? "3" : "");
-    editor.SquareStarted = !editor.SquareStarted;
+    editor.gesture.DashedMode = toolInHand(editor).dashed ? 1 : 0;
+    InsertSavedSquare(editor, editor.CurrentColor, editor.gesture.DashedMode != 0 ? "3" : "");
+    editor.gesture.SquareStarted = !editor.gesture.SquareStarted;
     editor.form.lblMessage.Caption =
-        editor.SquareStarted
+        editor.gesture.SquareStarted
             ? "Continuing with Square. Move mouse and click end point. Press ESC when finished "
               "with "
               "this device."
@@ -172,26 +188,27 @@ void place(Editor& editor, Single x, Single y) {
     const char mark = editor.platform.locale.decimalMark;
     editor.form.lblCoords.Caption =
         coordinateText(editor.SnapX, mark) + ", " + coordinateText(editor.SnapY, mark);
-    finishLabelEdit(editor);
+    keepLabelEdit(editor);
     refreshToolName(editor);
     editor.drawing.LabelPending = false;
     WriteTempDrawing(editor);
     editor.ZoomPointX = editor.SnapX;
     editor.ZoomPointY = editor.SnapY;
-    if (editor.ToolName == "Text") return placeText(editor, x, y);
+    if (toolInHand(editor).kind == ToolKind::Text) return placeText(editor, x, y);
     if (isLineTool(editor)) return placeLine(editor);
     if (isSquareTool(editor)) return placeSquare(editor);
     placeSymbol(editor);
 }
 
+// The release comes to the menu: no button is held from here on, and a band is gone.
 void pressRightButton(Editor& editor) {
-    if (editor.CopyStage == 0) {
+    endBand(editor);
+    if (editor.gesture.CopyStage == 0) {
         editor.form.menu[Menu::mnuEditCopy].Enabled = true;
         editor.form.menu[Menu::mnuEditMove].Enabled = true;
     }
-    beginTemporaryGraphics(editor);
-    editor.platform.picLX->AutoRedraw = true;
-    if (editor.CurrentTool == DashedLineTool)
+    wipeTemporaryGraphics(editor);
+    if (editor.gesture.CurrentTool == DashedLineTool)
         cmdReset_Click(editor);
     else
         editor.platform.dialogs->popUp("mnuEditDrawing");
@@ -210,33 +227,10 @@ void releaseSimulation(Editor& editor, Short button) {
 
 // The release after this press may be another window's.
 void takeSymbolPoint(Editor& editor, Single x, Single y, Short label) {
-    editor.MouseIsDown = false;
-    editor.SymbolPointFound = true;
-    editor.SymbolPointPending = false;
+    editor.gesture.MouseIsDown = false;
+    editor.gesture.SymbolPointFound = true;
+    editor.gesture.SymbolPointPending = false;
     if (editor.SymbolPointTaken) editor.SymbolPointTaken(x, y, label);
-}
-
-Single snapTolerance(Single snapStep) {
-    return snapStep >= 0.05f ? 0.2f * snapStep : 0.5f * snapStep;
-}
-
-std::optional<Single> snapLineAt(Single position, Single snapStep, Single limit) {
-    const Single reach = snapTolerance(snapStep);
-    std::optional<Single> found;
-    if (!(snapStep > 0)) return found;
-    if (snapStep < FinestCountedStep) {
-        const Single line = std::floor((position + reach) / snapStep) * snapStep;
-        if (line >= 0 && line <= limit && line - reach <= position) found = line;
-        return found;
-    }
-    for (Single line = 0; line <= limit; line += snapStep)
-        if (line - reach <= position && position <= line + reach) found = line;
-    return found;
-}
-
-void beginTemporaryGraphics(Editor& editor) {
-    editor.platform.picLX->AutoRedraw = false;
-    editor.platform.picLX->Cls();
 }
 
 void picLX_MouseMove(Editor& editor, Short button, Short, Single x, Single y) {
@@ -254,63 +248,64 @@ void picLX_MouseMove(Editor& editor, Short button, Short, Single x, Single y) {
     showGrip(editor, x, y);
     pointer.LineV.Visible = pointer.LineH.Visible = false;
     showPosition(editor, x, y);
-    editor.BandX[1] = x;
-    editor.BandY[1] = y;
+    editor.gesture.BandX[1] = x;
+    editor.gesture.BandY[1] = y;
     stretchBand(editor, button);
     if (!pointIsWanted(editor)) return;
 
     findSnap(editor, x, y);
-    const bool found = editor.SnapXFound && editor.SnapYFound;
-    if (editor.CurrentTool != TextTool && found) showPosition(editor, editor.SnapX, editor.SnapY);
+    const bool found = editor.gesture.SnapXFound && editor.gesture.SnapYFound;
+    if (editor.gesture.CurrentTool != TextTool && found)
+        showPosition(editor, editor.SnapX, editor.SnapY);
     drawRubber(editor);
     if (found) showCrossHair(editor);
     refreshToolName(editor);
-    if (isLineTool(editor) || isSquareTool(editor) || !editor.ToolCursor) return;
+    if (isLineTool(editor) || isSquareTool(editor) || !editor.gesture.ToolCursor) return;
     drawGhost(editor, x, y);
 }
 
+void picLX_PointerRests(Editor& editor, Short button, Single x, Single y) {
+    editor.PreviousX = editor.PreviousY = NoPoint;
+    picLX_MouseMove(editor, button, 0, x, y);
+}
+
 void picLX_MouseDown(Editor& editor, Short button, Short, Single x, Single y) {
-    if (editor.TextAlignPending) return alignSelectedLabels(editor, x, y);
+    if (editor.gesture.TextAlignPending) return alignSelectedLabels(editor, x, y);
     editor.form.pointer.picGrip.Visible = false;
     if (zoomPending(editor)) return zoomAtPress(editor, x, y);
-    editor.MouseIsDown = true;
+    editor.gesture.MouseIsDown = true;
     if (editor.SimulationMode) return pressSimulation(editor, button);
     if (button == RightButton) return pressRightButton(editor);
-    if (editor.SavingUserSymbol && editor.SymbolPointPending)
+    if (editor.gesture.SavingUserSymbol && editor.gesture.SymbolPointPending)
         return takeSymbolPoint(editor, editor.SnapX, editor.SnapY, -1);
-    if (editor.CopyArmed && editor.CopyStage == 2) return takeCopyEnd(editor);
-    if (editor.CopyArmed && editor.CopyStage == 1) {
+    if (editor.gesture.CopyArmed && editor.gesture.CopyStage == 2) return takeCopyEnd(editor);
+    if (editor.gesture.CopyArmed && editor.gesture.CopyStage == 1) {
         takeCopyStart(editor);
-        if (!editor.MoveMode) return;
+        if (!editor.gesture.MoveMode) return;
     }
-    if (!editor.ToolBlocksBand && button == LeftButton) {
-        editor.BandX[0] = x;
-        editor.BandY[0] = y;
-        editor.BandArmed = true;
+    if (!editor.gesture.ToolBlocksBand && button == LeftButton) {
+        editor.gesture.BandX[0] = x;
+        editor.gesture.BandY[0] = y;
+        editor.gesture.BandArmed = true;
     }
-    if (editor.CurrentTool != -1) return place(editor, x, y);
-    if (!editor.CopyArmed) pickLines(editor, x, y);
+    if (editor.gesture.CurrentTool != -1) return place(editor, x, y);
+    if (!editor.gesture.CopyArmed) pickLines(editor, x, y);
 }
 
 void picLX_MouseUp(Editor& editor, Short button, Short, Single, Single) {
-    editor.MouseIsDown = false;
-    editor.BandArmed = false;
+    const bool band = editor.gesture.BandShown;
+    endBand(editor);
     if (zoomPending(editor)) return;
     if (editor.SimulationMode) return releaseSimulation(editor, button);
-    if (editor.BandShown) {
-        editor.BandShown = false;
-        editor.form.pointer.shpSelect.Visible = false;
-        editor.form.pointer.shpSelectLight.Visible = false;
-        pickInBand(editor);
-    }
-    if (editor.CopyArmed && editor.CopyStage == 1)
+    if (band) pickInBand(editor);
+    if (editor.gesture.CopyArmed && editor.gesture.CopyStage == 1)
         editor.form.lblMessage.Caption = "Select copy start point.";
 }
 
 void picLX_DblClick(Editor& editor) {
     if (zoomPending(editor)) return;
     if (editor.SimulationMode) return pressSimulation(editor, LeftButton);
-    const Short tool = editor.DashedMode != 0 ? DashedLineTool : LineTool;
+    const Short tool = editor.gesture.DashedMode != 0 ? DashedLineTool : LineTool;
     ResetEditor(editor);
     cmdSym_Click(editor, tool);
 }

@@ -6,13 +6,15 @@
 
 namespace ladrix {
 
-enum : Short { LeftButton = 1, RightButton = 2 };
-
 void picLX_MouseDown(Editor& editor, Short button, Short shift, Single x, Single y);
 
 // Also the only writer of SnapX and SnapY: a tool places there, never under the pointer. Ends at
 // once if the pointer has not moved. Costs one symbol at most, never a redraw of the drawing.
 void picLX_MouseMove(Editor& editor, Short button, Short shift, Single x, Single y);
+
+// The pointer rests there although nothing has moved it: what it stands on has changed, by a
+// command, a key, a scroll or a zoom. As a move.
+void picLX_PointerRests(Editor& editor, Short button, Single x, Single y);
 
 void picLX_MouseUp(Editor& editor, Short button, Short shift, Single x, Single y);
 
@@ -23,15 +25,5 @@ void picLX_DblClick(Editor& editor);
 // The click that a user symbol's insertion point waits for, on the canvas (label -1) or on a label;
 // it goes on to the editor's hook.
 void takeSymbolPoint(Editor& editor, Single x, Single y, Short label);
-
-// Half-width of the band around a snap line in which the pointer counts as on it, inches.
-Single snapTolerance(Single snapStep);
-
-// The highest snap line within the tolerance, up to and including `limit`; lines are found by
-// adding up steps in single precision. nullopt if the pointer is on none.
-std::optional<Single> snapLineAt(Single position, Single snapStep, Single limit);
-
-// Draws on the temporary layer from here on, which is wiped first.
-void beginTemporaryGraphics(Editor& editor);
 
 }  // namespace ladrix

@@ -1,13 +1,15 @@
 #include "canvas/gestures/Selection.h"
 
 #include <algorithm>
+#include <optional>
 #include <string>
 
-#include "canvas/gestures/Pointer.h"
-#include "canvas/history/Undo.h"
-#include "canvas/labels/Labels.h"
-#include "canvas/tools/Tools.h"
-#include "canvas/view/Redraw.h"
+#include "canvas/gestures/Gesture.h"
+#include "canvas/history/History.h"
+#include "canvas/labels/LabelEdit.h"
+#include "canvas/state/Panels.h"
+#include "canvas/tools/ToolTable.h"
+#include "canvas/view/Painting.h"
 #include "platform/Numbers.h"
 
 namespace ladrix {
@@ -35,22 +37,6 @@ void toggleDevice(Editor& editor, std::size_t i) {
     Short& mark = editor.drawing.devices.DeviceSelected[i];
     mark = mark != 0 ? Short{0} : Short{1};
     paintDevice(editor, i, colorOfDevice(editor, i));
-}
-
-void showLabelMark(Editor& editor, std::size_t i) {
-    const LabelTable& labels = editor.drawing.labels;
-    if (i >= editor.form.lbl.size()) return;
-    editor.form.lbl[i].ForeColor =
-        labels.LabelSelected[i] != 0 ? editor.SelectionColor : labels.LabelColor[i];
-    ++editor.form.LabelVersion;
-}
-
-void markPicture(Editor& editor, std::size_t i, bool selected) {
-    editor.drawing.PictureTable[i].Selected = selected;
-    ++editor.form.PictureVersion;
-    editor.SelectedPicture = -1;
-    for (std::size_t p = 0; p < editor.drawing.PictureTable.size(); ++p)
-        if (editor.drawing.PictureTable[p].Selected) editor.SelectedPicture = static_cast<Short>(p);
 }
 
 // The panel of the tool strip, by the devices selected. `picked` is preferred for its figures.
@@ -91,8 +77,8 @@ bool pickDevicesInBand(Editor& editor) {
     std::optional<std::size_t> last;
     for (std::size_t i = 0; i < static_cast<std::size_t>(devices.DeviceCount); ++i) {
         const Single x = devices.DeviceX[i], y = devices.DeviceY[i];
-        if (!(editor.BandX[0] < x && x < editor.BandX[1])) continue;
-        if (!(editor.BandY[0] < y && y < editor.BandY[1])) continue;
+        if (!(editor.gesture.BandX[0] < x && x < editor.gesture.BandX[1])) continue;
+        if (!(editor.gesture.BandY[0] < y && y < editor.gesture.BandY[1])) continue;
         toggleDevice(editor, i);
         last = i;
     }
@@ -105,10 +91,10 @@ bool pickLabelsInBand(Editor& editor) {
     bool any = false;
     for (std::size_t i = 0; i < static_cast<std::size_t>(labels.LabelCount); ++i) {
         const Single x = labels.LabelX[i], y = labels.LabelY[i];
-        if (!(editor.BandX[0] < x && x < editor.BandX[1])) continue;
-        if (!(editor.BandY[0] < y && y < editor.BandY[1])) continue;
+        if (!(editor.gesture.BandX[0] < x && x < editor.gesture.BandX[1])) continue;
+        if (!(editor.gesture.BandY[0] < y && y < editor.gesture.BandY[1])) continue;
         labels.LabelSelected[i] = labels.LabelSelected[i] != 0 ? Short{0} : Short{1};
-        showLabelMark(editor, i);
+        placeLabel(editor, i);
         any = true;
     }
     return any;
@@ -118,8 +104,10 @@ bool pickPicturesInBand(Editor& editor) {
     bool any = false;
     for (std::size_t i = 0; i < editor.drawing.PictureTable.size(); ++i) {
         const PictureRow& row = editor.drawing.PictureTable[i];
-        if (!(editor.BandX[0] < row.Left && row.Left + row.Width < editor.BandX[1])) continue;
-        if (!(editor.BandY[0] < row.Top && row.Top + row.Height < editor.BandY[1])) continue;
+        if (!(editor.gesture.BandX[0] < row.Left && row.Left + row.Width < editor.gesture.BandX[1]))
+            continue;
+        if (!(editor.gesture.BandY[0] < row.Top && row.Top + row.Height < editor.gesture.BandY[1]))
+            continue;
         markPicture(editor, i, !row.Selected);
         any = true;
     }
@@ -139,63 +127,15 @@ void erasePictures(Editor& editor) {
     ++editor.form.PictureVersion;
 }
 
-// nullptr without a drag. Another drawing may have been opened meanwhile.
-PictureRow* draggedRow(Editor& editor) {
-    const Short index = editor.draggedPicture.index;
-    if (index < 0 || index >= editor.drawing.PictureCount) return nullptr;
-    return &editor.drawing.PictureTable[static_cast<std::size_t>(index)];
-}
-
-// A drag that does not come to its release leaves the picture where it was.
-void abandonDrag(Editor& editor) {
-    PictureRow* row = draggedRow(editor);
-    if (row && editor.draggedPicture.moved) {
-        row->Left = editor.draggedPicture.left;
-        row->Top = editor.draggedPicture.top;
-    }
-    editor.draggedPicture = {};
-}
-
-void showCount(Editor& editor, int count) {
-    editor.form.lblSelected.Caption =
-        count == 0 ? "" : std::to_string(count) + (count == 1 ? " item" : " items") + " selected";
-}
-
-// All items of a drawing may be more than a Short counts; the counters stop there.
-Short counted(std::size_t count) {
-    return static_cast<Short>(std::min(count, static_cast<std::size_t>(LargestCount)));
-}
-
-void followLabelSelection(Editor& editor, std::size_t selected) {
-    const auto& marks = editor.drawing.labels.LabelSelected;
-    const auto first = std::find_if(marks.begin(), marks.end(), [](Short m) { return m != 0; });
-    const Short only = selected == 1 ? static_cast<Short>(first - marks.begin()) : Short{-1};
-    if (editor.LastSelectedLabel != only) endTextEdit(editor);
-    editor.LastSelectedLabel = only;
-    MenuStates& menu = editor.form.menu;
-    menu[Menu::mnuEditText].Enabled = selected > 0;
-    menu[Menu::mnuEditTextCaption].Enabled = selected == 1;
-    for (const Menu entry :
-         {Menu::mnuEditTextAlignLeft, Menu::mnuEditTextAlignRight, Menu::mnuEditTextAlignTop})
-        menu[entry].Enabled = selected > 1;
-}
-
-void followSelectedCount(Editor& editor) {
-    const Short count = editor.SelectedCount;
-    for (const Menu entry : {Menu::mnuEditCopy, Menu::mnuEditMove, Menu::mnuEditDelete})
-        editor.form.menu[entry].Enabled = count > 0;
-    editor.form.cmbScale.Enabled = editor.form.cmdScaleOK.Enabled = count == 0;
-    colorReset(editor, count > 0);
-    std::string& message = editor.form.lblMessage.Caption;
-    if (count == 0)
-        message = "Task completed. Drawing reset and ready.";
-    else if (count == 1)
-        message = "1 device has been selected for Move, Copy or Delete.";
-    else
-        message = std::to_string(count) + " devices have been selected for Move, Copy or Delete.";
-}
-
 }  // namespace
+
+void markPicture(Editor& editor, std::size_t i, bool selected) {
+    editor.drawing.PictureTable[i].Selected = selected;
+    ++editor.form.PictureVersion;
+    editor.SelectedPicture = -1;
+    for (std::size_t p = 0; p < editor.drawing.PictureTable.size(); ++p)
+        if (editor.drawing.PictureTable[p].Selected) editor.SelectedPicture = static_cast<Short>(p);
+}
 
 void pickLines(Editor& editor, Single x, Single y) {
     const DeviceTable& devices = editor.drawing.devices;
@@ -240,13 +180,12 @@ void picGrip_Click(Editor& editor) {
 
 void picGrip_MouseDown(Editor& editor, Short button) {
     if (button != RightButton) return;
-    if (editor.SelectedCount > 0 && editor.CopyStage == 0) {
+    if (editor.SelectedCount > 0 && editor.gesture.CopyStage == 0) {
         editor.form.menu[Menu::mnuEditCopy].Enabled = true;
         editor.form.menu[Menu::mnuEditMove].Enabled = true;
     }
-    beginTemporaryGraphics(editor);
-    editor.platform.picLX->AutoRedraw = true;
-    if (editor.CurrentTool == DashedLineTool) ResetEditor(editor);
+    wipeTemporaryGraphics(editor);
+    if (editor.gesture.CurrentTool == DashedLineTool) ResetEditor(editor);
     editor.platform.dialogs->popUp("mnuEdit");
 }
 
@@ -255,58 +194,6 @@ void pickInBand(Editor& editor) {
     const bool labels = pickLabelsInBand(editor);
     const bool pictures = pickPicturesInBand(editor);
     if (devices || labels || pictures) RecountSelection(editor);
-}
-
-std::optional<Short> pictureAt(const Editor& editor, Single x, Single y) {
-    const bool idle = editor.CurrentTool == -1 && !editor.CopyArmed && !editor.ZoomInPending &&
-                      !editor.ZoomOutPending && !editor.TextAlignPending &&
-                      !editor.SymbolPointPending && !editor.SimulationMode;
-    if (editor.ZoomFactor != 1 || !idle) return std::nullopt;
-    for (std::size_t i = editor.drawing.PictureTable.size(); i-- > 0;) {
-        const PictureRow& row = editor.drawing.PictureTable[i];
-        if (between(x, row.Left, row.Left + row.Width) && between(y, row.Top, row.Top + row.Height))
-            return static_cast<Short>(i);
-    }
-    return std::nullopt;
-}
-
-void img_MouseDown(Editor& editor, Short index, Short button, Single x, Single y) {
-    if (button == RightButton) return picLX_MouseDown(editor, button, 0, x, y);
-    if (button != LeftButton) return;
-    const auto i = static_cast<std::size_t>(index);
-    const PictureRow& row = editor.drawing.PictureTable[i];
-    editor.form.pointer.picGrip.Visible = false;
-    markPicture(editor, i, !row.Selected);
-    RecountSelection(editor);
-    editor.draggedPicture = {index, x, y, row.Left, row.Top, false};
-}
-
-// The picture's image stays where it was until the release; a copy of it follows above.
-void img_MouseMove(Editor& editor, Short button, Single x, Single y) {
-    PictureDrag& drag = editor.draggedPicture;
-    PictureRow* dragged = draggedRow(editor);
-    if (button != LeftButton || !dragged) return;
-    if (x == drag.pressX && y == drag.pressY && !drag.moved) return;
-    drag.moved = true;
-    const auto i = static_cast<std::size_t>(drag.index);
-    PictureRow& row = *dragged;
-    row.Left = drag.left + (x - drag.pressX);
-    row.Top = drag.top + (y - drag.pressY);
-    beginTemporaryGraphics(editor);
-    Canvas& canvas = *editor.platform.picLX;
-    if (i < editor.img.size() && editor.img[i])
-        canvas.PaintPicture(*editor.img[i], row.Left, row.Top, row.Width, row.Height);
-    canvas.Line(row.Left, row.Top, row.Left + row.Width, row.Top + row.Height, Cyan, LineForm::Box);
-    canvas.AutoRedraw = true;
-    ++editor.form.PictureVersion;
-}
-
-void img_MouseUp(Editor& editor) {
-    const bool moved = editor.draggedPicture.moved;
-    editor.draggedPicture = {};
-    if (!moved) return;
-    recordStep(editor);
-    ResetEditor(editor);
 }
 
 void mnuEditSelectAll_Click(Editor& editor) {
@@ -327,8 +214,8 @@ void mnuEditDelete_Click(Editor& editor) {
 
 void DeleteSelection(Editor& editor) {
     if (editor.SelectedCount == 0) return editor.platform.tell("Nothing selected to delete.");
-    abandonDrag(editor);
-    finishLabelEdit(editor);
+    keepLabelEdit(editor);
+    endGesture(editor, Keep::Tool);
     Drawing& drawing = editor.drawing;
     drawing.devices.eraseSelected();
     drawing.labels.eraseSelected();
@@ -338,42 +225,6 @@ void DeleteSelection(Editor& editor) {
     paintDrawing(editor);
     editor.form.lblMessage.Caption = "Selected Items Deleted";
     recordStep(editor);
-}
-
-void RecountSelection(Editor& editor) {
-    const Drawing& drawing = editor.drawing;
-    if (drawing.devices.DeviceCount > 0)
-        editor.form.menu[Menu::mnuEditSaveUserSymbol].Enabled = true;
-    const auto marked = [](const std::vector<Short>& marks) {
-        return marks.size() -
-               static_cast<std::size_t>(std::count(marks.begin(), marks.end(), Short{0}));
-    };
-    const std::size_t devices = marked(drawing.devices.DeviceSelected);
-    const std::size_t labels = marked(drawing.labels.LabelSelected);
-    const auto pictures = static_cast<std::size_t>(
-        std::count_if(drawing.PictureTable.begin(), drawing.PictureTable.end(),
-                      [](const PictureRow& row) { return row.Selected; }));
-    editor.SelectedDeviceCount = counted(devices);
-    editor.SelectedLabelCount = counted(labels);
-    editor.SelectedCount = counted(devices + labels + pictures);
-    followLabelSelection(editor, labels);
-    followSelectedCount(editor);
-    showCount(editor, editor.SelectedCount);
-}
-
-void ClearSelection(Editor& editor) {
-    Drawing& drawing = editor.drawing;
-    abandonDrag(editor);
-    auto& devices = drawing.devices.DeviceSelected;
-    auto& labels = drawing.labels.LabelSelected;
-    std::fill(devices.begin(), devices.end(), Short{0});
-    std::fill(labels.begin(), labels.end(), Short{0});
-    for (PictureRow& row : drawing.PictureTable)
-        row.Selected = false;
-    if (!drawing.PictureTable.empty()) ++editor.form.PictureVersion;
-    editor.SelectedCount = editor.SelectedDeviceCount = editor.SelectedLabelCount = 0;
-    editor.SelectedPicture = editor.LastSelectedLabel = -1;
-    showCount(editor, 0);
 }
 
 bool moveSelectedItems(Drawing& drawing, Single dx, Single dy) {

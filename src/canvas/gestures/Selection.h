@@ -4,8 +4,6 @@
 // rebuilds no record.
 #pragma once
 
-#include <optional>
-
 #include "canvas/state/Editor.h"
 
 namespace ladrix {
@@ -23,28 +21,14 @@ void picGrip_MouseDown(Editor& editor, Short button);
 // pictures.
 void pickInBand(Editor& editor);
 
-// The picture that takes a press at this point of the page, the uppermost one: at 100 percent and
-// while the editor is idle. nullopt: the press is the canvas's.
-std::optional<Short> pictureAt(const Editor& editor, Single x, Single y);
-
-// X and Y are inches of the page. A press toggles the picture, moving with the left button held
-// drags it; the release of a picture that was moved stores its place and resets the editor.
-void img_MouseDown(Editor& editor, Short index, Short button, Single x, Single y);
-void img_MouseMove(Editor& editor, Short button, Single x, Single y);
-void img_MouseUp(Editor& editor);
+// Marks the picture, or takes its mark away.
+void markPicture(Editor& editor, std::size_t i, bool selected);
 
 void mnuEditSelectAll_Click(Editor& editor);
 void mnuEditDelete_Click(Editor& editor);
 
 // Takes the selected items out of the drawing; one undo step. With nothing selected it tells so.
 void DeleteSelection(Editor& editor);
-
-// Counts the marks and lets the menus, the scale, the message guide and Reset follow. Ends the edit
-// of a label that is no longer the only one selected.
-void RecountSelection(Editor& editor);
-
-// No mark is left; the controls that follow the count are the caller's.
-void ClearSelection(Editor& editor);
 
 // Moves every selected item, of a line or square both corners. False if nothing is selected.
 bool moveSelectedItems(Drawing& drawing, Single dx, Single dy);

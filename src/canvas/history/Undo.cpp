@@ -6,33 +6,16 @@
 #include <string_view>
 
 #include "canvas/file/DrawingIO.h"
-#include "canvas/gestures/Selection.h"
-#include "canvas/labels/Labels.h"
-#include "canvas/tools/Tools.h"
-#include "canvas/view/Redraw.h"
+#include "canvas/gestures/Gesture.h"
+#include "canvas/history/History.h"
+#include "canvas/labels/LabelEdit.h"
+#include "canvas/state/Panels.h"
+#include "canvas/view/Painting.h"
 #include "document/Records.h"
 
 namespace ladrix {
 
 namespace {
-
-constexpr std::string_view DevicesMark = "///DEVICES///", LabelsMark = "///LABELS///",
-                           PicturesMark = "///PICTURES///";
-constexpr Short FirstShift = 500;
-
-std::string snapshotText(const Drawing& drawing) {
-    std::string text;
-    text.reserve(DevicesMark.size() + LabelsMark.size() + PicturesMark.size() +
-                 drawing.DeviceString.size() + drawing.LabelString.size() +
-                 drawing.PictureString.size());
-    text += DevicesMark;
-    text += drawing.DeviceString;
-    text += LabelsMark;
-    text += drawing.LabelString;
-    text += PicturesMark;
-    text += drawing.PictureString;
-    return text;
-}
 
 struct Sections {
     std::string_view devices, labels, pictures;
@@ -51,21 +34,6 @@ std::optional<Sections> sectionsOf(std::string_view text) {
     return Sections{text.substr(devicesStart, labels - devicesStart),
                     text.substr(labelsStart, pictures - labelsStart),
                     text.substr(pictures + PicturesMark.size())};
-}
-
-// A picture that was deleted comes back from where it lay, with the image that it had.
-void rememberPictures(Editor& editor) {
-    const auto& rows = editor.drawing.PictureTable;
-    for (std::size_t i = 0; i < rows.size() && i < editor.img.size(); ++i)
-        editor.HistoryPictures.insert_or_assign(rows[i].FileName,
-                                                KnownPicture{rows[i].FullPath, editor.img[i]});
-}
-
-void reportFullHistory(const Editor& editor) {
-    editor.platform.ReportError(
-        "Take Undo Snapshot",
-        {failure::Subscript,
-         "The undo history is full: further changes cannot be undone one by one."});
 }
 
 // Pictures that the step leaves alone are not parsed again, so that one whose file is missing is
@@ -113,37 +81,7 @@ void parseSections(Editor& editor, const Sections& sections) {
     parsePictures(editor, sections.pictures);
 }
 
-void finishPendingEdit(Editor& editor) {
-    if (editor.LastSelectedLabel == -1) return;
-    finishLabelEdit(editor);
-    if (editor.CurrentTool != TextTool) showPanel(editor, Panel::None);
-}
-
 }  // namespace
-
-void TakeUndoSnapshot(Editor& editor) {
-    editor.form.menu[Menu::mnuEditUndo].Enabled = true;
-    const bool wasFull = editor.UndoTop == UndoHistory::Slots;
-    if (!wasFull) ++editor.UndoTop;
-    editor.UndoPosition = editor.UndoTop;
-    if (editor.UndoTop == UndoHistory::Slots) {
-        if (!wasFull) reportFullHistory(editor);
-        return;
-    }
-    if (editor.UndoTop >= FirstShift) editor.history.shiftDown();
-    rememberPictures(editor);
-    editor.history.set(editor.UndoTop, snapshotText(editor.drawing));
-}
-
-void recordStep(Editor& editor) {
-    Drawing& drawing = editor.drawing;
-    RebuildDeviceString(drawing, editor.platform);
-    RebuildLabelString(drawing, editor.platform);
-    RebuildPictureString(drawing, editor.platform);
-    drawing.DrawingChanged = true;
-    editor.form.menu[Menu::mnuEditUndo].Enabled = true;
-    if (drawing.TakeUndoSnapshot) drawing.TakeUndoSnapshot();
-}
 
 void RestoreSnapshot(Editor& editor) {
     if (editor.UndoPosition < 0) {
@@ -159,33 +97,26 @@ void RestoreSnapshot(Editor& editor) {
     const auto sections = sectionsOf(snapshot);
     if (!sections) return;
     editor.SnapshotPending = false;
+    endGesture(editor, Keep::Tool);
     ClearSelection(editor);
-    if (editor.CurrentTool == -1) showPanel(editor, Panel::None);
+    if (editor.gesture.CurrentTool == -1) showPanel(editor, Panel::None);
     parseSections(editor, *sections);
-    editor.form.lblMessage.Caption = "Action has been undone.";
     editor.drawing.DrawingChanged = true;
     RecountSelection(editor);
     RedrawDrawing(editor);
+    editor.form.lblMessage.Caption = "Action has been undone.";
 }
 
 void mnuEditUndo_Click(Editor& editor) {
-    finishPendingEdit(editor);
+    keepLabelEdit(editor);
     --editor.UndoPosition;
     RestoreSnapshot(editor);
 }
 
 void mnuEditRedo_Click(Editor& editor) {
-    finishPendingEdit(editor);
+    keepLabelEdit(editor);
     ++editor.UndoPosition;
     RestoreSnapshot(editor);
-}
-
-void ClearHistory(Editor& editor) {
-    editor.history.clear();
-    editor.HistoryPictures.clear();
-    editor.UndoTop = editor.UndoPosition = 0;
-    rememberPictures(editor);
-    editor.history.set(0, snapshotText(editor.drawing));
 }
 
 }  // namespace ladrix

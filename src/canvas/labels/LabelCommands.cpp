@@ -3,8 +3,10 @@
 #include <algorithm>
 #include <string>
 
-#include "canvas/labels/Labels.h"
-#include "canvas/view/Redraw.h"
+#include "canvas/gestures/Gesture.h"
+#include "canvas/history/History.h"
+#include "canvas/labels/LabelEdit.h"
+#include "canvas/view/Painting.h"
 
 namespace ladrix {
 
@@ -18,23 +20,26 @@ void flipOption(Editor& editor, bool& option, Menu entry) {
 }
 
 void askForPoint(Editor& editor, TextAlignment alignment, std::string_view side) {
-    editor.TextAlignPending = true;
-    editor.textAlignment = alignment;
+    keepLabelEdit(editor);
+    endGesture(editor);
+    editor.gesture.TextAlignPending = true;
+    editor.gesture.textAlignment = alignment;
     editor.platform.tell("Please click a " + std::string(side) + " alignment point.");
 }
 
 void alignLabel(Editor& editor, std::size_t i) {
     LabelTable& labels = editor.drawing.labels;
-    switch (editor.textAlignment) {
+    switch (editor.gesture.textAlignment) {
         case TextAlignment::Left:
-            labels.LabelX[i] = editor.TextAlignX;
+            labels.LabelX[i] = editor.gesture.TextAlignX;
             return;
         case TextAlignment::Right:
-            labels.LabelX[i] = editor.TextAlignX - editor.platform.fonts->textWidth(
-                                                       fontOfLabel(labels, i), labels.LabelText[i]);
+            labels.LabelX[i] =
+                editor.gesture.TextAlignX -
+                editor.platform.fonts->textWidth(fontOfLabel(labels, i), labels.LabelText[i]);
             return;
         case TextAlignment::Top:
-            labels.LabelY[i] = editor.TextAlignY;
+            labels.LabelY[i] = editor.gesture.TextAlignY;
             return;
         case TextAlignment::None:
             return;
@@ -48,7 +53,7 @@ void mnuEditTextCaption_Click(Editor& editor) {
     const auto isMarked = [](Short mark) { return mark != 0; };
     if (std::count_if(marks.begin(), marks.end(), isMarked) != 1) return;
     const auto only = std::find_if(marks.begin(), marks.end(), isMarked);
-    editLabelText(editor, static_cast<Short>(only - marks.begin()));
+    beginLabelEdit(editor, static_cast<Short>(only - marks.begin()));
     ++editor.form.txtEdit.SelectAllRequests;
 }
 
@@ -65,18 +70,14 @@ void mnuEditTextAlignTop_Click(Editor& editor) {
 }
 
 void alignSelectedLabels(Editor& editor, Single x, Single y) {
-    editor.TextAlignX = x;
-    editor.TextAlignY = y;
-    editor.TextAlignPending = false;
-    endTextEdit(editor);
+    editor.gesture.TextAlignX = x;
+    editor.gesture.TextAlignY = y;
     const LabelTable& labels = editor.drawing.labels;
     for (std::size_t i = 0; i < static_cast<std::size_t>(labels.LabelCount); ++i)
         if (labels.LabelSelected[i] != 0) alignLabel(editor, i);
-    editor.textAlignment = TextAlignment::None;
-    RebuildLabelString(editor.drawing, editor.platform);
-    editor.drawing.DrawingChanged = true;
-    RedrawDrawing(editor);
-    if (editor.drawing.TakeUndoSnapshot) editor.drawing.TakeUndoSnapshot();
+    endGesture(editor);
+    paintDrawing(editor);
+    recordStep(editor);
 }
 
 void mnuOptionSmallerFont_Click(Editor& editor) {
@@ -85,12 +86,10 @@ void mnuOptionSmallerFont_Click(Editor& editor) {
     if (std::count(sizes.begin(), sizes.end(), Single{SmallFontSize}) ==
         static_cast<std::ptrdiff_t>(sizes.size()))
         return;
-    endTextEdit(editor);
+    keepLabelEdit(editor);
     std::fill(sizes.begin(), sizes.end(), Single{SmallFontSize});
-    RebuildLabelString(editor.drawing, editor.platform);
     placeLabels(editor);
-    editor.drawing.DrawingChanged = true;
-    if (editor.drawing.TakeUndoSnapshot) editor.drawing.TakeUndoSnapshot();
+    recordStep(editor);
 }
 
 void mnuOptAutoIncrement_Click(Editor& editor) {

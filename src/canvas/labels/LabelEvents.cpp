@@ -3,10 +3,11 @@
 #include <cmath>
 #include <utility>
 
+#include "canvas/gestures/Gesture.h"
 #include "canvas/gestures/Pointer.h"
-#include "canvas/gestures/Selection.h"
-#include "canvas/labels/Labels.h"
-#include "canvas/view/Redraw.h"
+#include "canvas/history/History.h"
+#include "canvas/labels/LabelEdit.h"
+#include "canvas/view/Painting.h"
 
 namespace ladrix {
 
@@ -18,8 +19,8 @@ constexpr Single DragReach = 0.025f;  // inches on the screen; a smaller movemen
 constexpr Single WidestCharacter = 2, HighestLine = 3;
 
 bool pressesAreTheCanvas(const Editor& editor) {
-    return editor.SimulationMode || editor.ZoomInPending || editor.ZoomOutPending ||
-           editor.CopyArmed || editor.TextAlignPending;
+    return editor.SimulationMode || editor.gesture.ZoomInPending || editor.gesture.ZoomOutPending ||
+           editor.gesture.CopyArmed || editor.gesture.TextAlignPending;
 }
 
 bool exists(const Editor& editor, Short index) {
@@ -45,9 +46,7 @@ void mark(Editor& editor, Short index, bool selected) {
     const auto i = static_cast<std::size_t>(index);
     editor.drawing.labels.LabelSelected[i] = selected ? Short{1} : Short{0};
     RecountSelection(editor);
-    editor.form.lbl[i].ForeColor =
-        selected ? editor.SelectionColor : editor.drawing.labels.LabelColor[i];
-    ++editor.form.LabelVersion;
+    placeLabel(editor, i);
 }
 
 template <class Action>
@@ -63,27 +62,23 @@ bool forEachSelected(Editor& editor, const Action& action) {
 }
 
 void startMoving(Editor& editor) {
-    editor.draggedLabels.moved = true;
-    endTextEdit(editor);
-    const Short pressed = editor.draggedLabels.index;
+    editor.gesture.draggedLabels.moved = true;
+    keepLabelEdit(editor);
+    const Short pressed = editor.gesture.draggedLabels.index;
     if (exists(editor, pressed)) mark(editor, pressed, true);
 }
 
 void storePlaces(Editor& editor) {
     LabelTable& labels = editor.drawing.labels;
     const bool any = forEachSelected(editor, [&](std::size_t i) {
-        LabelControl& control = editor.form.lbl[i];
-        labels.LabelX[i] = control.Left;
-        labels.LabelY[i] = control.Top;
+        labels.LabelX[i] = editor.form.lbl[i].Left;
+        labels.LabelY[i] = editor.form.lbl[i].Top;
         labels.LabelSelected[i] = 0;
-        control.ForeColor = labels.LabelColor[i];
+        placeLabel(editor, i);
     });
     if (!any) return;
-    ++editor.form.LabelVersion;
-    RebuildLabelString(editor.drawing, editor.platform);
     RecountSelection(editor);
-    editor.drawing.DrawingChanged = true;
-    if (editor.drawing.TakeUndoSnapshot) editor.drawing.TakeUndoSnapshot();
+    recordStep(editor);
 }
 
 }  // namespace
@@ -96,21 +91,22 @@ std::optional<Short> labelAt(const Editor& editor, Single x, Single y) {
 }
 
 void lbl_MouseDown(Editor& editor, Short index, Short button, Single x, Single y) {
-    if (editor.SimulationMode || editor.ZoomInPending || editor.ZoomOutPending) return;
+    if (editor.SimulationMode || editor.gesture.ZoomInPending || editor.gesture.ZoomOutPending)
+        return;
     if (!exists(editor, index)) return;
     editor.form.pointer.picGrip.Visible = false;
-    if (editor.CurrentTool != -1) ResetEditor(editor);
-    if (editor.SavingUserSymbol) {
+    if (editor.gesture.CurrentTool != -1) ResetEditor(editor);
+    if (editor.gesture.SavingUserSymbol) {
         editor.LastSelectedLabel = index;
-        if (editor.SymbolPointPending) takeSymbolPoint(editor, x, y, index);
+        if (editor.gesture.SymbolPointPending) takeSymbolPoint(editor, x, y, index);
         return;
     }
     if (button == RightButton) return lbl_DblClick(editor, index);
-    if (button == LeftButton) editor.draggedLabels = {index, x, y, false};
+    if (button == LeftButton) editor.gesture.draggedLabels = {index, x, y, false};
 }
 
 void lbl_MouseMove(Editor& editor, Short button, Single x, Single y) {
-    const LabelDrag& drag = editor.draggedLabels;
+    const LabelDrag& drag = editor.gesture.draggedLabels;
     if (drag.index < 0 || button != LeftButton) return;
     const Single dx = x - drag.pressX, dy = y - drag.pressY;
     const Single reach = DragReach / editor.ZoomFactor;
@@ -125,22 +121,22 @@ void lbl_MouseMove(Editor& editor, Short button, Single x, Single y) {
 }
 
 bool lbl_MouseUp(Editor& editor) {
-    const LabelDrag drag = std::exchange(editor.draggedLabels, {});
+    const LabelDrag drag = std::exchange(editor.gesture.draggedLabels, {});
     if (drag.moved) storePlaces(editor);
     return drag.index >= 0 && !drag.moved;
 }
 
 void lbl_Click(Editor& editor, Short index) {
-    editor.draggedLabels = {};
+    editor.gesture.draggedLabels = {};
     if (!exists(editor, index)) return;
-    endTextEdit(editor);
+    keepLabelEdit(editor);
     mark(editor, index, editor.drawing.labels.LabelSelected[static_cast<std::size_t>(index)] == 0);
 }
 
 void lbl_DblClick(Editor& editor, Short index) {
     if (!exists(editor, index)) return;
-    editor.draggedLabels = {};
-    endTextEdit(editor);
+    editor.gesture.draggedLabels = {};
+    keepLabelEdit(editor);
     mark(editor, index, true);
     editor.LastSelectedLabel = index;
     editor.form.menu[Menu::mnuEditText].Enabled = true;

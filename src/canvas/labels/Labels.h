@@ -16,23 +16,19 @@ void BeginLabel(Editor& editor, std::string_view prefix, Single x, Single y);
 // Text". Returns its index, -1 if it could not be recorded.
 Short recordCentredLabel(Editor& editor, std::string_view text, Single x, Single y, Long color);
 
-// Opens the label in txtEdit; it shows each key at once.
-void editLabelText(Editor& editor, Short index);
-
-// The font of row i as it stands on paper.
-FontSpec fontOfLabel(const LabelTable& labels, std::size_t i);
-
 // The Text tool: its ghost on the temporary layer, centred on the point, and its placement, after
 // which the text is advanced when auto increment is on.
 void drawTextGhost(Editor& editor, Single x, Single y, Long color);
 void placeTextLabel(Editor& editor, Single x, Single y);
 
+// Opens the box of the Text tool before the pointer has: a character is typed that belongs in it.
+void openTextToolByKey(Editor& editor);
+
 // 9 becomes 10, A becomes B; Z and longer texts stay.
 std::string incrementedText(std::string_view text, char decimalMark);
 
-void txtEdit_GotFocus(Editor& editor);
 void txtEdit_LostFocus(Editor& editor);
-// The text has changed by typing; it holds record text only. A label being edited takes it at once.
+// The text has changed by typing; it holds record text only. A label being edited shows it at once.
 void txtEdit_Change(Editor& editor);
 // Enter ends the edit or places the text being composed.
 void txtEdit_EnterPressed(Editor& editor);
@@ -41,11 +37,5 @@ void txtEdit_EnterPressed(Editor& editor);
 constexpr std::string_view RefusedTextNote =
     "A drawing can hold Western European characters only; the others are left out.";
 void txtEdit_Refused(Editor& editor);
-
-// Ends the edit of a label: it keeps the text typed so far and gets back its own colour. One undo
-// step if the text has changed. Called by Enter, by the next placement and by reset.
-void finishLabelEdit(Editor& editor);
-// The same, and the text box closes unless the Text tool needs it.
-void endTextEdit(Editor& editor);
 
 }  // namespace ladrix

@@ -4,9 +4,10 @@
 #include <cmath>
 #include <optional>
 
+#include "canvas/gestures/Gesture.h"
 #include "canvas/gestures/Keys.h"
+#include "canvas/labels/LabelEdit.h"
 #include "canvas/labels/Labels.h"
-#include "canvas/view/Redraw.h"
 #include "platform/Numbers.h"
 
 namespace ladrix {
@@ -79,7 +80,7 @@ void applyTo(LabelTable& labels, const TextProperties& form, Single size) {
 void mnuEditTextProps_Click(TextProperties& form, Editor& editor) {
     const Short shown = shownLabel(editor);
     if (shown < 0) return;
-    endTextEdit(editor);
+    keepLabelEdit(editor);
     form = {};
     frmTextProps_Load(form, editor);
     const Label label = editor.drawing.labels.row(shown);

@@ -12,6 +12,8 @@
 
 namespace ladrix {
 
+enum : Short { LeftButton = 1, RightButton = 2 };  // of the pointer
+
 struct Control {
     bool Visible = true;
     bool Enabled = true;

@@ -68,6 +68,56 @@ struct BackupState {
     std::string shown;  // the copy that the drawing came from, until it is saved
 };
 
+// What the pointer is in the middle of. Reset brings back the defaults that stand here.
+struct Gesture {
+    // The tool in hand. -1: none.
+    Short CurrentTool = -1;
+    std::string ToolName;
+    bool ToolActive = false;      // grips are not offered
+    bool ToolCursor = false;      // cross cursor and ghost are on
+    bool ToolBlocksBand = false;  // a drag starts no band
+    bool TestSymbolMode = false;
+
+    // A button held on the canvas, and the band.
+    bool MouseIsDown = false, BandArmed = false, BandShown = false;
+    Single BandX[2] = {0, 0}, BandY[2] = {0, 0};
+    bool SnapXFound = false, SnapYFound = false;
+
+    // A line or square with its first corner.
+    Single LineStartX = NoPoint, LineStartY = NoPoint, LineEndX = NoPoint, LineEndY = NoPoint;
+    Short DashedMode = 0;
+    bool SquareStarted = false;
+
+    // Copy or move: stage 1 waits for FROM, stage 2 for TO. Inches.
+    bool CopyArmed = false, MoveMode = false;
+    Short CopyStage = 0;
+    Single CopyFromX = 0, CopyFromY = 0, CopyToX = 0, CopyToY = 0;
+
+    // The next press zooms, aligns the selected labels, or gives a user symbol's point.
+    bool ZoomInPending = false, ZoomOutPending = false;
+    bool TextAlignPending = false;
+    TextAlignment textAlignment = TextAlignment::None;
+    Single TextAlignX = 0, TextAlignY = 0;
+    bool SavingUserSymbol = false, SymbolPointPending = false, SymbolPointFound = false;
+
+    bool SelectionColorPending = false;  // the next colour chosen is the selection's
+
+    // The text being placed.
+    std::string TextBuffer;
+    bool TextGhostShown = false;
+    Single TextGhostX = 0, TextGhostY = 0;
+
+    PictureDrag draggedPicture;
+    LabelDrag draggedLabels;
+};
+
+// The label that is open in txtEdit.
+struct LabelEdit {
+    Short index = -1;  // -1: none
+    std::string text;  // typed so far
+    Single left = 0;   // of that text, inches
+};
+
 struct Editor {
     explicit Editor(const Platform& machine) : platform(machine) {}
 
@@ -76,66 +126,45 @@ struct Editor {
     Symbols symbols;
     FormLX form;
 
-    // The tool in hand. -1: none.
-    Short CurrentTool = -1, PreviousTool = -1, RepeatTool = -1;
+    // What is under way.
+    Gesture gesture;
+    LabelEdit labelEdit;
+
+    // The palette. -1: no button.
+    Short PreviousTool = -1, RepeatTool = -1;
     Short LastBuiltInButton = BuiltInButtonCount;
-    std::string ToolName;
-    bool ToolActive = false;      // grips are not offered
-    bool ToolCursor = false;      // cross cursor and ghost are on
-    bool ToolBlocksBand = false;  // a drag starts no band
-    bool TestSymbolMode = false;
     bool Arranging = false;  // the palette is being arranged
     Library OpenLibrary = Library::NEMA;
     Short TallScreen = 1;
     std::string UserLibraryName = "User Symbols";
 
     // The pointer.
-    bool MouseIsDown = false, BandArmed = false, BandShown = false;
-    Single BandX[2] = {0, 0}, BandY[2] = {0, 0};
     Single PreviousX = NoPoint, PreviousY = NoPoint;  // of the move before
     Single SnapX = 0, SnapY = 0;
-    bool SnapXFound = false, SnapYFound = false;
     Single SnapStep = 0.25f;  // inches
 
     // Lines, squares, circles and arcs.
-    Single LineStartX = NoPoint, LineStartY = NoPoint, LineEndX = NoPoint, LineEndY = NoPoint;
-    Short DashedMode = 0;
-    bool SquareStarted = false;
     bool ThickLineTool = false;
     Single DashSpacing = 0.125f;  // inches
     Single CircleRadius = 0.0375f, ArcRadius = 0.125f;
     Single LastSmallCircle = 0, LastLargeCircle = 0, LastArc = 0;  // radius typed last; 0: none
     Single ArcStartAngle = 0, ArcEndAngle = 0;                     // radians
     Long CurrentColor = Black, SelectionColor = Magenta;
-    bool SelectionColorPending = false;
     std::string SymbolWidthTag;
     Single SymbolScaleX = 1, SymbolScaleY = 1;
     bool SymbolFlip = false;
 
-    // Copy, move, zoom, alignment, user symbols.
-    bool CopyArmed = false, MoveMode = false;
-    Short CopyStage = 0;
-    Single CopyFromX = 0, CopyFromY = 0, CopyToX = 0, CopyToY = 0;
-    CopyBuffer copied;
+    CopyBuffer copied;           // outlives the copy
     bool CopyExplained = false;  // the message of the first copy has been shown
-    bool ZoomInPending = false, ZoomOutPending = false, TextAlignPending = false;
-    TextAlignment textAlignment = TextAlignment::None;
-    Single TextAlignX = 0, TextAlignY = 0;
-    bool SavingUserSymbol = false, SymbolPointPending = false, SymbolPointFound = false;
     bool SimulationMode = false;
-    bool SnapshotPending = false;
+    bool SnapshotPending = false;  // items were stretched or moved by keys
 
     // Text and selection.
-    std::string TextBuffer;
-    bool TextGhostShown = false, TextBoxFocused = false;
+    bool TextBoxFocused = false;
     bool AutoIncrement = false, AddSpace = false, LabelColorOn = false;
-    Single TextGhostX = 0, TextGhostY = 0;
-    Short LastSelectedLabel = -1;
-    bool LabelEdited = false;  // its text has changed since the edit began
+    Short LastSelectedLabel = -1;  // the one label that is selected; -1: none or several
     Short SelectedCount = 0, SelectedDeviceCount = 0, SelectedLabelCount = 0;
     Short SelectedPicture = -1;  // the last one selected
-    PictureDrag draggedPicture;
-    LabelDrag draggedLabels;
 
     // The view.
     Single PageWidth = 8.5f, PageHeight = 11;           // inches
@@ -170,8 +199,6 @@ struct Editor {
     UndoHistory history;
     Short UndoTop = 0, UndoPosition = 0;  // the newest snapshot, the one shown
     std::map<std::string, KnownPicture, std::less<>> HistoryPictures;  // by file name
-    // Empties the undo history, with the present state as its first. Set once by the layer above.
-    std::function<void()> ClearHistory;
 
     // The drawing has been read from its file or written to it. Set once by the layer above.
     std::function<void()> FileTouched;

@@ -1,9 +1,10 @@
 #include "canvas/tools/Colors.h"
 
-#include "canvas/history/Undo.h"
-#include "canvas/labels/Labels.h"
-#include "canvas/view/Redraw.h"
-#include "platform/Numbers.h"
+#include <utility>
+
+#include "canvas/gestures/Gesture.h"
+#include "canvas/history/History.h"
+#include "canvas/labels/LabelEdit.h"
 
 namespace ladrix {
 
@@ -24,7 +25,7 @@ constexpr Long PanelColors[] = {
 };
 
 void recolorSelection(Editor& editor, Long color) {
-    finishLabelEdit(editor);
+    keepLabelEdit(editor);
     DeviceTable& devices = editor.drawing.devices;
     for (std::size_t i = 0; i < devices.DeviceSelected.size(); ++i)
         if (devices.DeviceSelected[i] != 0) devices.DeviceColor[i] = color;
@@ -35,7 +36,7 @@ void recolorSelection(Editor& editor, Long color) {
 }
 
 void chooseColor(Editor& editor, Long color) {
-    if (std::exchange(editor.SelectionColorPending, false)) editor.SelectionColor = color;
+    if (std::exchange(editor.gesture.SelectionColorPending, false)) editor.SelectionColor = color;
     editor.form.picSelectedColor.BackColor = color;
     editor.CurrentColor = color;
     editor.form.picColors.Visible = false;
@@ -43,32 +44,6 @@ void chooseColor(Editor& editor, Long color) {
     if (editor.SelectedCount == 0) return;
     recolorSelection(editor, color);
     ResetEditor(editor);
-}
-
-// The width tag of a selected device.
-std::string_view widthTagFor(const Editor& editor, std::string_view name) {
-    const bool thick =
-        editor.ThickLineTool && (name == "InsertSavedLine" || editor.symbols.ThickDevices);
-    return thick ? "DrawWidth=2" : "";
-}
-
-bool retagSelection(Editor& editor) {
-    DeviceTable& devices = editor.drawing.devices;
-    bool any = false;
-    for (std::size_t i = 0; i < devices.DeviceSelected.size(); ++i) {
-        if (devices.DeviceSelected[i] == 0) continue;
-        devices.DeviceWidthTag[i] = widthTagFor(editor, devices.DeviceName[i]);
-        any = true;
-    }
-    return any;
-}
-
-void applyScaleText(Editor& editor) {
-    const auto typed = typedNumber(editor.form.cmbScale.Text);
-    if (typed && *typed > 0) editor.SymbolScaleX = editor.SymbolScaleY = *typed;
-    if (!typed || *typed <= 0)
-        editor.form.cmbScale.Text =
-            singleText(editor.SymbolScaleX, editor.platform.locale.decimalMark);
 }
 
 }  // namespace
@@ -90,67 +65,9 @@ void picSelectedColor_Click(Editor& editor) {
 }
 
 void mnuOptChangeSelectionColor_Click(Editor& editor) {
-    editor.SelectionColorPending = true;
+    editor.gesture.SelectionColorPending = true;
     editor.form.lblMessage.Caption = "Choose the color in which selected items are shown.";
     cmdColors_Click(editor);
-}
-
-void cmdDrawWidth_Click(Editor& editor, Short index) {
-    editor.ThickLineTool = index == 0;
-    editor.form.cmdDrawWidth[0].BackColor = editor.ThickLineTool ? Cyan : ButtonFace;
-    editor.form.cmdDrawWidth[1].BackColor = editor.ThickLineTool ? ButtonFace : Cyan;
-    if (!retagSelection(editor)) return;
-    paintDrawing(editor);
-    recordStep(editor);
-}
-
-void FillScaleList(Editor& editor) {
-    static constexpr Single Scales[] = {0.25f, 0.5f, 0.75f, 1, 1.25f, 1.5f,
-                                        1.75f, 2,    2.5f,  3, 4,     5};
-    ComboBox& box = editor.form.cmbScale;
-    const auto twoDecimals = [&](Single value) {
-        const int hundredths = static_cast<int>(value * 100 + 0.5f);
-        std::string text = std::to_string(hundredths / 100);
-        text += editor.platform.locale.decimalMark;
-        text += static_cast<char>('0' + hundredths / 10 % 10);
-        text += static_cast<char>('0' + hundredths % 10);
-        return text;
-    };
-    box.List.clear();
-    for (const Single scale : Scales)
-        box.List.push_back(twoDecimals(scale));
-    box.Text = twoDecimals(1);
-}
-
-void cmbScale_Click(Editor& editor) {
-    applyScaleText(editor);
-    editor.form.FocusRequest = Focus::Canvas;
-}
-
-void cmdScaleOK_Click(Editor& editor) {
-    applyScaleText(editor);
-}
-
-void mnuOptionThickDevices_Click(Editor& editor) {
-    editor.symbols.ThickDevices = !editor.symbols.ThickDevices;
-    editor.form.menu[Menu::mnuOptionThickDevices].Checked = editor.symbols.ThickDevices;
-    applyThickDevices(editor);
-    RedrawDrawing(editor);
-}
-
-void mnuOptBlackBackground_Click(Editor& editor) {
-    editor.BlackBackground = !editor.BlackBackground;
-    editor.form.menu[Menu::mnuOptBlackBackground].Checked = editor.BlackBackground;
-    applyBlackBackground(editor);
-    RedrawDrawing(editor);
-}
-
-void applyThickDevices(Editor& editor) {
-    editor.platform.picLX->DrawWidth = editor.symbols.ThickDevices ? 2 : 1;
-}
-
-void applyBlackBackground(Editor& editor) {
-    editor.platform.picLX->BackColor = editor.BlackBackground ? Black : White;
 }
 
 }  // namespace ladrix

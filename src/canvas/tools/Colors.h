@@ -1,5 +1,4 @@
-// Colour, line width and the scale of new symbols. Colour and width also go to what is selected, as
-// one undo step.
+// The colour of new items, which also goes to what is selected, as one undo step.
 #pragma once
 
 #include "canvas/state/Editor.h"
@@ -19,23 +18,5 @@ void picSelectedColor_Click(Editor& editor);
 
 // The next colour chosen becomes the selection colour too; opens the panel. A reset gives it up.
 void mnuOptChangeSelectionColor_Click(Editor& editor);
-
-// 0 thick, 1 thin; of new lines, and of what is selected. Devices other than lines are thick only
-// while all symbols are.
-void cmdDrawWidth_Click(Editor& editor, Short index);
-
-// Fills the list with the locale's decimal mark and chooses 1.00.
-void FillScaleList(Editor& editor);
-// The entry or the typed text becomes the scale of new symbols; a text that is no number above 0 is
-// replaced by the present scale.
-void cmbScale_Click(Editor& editor);
-void cmdScaleOK_Click(Editor& editor);
-
-void mnuOptionThickDevices_Click(Editor& editor);
-void mnuOptBlackBackground_Click(Editor& editor);
-
-// The canvas takes the option as it stands. Neither paints.
-void applyThickDevices(Editor& editor);
-void applyBlackBackground(Editor& editor);
 
 }  // namespace ladrix

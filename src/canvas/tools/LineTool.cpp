@@ -3,7 +3,7 @@
 #include <cmath>
 #include <vector>
 
-#include "canvas/gestures/Pointer.h"
+#include "canvas/view/Painting.h"
 
 namespace ladrix {
 
@@ -60,18 +60,18 @@ bool drawAndRecord(Editor& editor, std::string_view name, const Segment& s, Long
 }
 
 bool takesStart(Editor& editor) {
-    if (editor.LineStartX != NoPoint) return false;
-    editor.LineStartX = editor.SnapX;
-    editor.LineStartY = editor.SnapY;
+    if (editor.gesture.LineStartX != NoPoint) return false;
+    editor.gesture.LineStartX = editor.SnapX;
+    editor.gesture.LineStartY = editor.SnapY;
     return true;
 }
 
 Segment fromStartToSnap(Editor& editor) {
-    editor.LineEndX = editor.SnapX;
-    editor.LineEndY = editor.SnapY;
-    beginTemporaryGraphics(editor);
-    editor.platform.picLX->AutoRedraw = true;
-    return {editor.LineStartX, editor.LineStartY, editor.LineEndX, editor.LineEndY};
+    editor.gesture.LineEndX = editor.SnapX;
+    editor.gesture.LineEndY = editor.SnapY;
+    wipeTemporaryGraphics(editor);
+    return {editor.gesture.LineStartX, editor.gesture.LineStartY, editor.gesture.LineEndX,
+            editor.gesture.LineEndY};
 }
 
 }  // namespace
@@ -80,7 +80,7 @@ void InsertSavedLine(Editor& editor, Long color, std::string_view widthTag) {
     if (takesStart(editor)) return;
     const Segment line = fromStartToSnap(editor);
     editor.drawing.DashesCounted = 0;
-    editor.drawing.DashedLine = editor.DashedMode != 0;
+    editor.drawing.DashedLine = editor.gesture.DashedMode != 0;
     if (editor.drawing.DashedLine) {
         for (const Segment& dash : dashesOf(line, editor.DashSpacing)) {
             ++editor.drawing.DashesCounted;
@@ -90,15 +90,15 @@ void InsertSavedLine(Editor& editor, Long color, std::string_view widthTag) {
         drawAndRecord(editor, "InsertSavedLine", normalised(line), color, widthTag);
     }
     editor.drawing.DashedLine = false;
-    editor.LineStartX = editor.SnapX;
-    editor.LineStartY = editor.SnapY;
+    editor.gesture.LineStartX = editor.SnapX;
+    editor.gesture.LineStartY = editor.SnapY;
 }
 
 void InsertSavedSquare(Editor& editor, Long color, std::string_view styleText) {
     if (takesStart(editor)) return;
     drawAndRecord(editor, "InsertSavedSquare", normalised(fromStartToSnap(editor)), color,
                   styleText);
-    editor.LineStartX = NoPoint;
+    editor.gesture.LineStartX = NoPoint;
 }
 
 }  // namespace ladrix

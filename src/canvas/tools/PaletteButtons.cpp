@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <span>
 
-#include "canvas/view/Redraw.h"
+#include "canvas/gestures/Gesture.h"
 #include "symbols/DeviceNames.h"
 #include "symbols/Shapes.h"
 

@@ -1,8 +1,9 @@
 #include "canvas/tools/RadiusFields.h"
 
 #include "canvas/gestures/Keys.h"
-#include "canvas/history/Undo.h"
-#include "canvas/view/Redraw.h"
+#include "canvas/history/History.h"
+#include "canvas/tools/ToolTable.h"
+#include "canvas/view/Painting.h"
 #include "platform/Numbers.h"
 
 namespace ladrix {
@@ -13,12 +14,10 @@ constexpr Single DegreesPerRadian = 57.29577951f;
 constexpr Single FirstCircleRadius = 0.0375f, FirstArcRadius = 0.125f;  // inches
 
 void storeRadius(Editor& editor, Single radius) {
-    const std::string& tool = editor.ToolName;
-    if (tool == "Connection Point" || tool == "Small Circle" || tool == "Large Circle")
-        editor.CircleRadius = radius;
-    if (tool == "Small Circle") editor.LastSmallCircle = radius;
-    if (tool == "Large Circle") editor.LastLargeCircle = radius;
-    if (tool.starts_with("Arc ")) editor.ArcRadius = editor.LastArc = radius;
+    const Tool& tool = toolInHand(editor);
+    if (tool.kind == ToolKind::Circle) editor.CircleRadius = radius;
+    if (tool.kind == ToolKind::Arc) editor.ArcRadius = radius;
+    if (tool.typedRadius) editor.*tool.typedRadius = radius;
 }
 
 // Which of the two radii a device takes; nullptr: it has none.
@@ -43,7 +42,7 @@ bool reshape(Editor& editor, std::size_t i) {
 
 void txtRadius_Change(Editor& editor) {
     const std::string& text = editor.form.txtRadius.Text;
-    if (text.empty() || editor.CurrentTool == -1) return;
+    if (text.empty() || editor.gesture.CurrentTool == -1) return;
     editor.platform.attempt("Radius information invalid.",
                             [&] { storeRadius(editor, toSingle(text)); });
 }

@@ -1,12 +1,9 @@
-// The tool in hand: what a press on a palette button does, the fly-out of orientations and the
-// panels that belong to some tools.
+// The tool in hand: what a press on a palette button does, and the fly-out of orientations.
 #pragma once
 
 #include "canvas/state/Editor.h"
 
 namespace ladrix {
-
-constexpr Short TextTool = 0, DashedLineTool = 2, LineTool = 3;
 
 // Chooses the tool of this button. Clears a selection and a pending zoom first. Cannot fail.
 void cmdSym_Click(Editor& editor, Short index);
@@ -28,16 +25,5 @@ void fillToolBlock(Editor& editor, Single x, Single y, Long color);
 
 // ToolName from the pressed button, with "US " in front for a user symbol; "" without a tool.
 void refreshToolName(Editor& editor);
-
-enum class Panel { None, Text, Radius };
-void showPanel(Editor& editor, Panel panel);
-
-// What stands in the radius panel: circles have no angles.
-enum class RadiusPanel { RadiusAlone, WithAngles };
-void layOutRadiusPanel(Editor& editor, RadiusPanel fields);
-
-// A button shows its up or its pressed image.
-void releaseButton(Editor& editor, Short index);
-void pressButton(Editor& editor, Short index);
 
 }  // namespace ladrix

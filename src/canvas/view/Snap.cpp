@@ -2,8 +2,8 @@
 
 #include <cmath>
 
-#include "canvas/gestures/Pointer.h"
-#include "canvas/view/Redraw.h"
+#include "canvas/gestures/Gesture.h"
+#include "canvas/view/Painting.h"
 #include "platform/Numbers.h"
 
 namespace ladrix {

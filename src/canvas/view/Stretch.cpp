@@ -1,8 +1,8 @@
 #include "canvas/view/Stretch.h"
 
 #include <algorithm>
+#include <utility>
 
-#include "canvas/gestures/Pointer.h"
 #include "canvas/view/View.h"
 
 namespace ladrix {

@@ -3,16 +3,18 @@
 #include <algorithm>
 #include <cmath>
 
-#include "canvas/view/Redraw.h"
+#include "canvas/view/Painting.h"
 #include "document/PageLayout.h"
 
 namespace ladrix {
 
 namespace {
 
-constexpr Single FinestGrid = 0.02f;  // inches on the screen; a finer grid would be a grey page
-constexpr int LinesPerBright = 4;     // of the grid
-constexpr Single OwnPitch = 0.25f;    // inches, while the grid does not follow the snap
+// inches on the screen; a finer grid would be a grey page
+
+// of the grid
+
+// inches, while the grid does not follow the snap
 
 void arrangeBar(ScrollBar& bar, Single page, Single visible, Single& target) {
     const bool needed = page > visible;
@@ -59,7 +61,8 @@ void returnToFullSize(Editor& editor) {
 }
 
 void scroll(Editor& editor, const ScrollBar& bar, Single& target, Single& scale) {
-    editor.symbols.SkipUserSymbolOnce = !editor.ZoomInPending && !editor.ZoomOutPending;
+    editor.symbols.SkipUserSymbolOnce =
+        !editor.gesture.ZoomInPending && !editor.gesture.ZoomOutPending;
     takeScroll(bar, target, scale);
     setScale(editor);
     paintDrawing(editor);
@@ -73,25 +76,6 @@ Single heldWithin(Single position, Single page, Single visible) {
 void followView(ScrollBar& bar, Single& target, Single scale) {
     target = std::min(scale * 100, static_cast<Single>(bar.Max));
     bar.Value = static_cast<int>(std::lround(target));
-}
-
-// The grid lines from the first to the last that lie inside the page, its edges left out, and in
-// the view.
-struct LineRange {
-    int first, last;
-};
-
-LineRange linesInView(Single pitch, Single page, Single viewFrom, Single viewTo) {
-    const Single first = std::ceil(viewFrom / pitch);
-    const Single last =
-        std::max(0.0f, std::min(std::ceil(page / pitch) - 1, std::floor(viewTo / pitch)));
-    return {first > 1 ? static_cast<int>(std::min(first, last + 1)) : 1, static_cast<int>(last)};
-}
-
-Long gridColor(const Editor& editor, int line) {
-    const bool bright = line % LinesPerBright == 0;
-    if (editor.BlackBackground) return bright ? RGB(64, 64, 64) : RGB(32, 32, 32);
-    return bright && !editor.GridFollowsSnap ? editor.GridColor : RGB(239, 239, 239);
 }
 
 }  // namespace
@@ -135,7 +119,7 @@ void measureFrame(Editor& editor) {
 
 void ArrangeScrollBars(Editor& editor) {
     measureFrame(editor);
-    if (editor.ZoomInPending || editor.ZoomOutPending)
+    if (editor.gesture.ZoomInPending || editor.gesture.ZoomOutPending)
         editor.form.lblMessage.Caption = zoomScaleText(editor);
     ScrollBar& across = editor.form.HScroll1;
     ScrollBar& down = editor.form.VScroll1;
@@ -180,27 +164,6 @@ void ScrollTo(Editor& editor, Single left, Single top) {
     const Single formerLeft = editor.ScaleLeft, formerTop = editor.ScaleTop;
     placeView(editor, left, top);
     if (editor.ScaleLeft != formerLeft || editor.ScaleTop != formerTop) paintDrawing(editor);
-}
-
-void DrawGrid(Editor& editor) {
-    Canvas& canvas = *editor.platform.picLX;
-    canvas.Cls();
-    const Single pitch = editor.GridFollowsSnap ? editor.SnapStep * 2 : OwnPitch;
-    if (!(pitch * editor.ZoomFactor >= FinestGrid)) return;
-    const Extent view = canvas.visible();
-    const Short width = canvas.DrawWidth;
-    canvas.DrawWidth = 1;
-    const LineRange across = linesInView(pitch, editor.PageWidth, view.left, view.right);
-    for (int i = across.first; i <= across.last; ++i) {
-        const Single x = static_cast<Single>(i) * pitch;
-        canvas.Line(x, 0, x, editor.PageHeight, gridColor(editor, i), LineForm::Plain);
-    }
-    const LineRange down = linesInView(pitch, editor.PageHeight, view.top, view.bottom);
-    for (int i = down.first; i <= down.last; ++i) {
-        const Single y = static_cast<Single>(i) * pitch;
-        canvas.Line(0, y, editor.PageWidth, y, gridColor(editor, i), LineForm::Plain);
-    }
-    canvas.DrawWidth = width;
 }
 
 }  // namespace ladrix

@@ -50,7 +50,4 @@ void placeView(Editor& editor, Single left, Single top);
 // As placeView, and paints if the view has moved: for the wheel and a dragged page.
 void ScrollTo(Editor& editor, Single left, Single top);
 
-// Wipes the canvas and paints the grid lines on it, those in view.
-void DrawGrid(Editor& editor);
-
 }  // namespace ladrix

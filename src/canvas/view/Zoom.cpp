@@ -2,7 +2,8 @@
 
 #include <cmath>
 
-#include "canvas/view/Redraw.h"
+#include "canvas/gestures/Gesture.h"
+#include "canvas/view/Painting.h"
 #include "canvas/view/View.h"
 
 namespace ladrix {
@@ -55,16 +56,14 @@ void zoom(Editor& editor, ZoomStep step) {
     editor.form.lblMessage.Caption = readyMessage(editor);
 }
 
-void setPending(Editor& editor, bool in, bool out) {
-    editor.ZoomInPending = in;
-    editor.ZoomOutPending = out;
-    editor.form.cmdZoomIn.BackColor = in ? Cyan : ButtonFace;
-    editor.form.cmdZoomOut.BackColor = out ? Cyan : ButtonFace;
-}
-
 void armZoom(Editor& editor, ZoomStep step) {
-    if (editor.CurrentTool != -1) ResetEditor(editor);
-    setPending(editor, step == ZoomStep::In, step == ZoomStep::Out);
+    if (editor.gesture.CurrentTool != -1) ResetEditor(editor);
+    endGesture(editor);
+    const bool in = step == ZoomStep::In;
+    editor.gesture.ZoomInPending = in;
+    editor.gesture.ZoomOutPending = !in;
+    editor.form.cmdZoomIn.BackColor = in ? Cyan : ButtonFace;
+    editor.form.cmdZoomOut.BackColor = in ? ButtonFace : Cyan;
 }
 
 }  // namespace
@@ -108,11 +107,7 @@ void zoomToPageWidth(Editor& editor) {
 void zoomAtPress(Editor& editor, Single x, Single y) {
     editor.ZoomPointX = x;
     editor.ZoomPointY = y;
-    zoom(editor, editor.ZoomInPending ? ZoomStep::In : ZoomStep::Out);
-}
-
-void endZoomMode(Editor& editor) {
-    setPending(editor, false, false);
+    zoom(editor, editor.gesture.ZoomInPending ? ZoomStep::In : ZoomStep::Out);
 }
 
 void zoomByWheel(Editor& editor, ZoomStep step, Single x, Single y) {

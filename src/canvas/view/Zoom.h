@@ -26,9 +26,6 @@ void zoomToPageWidth(Editor& editor);
 // The press of a pending zoom.
 void zoomAtPress(Editor& editor, Single x, Single y);
 
-// No press zooms any longer; both buttons are up.
-void endZoomMode(Editor& editor);
-
 // One step with this point of the page staying where it is on the screen. Leaves what is under way
 // alone; at the last step it says so and asks for no answer.
 enum class ZoomStep { In, Out };

@@ -1,14 +1,8 @@
-#include "canvas/view/Redraw.h"
+#include "canvas/view/Painting.h"
 
 #include <algorithm>
+#include <cmath>
 
-#include "canvas/gestures/CopyMove.h"
-#include "canvas/gestures/Pointer.h"
-#include "canvas/gestures/Selection.h"
-#include "canvas/labels/Labels.h"
-#include "canvas/tools/Tools.h"
-#include "canvas/view/View.h"
-#include "canvas/view/Zoom.h"
 #include "platform/Numbers.h"
 
 namespace ladrix {
@@ -17,6 +11,10 @@ namespace {
 
 constexpr std::string_view FittingSample =
     "AaBb CcDd EeFf GgHh IiJj KkLl MmNn OoPp QqRr SsTt UuVv WwXx YyZz 1234567890";
+
+constexpr Single FinestGrid = 0.02f;
+constexpr int LinesPerBright = 4;
+constexpr Single OwnPitch = 0.25f;
 
 Single fittingStep(Single zoom) {
     if (zoom >= 6) return 0.6f;
@@ -54,6 +52,10 @@ void repairLabelFonts(Drawing& drawing) {
     }
 }
 
+bool isEdited(const Editor& editor, std::size_t i) {
+    return editor.labelEdit.index == static_cast<Short>(i);
+}
+
 void paintDevices(Editor& editor) {
     Drawing& drawing = editor.drawing;
     const Extent view = editor.platform.picLX->visible();
@@ -76,33 +78,23 @@ void paintPictures(Editor& editor) {
     }
 }
 
-void endBand(Editor& editor) {
-    editor.BandArmed = editor.BandShown = false;
-    editor.form.pointer.shpSelect.Visible = false;
-    editor.form.pointer.shpSelectLight.Visible = false;
+// The grid lines from the first to the last that lie inside the page, its edges left out, and in
+// the view.
+struct LineRange {
+    int first, last;
+};
+
+LineRange linesInView(Single pitch, Single page, Single viewFrom, Single viewTo) {
+    const Single first = std::ceil(viewFrom / pitch);
+    const Single last =
+        std::max(0.0f, std::min(std::ceil(page / pitch) - 1, std::floor(viewTo / pitch)));
+    return {first > 1 ? static_cast<int>(std::min(first, last + 1)) : 1, static_cast<int>(last)};
 }
 
-void resetMenus(Editor& editor) {
-    MenuStates& menu = editor.form.menu;
-    menu[Menu::mnuEditText].Enabled = false;
-    menu[Menu::mnuEditTextAlignLeft].Enabled = false;
-    menu[Menu::mnuEditTextAlignRight].Enabled = false;
-    menu[Menu::mnuEditTextAlignTop].Enabled = false;
-    menu[Menu::mnuEditCopy].Enabled = false;
-    menu[Menu::mnuEditMove].Enabled = false;
-    menu[Menu::mnuEditDelete].Enabled = false;
-    menu[Menu::mnuEditSelectAll].Enabled = true;
-    menu[Menu::mnuEditPaste].Enabled = editor.CopyStage > 0;
-}
-
-void endTool(Editor& editor) {
-    releaseButton(editor, editor.CurrentTool);
-    beginTemporaryGraphics(editor);
-    editor.platform.picLX->AutoRedraw = true;
-    editor.LineStartX = editor.LineEndX = NoPoint;
-    editor.CurrentTool = -1;
-    editor.ToolBlocksBand = false;
-    editor.form.picColors.Visible = false;
+Long gridColor(const Editor& editor, int line) {
+    const bool bright = line % LinesPerBright == 0;
+    if (editor.BlackBackground) return bright ? RGB(64, 64, 64) : RGB(32, 32, 32);
+    return bright && !editor.GridFollowsSnap ? editor.GridColor : RGB(239, 239, 239);
 }
 
 }  // namespace
@@ -124,14 +116,27 @@ LabelControl labelControl(Editor& editor, std::size_t i) {
     FontSpec font{labels.LabelFontName[i], labels.LabelFontSize[i],
                   editor.symbols.ThickDevices || labels.LabelBold[i], labels.LabelItalic[i]};
     font.size = fittedFontSize(editor, font);
-    const bool edited =
-        editor.form.picText.Visible && editor.LastSelectedLabel == static_cast<Short>(i);
-    const Long color =
-        edited || labels.LabelSelected[i] != 0 ? editor.SelectionColor : labels.LabelColor[i];
-    return {labels.LabelText[i], labels.LabelX[i], labels.LabelY[i], color, std::move(font), true};
+    LabelControl control{labels.LabelText[i],   labels.LabelX[i], labels.LabelY[i],
+                         shownColor(editor, i), std::move(font),  true};
+    if (!isEdited(editor, i)) return control;
+    control.Caption = editor.labelEdit.text;
+    control.Left = editor.labelEdit.left;
+    return control;
 }
 
 }  // namespace
+
+Long shownColor(const Editor& editor, std::size_t i) {
+    const LabelTable& labels = editor.drawing.labels;
+    return isEdited(editor, i) || labels.LabelSelected[i] != 0 ? editor.SelectionColor
+                                                               : labels.LabelColor[i];
+}
+
+void placeLabel(Editor& editor, std::size_t i) {
+    if (i >= editor.form.lbl.size()) return placeLabels(editor);
+    editor.form.lbl[i] = labelControl(editor, i);
+    ++editor.form.LabelVersion;
+}
 
 void placeLabels(Editor& editor) {
     const auto count = static_cast<std::size_t>(editor.drawing.labels.LabelCount);
@@ -146,6 +151,37 @@ void placeLastLabel(Editor& editor) {
     if (count == 0 || editor.form.lbl.size() != count - 1) return placeLabels(editor);
     editor.form.lbl.push_back(labelControl(editor, count - 1));
     ++editor.form.LabelVersion;
+}
+
+void beginTemporaryGraphics(Editor& editor) {
+    editor.platform.picLX->AutoRedraw = false;
+    editor.platform.picLX->Cls();
+}
+
+void wipeTemporaryGraphics(Editor& editor) {
+    beginTemporaryGraphics(editor);
+    editor.platform.picLX->AutoRedraw = true;
+}
+
+void DrawGrid(Editor& editor) {
+    Canvas& canvas = *editor.platform.picLX;
+    canvas.Cls();
+    const Single pitch = editor.GridFollowsSnap ? editor.SnapStep * 2 : OwnPitch;
+    if (!(pitch * editor.ZoomFactor >= FinestGrid)) return;
+    const Extent view = canvas.visible();
+    const Short width = canvas.DrawWidth;
+    canvas.DrawWidth = 1;
+    const LineRange across = linesInView(pitch, editor.PageWidth, view.left, view.right);
+    for (int i = across.first; i <= across.last; ++i) {
+        const Single x = static_cast<Single>(i) * pitch;
+        canvas.Line(x, 0, x, editor.PageHeight, gridColor(editor, i), LineForm::Plain);
+    }
+    const LineRange down = linesInView(pitch, editor.PageHeight, view.top, view.bottom);
+    for (int i = down.first; i <= down.last; ++i) {
+        const Single y = static_cast<Single>(i) * pitch;
+        canvas.Line(0, y, editor.PageWidth, y, gridColor(editor, i), LineForm::Plain);
+    }
+    canvas.DrawWidth = width;
 }
 
 void paintDrawing(Editor& editor) {
@@ -171,51 +207,6 @@ void RedrawDrawing(Editor& editor) {
     paintDrawing(editor);
     editor.drawing.NoRecord = false;
     RebuildDeviceString(editor.drawing, editor.platform);
-}
-
-void ResetEditor(Editor& editor) {
-    editor.MouseIsDown = false;
-    endBand(editor);
-    editor.SnapXFound = editor.SnapYFound = false;
-    endZoomMode(editor);
-    editor.symbols.block.CurDevice.clear();
-    editor.ToolName.clear();
-    editor.SavingUserSymbol = editor.SymbolPointPending = editor.SymbolPointFound = false;
-    if (editor.SnapshotPending) {
-        editor.SnapshotPending = false;
-        if (editor.drawing.TakeUndoSnapshot) editor.drawing.TakeUndoSnapshot();
-    }
-    editor.TextAlignPending = editor.SelectionColorPending = false;
-    editor.textAlignment = TextAlignment::None;
-    editor.draggedLabels = {};
-    editor.form.picMoreSym.Visible = false;
-    editor.form.cmbScale.Enabled = editor.form.cmdScaleOK.Enabled = true;
-    finishLabelEdit(editor);
-    showPanel(editor, Panel::None);
-    editor.SquareStarted = false;
-    editor.DashedMode = 0;
-    editor.ToolCursor = editor.ToolActive = false;
-    editor.form.pointer.Pointer = MousePointer::Default;
-    editor.drawing.DrawingPreview = false;
-    editor.drawing.LabelPending = editor.drawing.DeviceRecorded = false;
-    resetMenus(editor);
-    endCopy(editor);
-    editor.TextBuffer.clear();
-    editor.TextGhostShown = false;
-    ClearSelection(editor);
-    endTool(editor);
-    RedrawDrawing(editor);
-    editor.form.FocusRequest = Focus::Canvas;
-    editor.form.lblMessage.Caption = readyMessage(editor);
-    colorReset(editor, false);
-}
-
-void cmdReset_Click(Editor& editor) {
-    ResetEditor(editor);
-}
-
-void mnuOptionReset_Click(Editor& editor) {
-    cmdReset_Click(editor);
 }
 
 void colorReset(Editor& editor, bool something) {

@@ -1,0 +1,29 @@
+// The undo history: slot UndoTop holds the newest snapshot, slot UndoPosition the one shown. A
+// snapshot is the three master texts, each behind its marker:
+//
+//   ///DEVICES///...///LABELS///...///PICTURES///...
+//
+// From the 500th on each new snapshot shifts all slots down by one while UndoTop goes on growing,
+// so that every other slot on the way back is empty. Past the last slot nothing more is kept.
+#pragma once
+
+#include <string_view>
+
+#include "canvas/state/Editor.h"
+
+namespace ladrix {
+
+constexpr std::string_view DevicesMark = "///DEVICES///", LabelsMark = "///LABELS///",
+                           PicturesMark = "///PICTURES///";
+
+// Called by everything that changes the drawing, when its texts hold the change.
+void TakeUndoSnapshot(Editor& editor);
+
+// The end of a command that has changed the tables: their texts follow, the drawing counts as
+// changed and the history gets its step. Painting is the caller's.
+void recordStep(Editor& editor);
+
+// The present state is all the history there is.
+void ClearHistory(Editor& editor);
+
+}  // namespace ladrix
