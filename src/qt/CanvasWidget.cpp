@@ -1,5 +1,6 @@
 #include "qt/CanvasWidget.h"
 
+#include <QGuiApplication>
 #include <QPaintEvent>
 #include <QSignalBlocker>
 #include <QWheelEvent>
@@ -256,12 +257,36 @@ void CanvasWidget::release(const QMouseEvent& event) {
                   canvas_.inchesX(event.position().x()), canvas_.inchesY(event.position().y()));
 }
 
+// A press acts where it is, whether a move came to there before or not.
 void CanvasWidget::mousePressEvent(QMouseEvent* event) {
     if (event->button() == Qt::MiddleButton) return startPan(event->position());
     if (pan_ || classicButton(event->button()) == 0) return;
+    if (event->buttons() == event->button()) tellPointerAt(event->position());
     press(*event);
     lookUnder(event->position());
     emit handled();
+}
+
+void CanvasWidget::tellPointer() {
+    toTell_ = !pointer_;
+    if (pointer_ && !pan_ && QGuiApplication::mouseButtons() == Qt::NoButton)
+        tellPointerAt(*pointer_);
+}
+
+void CanvasWidget::tellPointerAt(QPointF at) {
+    pointer_ = at;
+    picLX_PointerRests(program_.editor, 0, canvas_.inchesX(at.x()), canvas_.inchesY(at.y()));
+    lookUnder(at);
+}
+
+void CanvasWidget::enterEvent(QEnterEvent* event) {
+    pointer_ = event->position();
+    if (toTell_) tellPointer();
+    emit handled();
+}
+
+void CanvasWidget::leaveEvent(QEvent*) {
+    pointer_.reset();
 }
 
 void CanvasWidget::mouseMoveEvent(QMouseEvent* event) {
@@ -275,6 +300,7 @@ void CanvasWidget::mouseMoveEvent(QMouseEvent* event) {
 
 void CanvasWidget::movePointer(QPointF at, Qt::MouseButtons buttons,
                                Qt::KeyboardModifiers modifiers) {
+    pointer_ = at;
     const Single x = canvas_.inchesX(at.x());
     const Single y = canvas_.inchesY(at.y());
     const Short held = classicButton(buttons);
@@ -291,7 +317,8 @@ void CanvasWidget::mouseReleaseEvent(QMouseEvent* event) {
     if (event->button() == Qt::MiddleButton) return endPan();
     if (classicButton(event->button()) == 0) return;
     release(*event);
-    lookUnder(event->position());
+    pointer_ = event->position();
+    if (program_.editor.PreviousX == NoPoint) tellPointer();  // a zoom has moved the page
     emit handled();
 }
 
@@ -380,6 +407,7 @@ QScrollBar* CanvasFrame::makeBar(Qt::Orientation orientation, const char* name, 
     connect(bar, &QScrollBar::valueChanged, this, [this, &state, changed](int value) {
         state.Value = value;
         changed(program_.editor);
+        picLX_->tellPointer();
         emit handled();
     });
     return bar;

@@ -25,6 +25,10 @@ class CanvasWidget final : public QWidget {
     // Shows what the state says now.
     void refresh();
 
+    // Tells the editor where the pointer rests: what lies under it may have changed. Nothing while
+    // it is elsewhere or holds a button.
+    void tellPointer();
+
     // Where a point of the page stands, in the widget's pixels.
     QPointF pixelOf(Single x, Single y) const { return canvas_.toPixels(x, y); }
 
@@ -39,6 +43,8 @@ class CanvasWidget final : public QWidget {
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
+    void enterEvent(QEnterEvent* event) override;
+    void leaveEvent(QEvent* event) override;
 
   private:
     enum class Target { Canvas, Grip, Label, Picture };
@@ -51,6 +57,7 @@ class CanvasWidget final : public QWidget {
     void release(const QMouseEvent& event);
     void scrollByWheel(const QWheelEvent& event);
     void zoomByTurn(const QWheelEvent& event);
+    void tellPointerAt(QPointF at);
     void movePointer(QPointF at, Qt::MouseButtons buttons, Qt::KeyboardModifiers modifiers);
     void startPan(QPointF at);
     void pan(QPointF at);
@@ -79,7 +86,9 @@ class CanvasWidget final : public QWidget {
         QPointF from;      // the press
         Single left, top;  // the view then
     };
-    std::optional<Pan> pan_;  // while the page is dragged by the middle button
+    std::optional<QPointF> pointer_;  // where it was seen last; nothing while it is elsewhere
+    bool toTell_ = false;             // something has changed while it was elsewhere
+    std::optional<Pan> pan_;          // while the page is dragged by the middle button
 };
 
 // picFrame: the canvas with its scroll bars, which lie over the margins that the canvas leaves

@@ -2,6 +2,7 @@
 
 #include <QCloseEvent>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QCursor>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -12,6 +13,8 @@
 #include "app/CommandHandlers.h"
 #include "app/FileMenu.h"
 #include "canvas/gestures/Keys.h"
+#include "canvas/labels/Labels.h"
+#include "canvas/tools/ToolTable.h"
 #include "qt/KeyCodes.h"
 #include "qt/QtText.h"
 #include "qt/Theme.h"
@@ -146,7 +149,7 @@ QAction* MainWindow::makeEntry(const Command& command) {
     connect(entry, &QAction::triggered, this, [this, which = command.entry] {
         runCommand(program_, which);
         showMenus();
-        refresh();
+        settle();
     });
     return entry;
 }
@@ -217,6 +220,12 @@ void MainWindow::refresh() {
     if (program_.Ending && isVisible()) close();
 }
 
+// The end of whatever may have changed what the pointer rests on: a command, a key, a dialog.
+void MainWindow::settle() {
+    picFrame_->canvas().tellPointer();
+    refresh();
+}
+
 void MainWindow::showState() {
     bindings_.refresh();
     picTop_->refresh();
@@ -239,15 +248,16 @@ void MainWindow::revealTool() {
     refresh();
 }
 
-// A field in a panel that is closed cannot take the focus; it asks again when the panel opens.
+// A field in a panel that is closed cannot take the focus: the canvas has it until the panel opens.
 void MainWindow::giveFocus() {
     const Focus wanted = std::exchange(program_.editor.form.FocusRequest, Focus::None);
     switch (wanted) {
         case Focus::Canvas:
             return picFrame_->canvas().setFocus();
         case Focus::TextEdit:
-            if (picTop_->txtEdit().isVisible()) picTop_->txtEdit().setFocus();
-            return;
+            if (picTop_->txtEdit().isVisible()) return picTop_->txtEdit().setFocus();
+            txtEdit_LostFocus(program_.editor);
+            return picFrame_->canvas().setFocus();
         case Focus::CircleEnd:
             picTop_->txtCircleEnd().setFocus();
             picTop_->txtCircleEnd().selectAll();
@@ -267,6 +277,18 @@ void MainWindow::pressFormKey(const QKeyEvent& event) {
     Form_KeyDown(program_.editor, classicKeyCode(event), classicShift(event.modifiers()));
 }
 
+// A character typed over the canvas with the Text tool in hand belongs in its field.
+bool MainWindow::typeIntoText(const QKeyEvent& event) {
+    const bool command = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier);
+    if (command || event.text().isEmpty() || !event.text().at(0).isPrint()) return false;
+    if (toolInHand(program_.editor).kind != ToolKind::Text) return false;
+    openTextToolByKey(program_.editor);
+    refresh();
+    QKeyEvent typed(event.type(), event.key(), event.modifiers(), event.text());
+    QCoreApplication::sendEvent(&picTop_->txtEdit(), &typed);
+    return true;
+}
+
 // The form sees keys before the widget that has the focus. While a field has it the keys that edit
 // its text are the field's own: neither the form nor a command takes them.
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
@@ -280,11 +302,12 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
         return ofField;
     }
     if (ofField || press.key() == Qt::Key_Tab || press.key() == Qt::Key_Backtab) return false;
-    pressFormKey(press);
     const bool onCanvas = watched == &picFrame_->canvas();
+    if (onCanvas && typeIntoText(press)) return true;
+    pressFormKey(press);
     if (onCanvas)
         picLX_KeyDown(program_.editor, classicKeyCode(press), classicShift(press.modifiers()));
-    refresh();
+    settle();
     return onCanvas || press.key() == Qt::Key_Escape;
 }
 
@@ -293,7 +316,7 @@ void MainWindow::keyPressEvent(QKeyEvent* event) {
     QWidget* focused = focusWidget();
     if (focused && focused != this && focused->hasFocus()) return QMainWindow::keyPressEvent(event);
     pressFormKey(*event);
-    refresh();
+    settle();
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

@@ -51,6 +51,8 @@ class MainWindow final : public QMainWindow {
     QLabel* makeField(const char* name, const Control& state, QBoxLayout& row);
     void watchKeys();
     void pressFormKey(const QKeyEvent& event);
+    bool typeIntoText(const QKeyEvent& event);
+    void settle();
     void showState();
     void revealTool();
     void showMenus();

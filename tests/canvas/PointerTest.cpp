@@ -282,5 +282,26 @@ TEST_F(PointerTest, PicturesAreOutlinedUnderThePointerAtFullSizeOnly) {
     EXPECT_EQ(outlines("move 2 1.7"), 0u);
 }
 
+TEST_F(PointerTest, ARestingPointerIsToldOfAsByAMove) {
+    play("move 3.02 3.01; tool Ground");
+    canvas.temporary.clear();
+    picLX_MouseMove(editor, 0, 0, 3.02f, 3.01f);
+    EXPECT_THAT(canvas.temporary, IsEmpty()) << "no move: the pointer stands where it was";
+    picLX_PointerRests(editor, 0, 3.02f, 3.01f);
+    EXPECT_FALSE(canvas.temporary.empty()) << "the new tool's ghost";
+    EXPECT_EQ(editor.SnapX, 3);
+}
+
+TEST_F(PointerTest, ARightPressLeavesNoButtonHeldAndNoBand) {
+    play("press 1 1; drag 4 4");
+    ASSERT_TRUE(editor.form.pointer.shpSelect.Visible);
+    play("right 4 4");
+    EXPECT_FALSE(editor.form.pointer.shpSelect.Visible);
+    EXPECT_FALSE(editor.gesture.MouseIsDown || editor.gesture.BandArmed ||
+                 editor.gesture.BandShown);
+    play("tool Text; move 2 2; right 2 2; move 5 5");
+    EXPECT_EQ(editor.gesture.TextGhostX, 5) << "the ghost goes on following";
+}
+
 }  // namespace
 }  // namespace ladrix::test

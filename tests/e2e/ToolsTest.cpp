@@ -112,6 +112,60 @@ TEST_F(ToolsTest, TheReadOutTellsWhereTheNextPointWillBe) {
     EXPECT_EQ(journey.textOf("lblCoords"), "2, 3");
 }
 
+// Nothing moves the pointer between a command and the next click.
+TEST_F(ToolsTest, WhereThePointerRestsIsWhereThingsHappen) {
+    const auto lines = [&] { return journey.editor().drawing.DeviceString; };
+    journey.press("Ground");
+    journey.clickPage(1, 1);
+    Journey::key(Qt::Key_Escape);
+    journey.moveOnPage(4, 3);
+    Journey::key(Qt::Key_A, Qt::ControlModifier);
+    Journey::key(Qt::Key_M, Qt::ControlModifier);
+    Journey::click(journey.page(), journey.at(4, 3));
+    journey.clickPage(5, 3);
+    EXPECT_TRUE(
+        lines().starts_with("InsertGround\xFF"
+                            "2\xFF"
+                            "1\xFF"))
+        << "from (4, 3) to (5, 3): " << lines();
+
+    journey.press("Ground");
+    journey.moveOnPage(6, 6);
+    Journey::key(Qt::Key_Right);
+    EXPECT_NE(journey.message(), "");
+    auto& drawn = journey.window().canvas();
+    const QImage next = drawn.grab().toImage();
+    journey.moveOnPage(6.01, 6);
+    journey.moveOnPage(6, 6);
+    EXPECT_EQ(drawn.grab().toImage(), next) << "the ghost of the next tool stands there at once";
+}
+
+TEST_F(ToolsTest, WhatIsTypedWithTheTextToolGoesIntoItsField) {
+    const auto texts = [&] { return journey.editor().drawing.labels.LabelText; };
+    journey.press("Text");
+    Journey::type("AB");
+    EXPECT_EQ(journey.find<QLineEdit>("txtEdit").text(), "AB") << "before any move";
+    journey.moveOnPage(2, 2);
+    EXPECT_EQ(journey.find<QLineEdit>("txtEdit").text(), "AB");
+    journey.clickPage(2, 2);
+    Journey::type("C");
+    EXPECT_EQ(journey.find<QLineEdit>("txtEdit").text(), "C") << "the text was marked";
+    journey.clickPage(3, 2);
+    EXPECT_EQ(texts(), (std::vector<std::string>{"AB", "C"}));
+    Journey::key(Qt::Key_Escape);
+
+    journey.press("Text");
+    journey.moveOnPage(2, 4);
+    EXPECT_EQ(journey.message(), "Move to desired location and edit as required.");
+    journey.clickPage(2, 4);
+    EXPECT_EQ(texts().back(), "Enter new text and hit return.");
+    journey.moveOnPage(2.5, 4.5);
+    Journey::type("M1");
+    journey.clickPage(3, 4);
+    EXPECT_EQ(texts(), (std::vector<std::string>{"AB", "C", "M1", "M1"}))
+        << "typing replaced the prompt, and goes on being placed";
+}
+
 TEST_F(ToolsTest, TheTextBoxStandsBesideItsCaptionInAnyWidth) {
     journey.press("Text");
     journey.moveOnPage(3, 3);

@@ -127,8 +127,8 @@ void placeTextLabel(Editor& editor, Single x, Single y) {
 }
 
 void openTextToolByKey(Editor& editor) {
-    if (toolInHand(editor).kind == ToolKind::Text && !editor.form.picText.Visible)
-        openTextBox(editor);
+    if (editor.form.picText.Visible) return focusTextBox(editor);
+    if (toolInHand(editor).kind == ToolKind::Text) openTextBox(editor);
 }
 
 std::string incrementedText(std::string_view text, char decimalMark) {

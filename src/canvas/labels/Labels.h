@@ -21,7 +21,7 @@ Short recordCentredLabel(Editor& editor, std::string_view text, Single x, Single
 void drawTextGhost(Editor& editor, Single x, Single y, Long color);
 void placeTextLabel(Editor& editor, Single x, Single y);
 
-// Opens the box of the Text tool before the pointer has: a character is typed that belongs in it.
+// A character is typed that belongs in the Text tool's box: opens it, if no pointer move has yet.
 void openTextToolByKey(Editor& editor);
 
 // 9 becomes 10, A becomes B; Z and longer texts stay.
