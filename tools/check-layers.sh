@@ -2,6 +2,8 @@
 # check-layers.sh [ROOT]: the order of the layers, lowest first. A file of src/<folder> includes from
 # its own folder and from lower lines; from its own line only what its folder's link line names.
 # Qt is named in src/qt and apps alone, and in the tests and benches that drive real windows.
+# Modules of one folder (a header and its source) form no circle of includes; the folders named in
+# `circles` still have one.
 set -euo pipefail
 cd "${1:-$(dirname "${BASH_SOURCE[0]}")/..}"
 
@@ -13,6 +15,8 @@ help browser simulation output usersymbols
 app
 qt"
 
+circles="document symbols browser usersymbols app qt"
+
 [[ -d src ]] || { echo "check-layers: no folder src in $PWD" >&2; exit 2; }
 folders=()
 for folder in src tools fuzz tests; do
@@ -23,7 +27,7 @@ done
     find src -name CMakeLists.txt | sort
     find "${folders[@]}" \( -name '*.cpp' -o -name '*.h' \) \
         -not -path 'tests/qt/*' -not -path 'tests/e2e/*' -not -path 'tests/fixtures/*' | sort
-} | LAYERS=$layers awk '
+} | LAYERS=$layers CIRCLES=$circles awk '
 function complain(text) {
     print path ":" line ": " text
     faults++
@@ -60,11 +64,46 @@ function check_include(folder, text,    target) {
     }
     if (text !~ /^[<"][a-z]+\//) return
     target = substr(text, 2)
+    if (match(target, /\.h[">]/)) note_use(folder, substr(target, 1, RSTART - 1))
     sub(/\/.*/, "", target)
     if (target in rank) {
         if (!allowed(folder, target)) complain("src/" folder " must not include from " target)
     } else if (text ~ /^"/) {
         complain("src/" folder " must not include from " target ", which is no layer")
+    }
+}
+
+# The module of this file uses another one of its folder.
+function note_use(folder, used,    user) {
+    user = substr(path, 5)
+    sub(/\.(cpp|h)$/, "", user)
+    if (user == used || index(used, folder "/") != 1) return
+    uses[user] = uses[user] used " "
+    modules[user] = 1
+}
+
+# Follows the uses from a module; on coming back to one that is being followed, tells the circle.
+function follow(module, trail,    list, count, i) {
+    state[module] = 1
+    count = split(uses[module], list, " ")
+    for (i = 1; i <= count; i++) {
+        if (state[list[i]] == 1) {
+            trail = trail " " module " "
+            print "circle of modules:" substr(trail, index(trail, " " list[i] " ")) list[i]
+            faults++
+            return 1
+        }
+        if (state[list[i]] == 0 && follow(list[i], trail " " module)) return 1
+    }
+    state[module] = 2
+    return 0
+}
+
+function check_circles(    module, folder) {
+    for (module in modules) {
+        folder = module
+        sub(/\/.*/, "", folder)
+        if (!(folder in excused) && state[module] == 0 && follow(module, "")) return
     }
 }
 
@@ -101,6 +140,8 @@ BEGIN {
         count = split(order[i], names, " ")
         for (j = 1; j <= count; j++) rank[names[j]] = i
     }
+    count = split(ENVIRON["CIRCLES"], names, " ")
+    for (j = 1; j <= count; j++) excused[names[j]] = 1
     qt_name = "(^|[^A-Za-z0-9_])(Q[A-Z][A-Za-z0-9]*[a-z]|Qt6?::|Q_[A-Z]|QT_[A-Z]" \
               "|q(App|Debug|Info|Warning|Critical|Fatal|Round|Bound|Printable)([^A-Za-z0-9_]|$))"
 }
@@ -130,6 +171,7 @@ END {
         print "check-layers: no sources found"
         exit 2
     }
+    check_circles()
     if (faults) exit 1
     print "Layers in order: " files " files."
 }'

@@ -318,6 +318,7 @@ void CanvasWidget::mouseReleaseEvent(QMouseEvent* event) {
     if (classicButton(event->button()) == 0) return;
     release(*event);
     pointer_ = event->position();
+    lookUnder(event->position());
     if (program_.editor.PreviousX == NoPoint) tellPointer();  // a zoom has moved the page
     emit handled();
 }

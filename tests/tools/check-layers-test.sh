@@ -95,6 +95,19 @@ if "$check" "$tree" >/dev/null; then
     failures=$((failures + 1))
 fi
 
+# Modules of one folder in a circle, through headers and sources, folders within it too.
+fresh_tree
+mkdir "$tree/src/canvas/view"
+echo '#include "canvas/view/Zoom.h"' >"$tree/src/canvas/Keys.cpp"
+echo '#include "canvas/view/View.h"' >"$tree/src/canvas/view/Zoom.h"
+echo '#include "canvas/Editor.h"' >"$tree/src/canvas/view/View.h"
+expect_pass "modules that use each other in one direction"
+echo '#include "canvas/Keys.h"' >"$tree/src/canvas/view/View.cpp"
+if "$check" "$tree" >"$tree/out" || ! grep -q 'circle of modules: .*canvas/view/View' "$tree/out"; then
+    echo "FAILED: a circle of modules was let pass"
+    failures=$((failures + 1))
+fi
+
 # Nothing to look at is no success.
 rm -rf "${tree:?}"/*
 mkdir "$tree/src"
