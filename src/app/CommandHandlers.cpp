@@ -3,6 +3,7 @@
 #include "app/FailureLog.h"
 #include "canvas/file/DrawingCommands.h"
 #include "canvas/gestures/Gesture.h"
+#include "canvas/labels/LabelEdit.h"
 #include "canvas/view/Painting.h"
 #include "canvas/view/View.h"
 #include "document/Records.h"
@@ -28,6 +29,7 @@ void askAndOpen(Program& program, std::string_view question, std::string_view ti
 }  // namespace
 
 bool mayEnd(Program& program) {
+    keepLabelEdit(program.editor);
     if (!Form_QueryUnload(program.editor)) return false;
     return !program.frmHelp.Visible || Form_QueryUnload(program.frmHelp);
 }

@@ -19,6 +19,7 @@
 #include "canvas/gestures/Selection.h"
 #include "canvas/history/Undo.h"
 #include "canvas/labels/LabelCommands.h"
+#include "canvas/labels/LabelEdit.h"
 #include "canvas/tools/Colors.h"
 #include "canvas/tools/LineWidth.h"
 #include "canvas/tools/PaletteButtons.h"
@@ -193,7 +194,10 @@ bool isEnabled(const Program& program, const Command& row) {
 
 void runCommand(Program& program, Menu entry) {
     const Command& row = command(entry);
-    if (row.handler != nullptr && isEnabled(program, row)) row.handler(program);
+    if (row.handler == nullptr || !isEnabled(program, row)) return;
+    // Reset gives up what is being typed in a label; to all others it is part of the drawing.
+    if (entry != Menu::mnuOptionReset) keepLabelEdit(program.editor);
+    row.handler(program);
 }
 
 }  // namespace ladrix

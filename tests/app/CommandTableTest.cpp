@@ -6,6 +6,8 @@
 #include <set>
 
 #include "app/Startup.h"
+#include "canvas/labels/LabelEdit.h"
+#include "canvas/labels/Labels.h"
 #include "support/FakePlatform.h"
 
 namespace ladrix {
@@ -52,6 +54,24 @@ TEST_F(CommandTableTest, AnEntryWithoutActionIsDisabledAndRunsNothing) {
         EXPECT_FALSE(isEnabled(program, command(entry))) << command(entry).name;
     EXPECT_TRUE(isEnabled(program, command(Menu::mnuFile)));
     EXPECT_TRUE(isEnabled(program, command(Menu::mnuFileSave)));
+}
+
+TEST_F(CommandTableTest, WhatIsBeingTypedBelongsToTheDrawingForAllCommandsButReset) {
+    Editor& editor = program.editor;
+    const auto type = [&](const char* text) {
+        recordCentredLabel(editor, "M", 2, 2, Black);
+        beginLabelEdit(editor, static_cast<Short>(editor.drawing.labels.LabelCount - 1));
+        editor.form.txtEdit.Text = text;
+        txtEdit_Change(editor);
+    };
+    editor.drawing.CurrentFileName = "A.els";
+    type("M1");
+    runCommand(program, Menu::mnuFileSave);
+    EXPECT_NE(fake.folder.read("documents/Ladrix/Drawings/A.els").find("M1\xFF"),
+              std::string::npos);
+    type("M2");
+    runCommand(program, Menu::mnuOptionReset);
+    EXPECT_EQ(editor.drawing.labels.LabelText.back(), "M");
 }
 
 TEST_F(CommandTableTest, OnlyTheRightPasswordShowsTheAdminMenu) {
