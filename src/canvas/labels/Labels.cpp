@@ -116,6 +116,7 @@ void placeTextLabel(Editor& editor, Single x, Single y) {
     const bool onlyTheHint = text == TextToolHint;
     const Short placed = recordCentredLabel(editor, text, x, y, editor.CurrentColor);
     if (onlyTheHint && placed >= 0) {
+        wipeTemporaryGraphics(editor);
         beginLabelEdit(editor, placed);
     } else {
         if (editor.AutoIncrement) text = incrementedText(text, editor.platform.locale.decimalMark);
