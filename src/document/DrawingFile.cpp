@@ -33,13 +33,40 @@ std::string_view withoutLineEnd(std::string_view text) {
     return text;
 }
 
-// Moves the description out of `text`, which is then what comes behind it.
+// What stands inside a line is text that somebody wrote: a record goes on behind it.
+bool endsLine(std::string_view text, std::size_t position) {
+    return position == text.size() || text.substr(position).starts_with(LineEnd);
+}
+
+bool isLine(std::string_view text, std::size_t position, std::string_view line) {
+    const bool begins = position == 0 || text.substr(0, position).ends_with(LineEnd);
+    return begins && endsLine(text, position + line.size());
+}
+
+// Where the line stands first; npos if nowhere.
+std::size_t findLine(std::string_view text, std::string_view line) {
+    std::size_t found = text.find(line);
+    while (found != std::string_view::npos && !isLine(text, found, line))
+        found = text.find(line, found + 1);
+    return found;
+}
+
+std::size_t findLastLine(std::string_view text, std::string_view line) {
+    std::size_t found = text.rfind(line);
+    while (found != std::string_view::npos && !isLine(text, found, line))
+        found = found == 0 ? std::string_view::npos : text.rfind(line, found - 1);
+    return found;
+}
+
+// Moves the description out of `text`, which is then what comes behind it. A description may hold
+// any line, what comes behind it has none that is a marker: the last one ends it.
 std::string takeDescription(std::string_view& text) {
-    const std::size_t end = text.find(DescriptionEnd);
+    const std::size_t end = findLastLine(text, DescriptionEnd);
     if (end == std::string_view::npos) return {};
     std::string_view description = text.substr(0, end);
     text = withoutLineEnd(behind(text, end + DescriptionEnd.size()));
-    if (const auto start = description.find(DescriptionStart); start != std::string_view::npos) {
+    if (const auto start = findLine(description, DescriptionStart);
+        start != std::string_view::npos) {
         description = withoutLineEnd(description.substr(start + DescriptionStart.size()));
     }
     if (description.ends_with(LineEnd)) description.remove_suffix(LineEnd.size());
@@ -63,9 +90,12 @@ DevicesAndLabels divide(std::string_view text) {
     return {{}, behind(text, lineEnd + LineEnd.size())};
 }
 
-// Moves the picture section out of the labels.
+// Moves the picture section out of the labels. Its marker is a line, or the end of a label's that
+// was cut off.
 std::optional<std::string> takePictures(std::string_view& labels) {
-    const std::size_t marker = labels.find(PictureMarker);
+    std::size_t marker = labels.find(PictureMarker);
+    while (marker != std::string_view::npos && !endsLine(labels, marker + PictureMarker.size()))
+        marker = labels.find(PictureMarker, marker + 1);
     if (marker == std::string_view::npos) return std::nullopt;
     const std::string_view pictures = withoutLineEnd(behind(labels, marker + PictureMarker.size()));
     labels = labels.substr(0, marker);

@@ -11,6 +11,8 @@
 //   labels, one record a line
 //   ///Picture Files///
 //   pictures, one record a line
+//
+// A marker is a line. The same characters inside a line are text, which may say anything.
 #pragma once
 
 #include <optional>
@@ -57,8 +59,8 @@ DrawingParts splitFile(std::string_view text, FileTime modified);
 
 // Puts the parts in the drawing's master texts, description and page key; tables are not parsed. A
 // template in force comes before the file's devices and labels, once: it is no longer in force
-// afterwards. With a picture section, the folder of the pictures is told by CurrentFolder and
-// CurrentFileName.
+// afterwards. With a picture section, the folder of the pictures is told by
+// CurrentFolder and CurrentFileName.
 void takeParts(Drawing& drawing, DrawingParts parts);
 
 }  // namespace ladrix

@@ -117,5 +117,19 @@ TEST(DrawingFile, DescriptionsAreTakenAsFarAsTheyAreThere) {
     EXPECT_EQ(open.devices, "InsertA|1\n");
 }
 
+TEST(DrawingFile, AMarkerInsideALineIsText) {
+    const std::string marked =
+        "8.5x11Portrait\n\nInsertA|1\n\n///End File Description///|1\nx///Picture Files///|1\n"
+        "///Picture Files///|1\n";
+    const DrawingParts parts = split(marked);
+    EXPECT_EQ(parts.description, "");
+    EXPECT_EQ(parts.devices, "InsertA|1\n");
+    EXPECT_EQ(parts.labels, marked.substr(marked.find("///")));
+    EXPECT_FALSE(parts.pictures);
+    EXPECT_EQ(split("8.5x11Portrait\n\n\nM1|1|2///Picture Files///\nlogo.bmp|1\n").pictures,
+              "logo.bmp|1\n")
+        << "behind a label that was cut off";
+}
+
 }  // namespace
 }  // namespace ladrix

@@ -45,6 +45,20 @@ const std::string Labels =
     "Motor Starter|3.2|2.75|0|Arial|10|False|False\n"
     "1,5 kW \x80 \xB2|0.125|4|255|Times New Roman|9.75|True|True\n"
     " |2|3|0|Courier New|8|False|True\n";
+// Texts that read like what the file is divided by.
+const std::string Deceptive =
+    "///Picture Files///|1|1|0|Arial|8|False|False\n"
+    "x///Picture Files///|1.5|1|0|Arial|8|False|False\n"
+    "///File Description///|1|1|0|Arial|8|False|False\n"
+    "///End File Description///|1|1|0|///Picture Files///|8|False|False\n"
+    "8.5x11Portrait|1|1|0|Arial|8|False|False\n"
+    "InsertCoil|1|1|0|Arial|8|False|False\n"
+    "|1|1|0|Arial|8|False|False\n"
+    "  |1|1|0|Arial|8|False|False\n";
+const std::string DeceptiveDescription =
+    "///File Description///\n///File Description///\n\n///Picture Files///\n"
+    "///End File Description///\nInsert\n///End File Description///\n"
+    "///End File Description///\n";
 const std::string Pictures = "logo.bmp|0.5|0.5|2|1.25\nPlan B.bmp|1|2.5|0.75|3\n";
 
 std::string repeated(const std::string& text, int times) {
@@ -89,6 +103,10 @@ std::vector<Seed> seeds() {
         {"Described", Description + Page + Symbols + FreeShapes + "\n" + Labels + End},
         {"Everything", Description + "17x22Landscape\n\n" + Symbols + FreeShapes + RoundShapes +
                            UserSymbols + "\n" + Labels + End + Pictures},
+        {"DeceptiveLabels", Page + Symbols + "\n" + Deceptive + End + Pictures},
+        {"DeceptiveLabelsOnly", Page + "\n" + Deceptive + End},
+        {"DeceptiveCrashCopy", Page + Symbols + "\n" + Deceptive, false},
+        {"DeceptiveDescription", DeceptiveDescription + Page + Symbols + "\n" + Labels + End},
         {"Empty", Page + "\n" + End},
         {"HeaderOnly", Page, false},
         {"DescribedAndEmpty", Description + Page + "\n" + End},
