@@ -54,50 +54,86 @@ void correctFields(Device& device) {
     if (hasAspect && device.aspect == 0) device.aspect = 1;
 }
 
-// A text cut off in the middle of a line would swallow the record that comes behind it.
-void dropUnfinishedLine(std::string& master) {
-    if (master.ends_with(LineEnd)) return;
-    const std::size_t lastEnd = master.rfind(LineEnd);
-    master.resize(lastEnd == std::string::npos ? 0 : lastEnd + LineEnd.size());
+// A table's lines made anew beside the present ones, so that a failure leaves those whole.
+struct MasterText {
+    std::string text;
+    RecordOffsets records;
+};
+
+template <class AppendRecord>
+MasterText masterText(Short count, std::size_t sizeHint, const AppendRecord& appendRecord) {
+    MasterText master;
+    master.text.reserve(sizeHint);
+    master.records.start.reserve(static_cast<std::size_t>(count));
+    for (Short index = 0; index < count; ++index) {
+        master.records.start.push_back(master.text.size());
+        appendRecord(master.text, index);
+        master.text += LineEnd;
+    }
+    master.records.written = true;
+    return master;
 }
 
-// Adds the record of the table's last row. A row that cannot be written is taken back.
-template <class Table, class AppendRecord>
-void appendLastRow(std::string& master, RecordOffsets& records, Table& table, Short index,
-                   const AppendRecord& appendRecord) {
-    dropUnfinishedLine(master);
-    const std::size_t start = master.size();
+template <class AppendRecord>
+void remake(std::string& text, RecordOffsets& records, Short count,
+            const AppendRecord& appendRecord) {
+    MasterText master =
+        masterText(count, text.size() + static_cast<std::size_t>(count), appendRecord);
+    text = std::move(master.text);
+    records = std::move(master.records);
+}
+
+template <class AppendRecord>
+void rebuild(std::string& text, RecordOffsets& records, Short count,
+             const AppendRecord& appendRecord) {
+    if (count == 0 && records.start.empty()) return;
+    remake(text, records, count, appendRecord);
+}
+
+template <class AppendRecord>
+void appendLine(std::string& text, RecordOffsets& records, Short index,
+                const AppendRecord& appendRecord) {
+    const std::size_t start = text.size();
     try {
-        appendRecord(master, index);
+        appendRecord(text, index);
     } catch (const Failure&) {
-        master.resize(start);
-        table.resize(index);
+        text.resize(start);
         throw;
     }
-    master += LineEnd;
+    text += LineEnd;
     records.start.push_back(start);
 }
 
-void appendDevice(Drawing& drawing, const Device& device, char decimalMark) {
-    drawing.devices.append(recordedFields(device));
-    appendLastRow(drawing.DeviceString, drawing.DeviceRecords, drawing.devices,
-                  static_cast<Short>(drawing.devices.DeviceCount - 1),
-                  [&](std::string& master, Short index) {
-                      appendDeviceRecord(master, drawing.devices, index, decimalMark);
-                  });
+// Adds a row to the table that has `count` of them, and its record. A text that was read may be of
+// another form, and may hold lines that could not be read: it is made anew from the rows. A row
+// that cannot be written is taken back.
+template <class Table, class Row, class AppendRecord>
+void addRow(std::string& text, RecordOffsets& records, Table& table, Short count, const Row& row,
+            const AppendRecord& appendRecord) {
+    const bool fits = records.written && records.start.size() == static_cast<std::size_t>(count);
+    table.append(row);
+    try {
+        if (fits)
+            appendLine(text, records, count, appendRecord);
+        else
+            remake(text, records, static_cast<Short>(count + 1), appendRecord);
+    } catch (const Failure&) {
+        table.resize(count);
+        throw;
+    }
 }
 
-// Where the text does not hold the rows before this one, and nothing else, it is made anew.
-void appendLabel(Drawing& drawing, const Platform& platform, const Label& label) {
-    const auto before = static_cast<std::size_t>(drawing.labels.LabelCount);
-    drawing.labels.append(label);
-    const bool agreed =
-        drawing.LabelRecords.start.size() == before && (before > 0 || drawing.LabelString.empty());
-    if (!agreed) return RebuildLabelString(drawing, platform);
-    appendLastRow(drawing.LabelString, drawing.LabelRecords, drawing.labels,
-                  static_cast<Short>(before), [&](std::string& master, Short index) {
-                      appendLabelRecord(master, drawing.labels, index, platform.locale.decimalMark);
-                  });
+// What writes the record of a row into a text.
+auto deviceWriter(const Drawing& drawing, const Platform& platform) {
+    return [&drawing, mark = platform.locale.decimalMark](std::string& text, Short index) {
+        appendDeviceRecord(text, drawing.devices, index, mark);
+    };
+}
+
+auto labelWriter(const Drawing& drawing, const Platform& platform) {
+    return [&drawing, mark = platform.locale.decimalMark](std::string& text, Short index) {
+        appendLabelRecord(text, drawing.labels, index, mark);
+    };
 }
 
 // The segments of a dashed line are meant to be one step of the history.
@@ -121,35 +157,6 @@ void printOnCanvas(const Platform& platform, const Label& label) {
                           .bold = label.bold,
                           .italic = label.italic},
                          label.text, label.color);
-}
-
-// A table's lines made anew beside the present ones, so that a failure leaves those whole.
-struct MasterText {
-    std::string text;
-    RecordOffsets records;
-};
-
-template <class AppendRecord>
-MasterText masterText(Short count, std::size_t sizeHint, const AppendRecord& appendRecord) {
-    MasterText master;
-    master.text.reserve(sizeHint);
-    master.records.start.reserve(static_cast<std::size_t>(count));
-    for (Short index = 0; index < count; ++index) {
-        master.records.start.push_back(master.text.size());
-        appendRecord(master.text, index);
-        master.text += LineEnd;
-    }
-    return master;
-}
-
-template <class AppendRecord>
-void rebuild(std::string& text, RecordOffsets& records, Short count,
-             const AppendRecord& appendRecord) {
-    if (count == 0 && records.start.empty()) return;
-    MasterText master =
-        masterText(count, text.size() + static_cast<std::size_t>(count), appendRecord);
-    text = std::move(master.text);
-    records = std::move(master.records);
 }
 
 }  // namespace
@@ -181,7 +188,9 @@ void RecordDevice(Drawing& drawing, const Platform& platform, Device& device) {
         if (!isFreeLineOrSquare(device.name) && device.x == 0) {
             platform.tell("Bad Device X position.");
         }
-        appendDevice(drawing, device, platform.locale.decimalMark);
+        addRow(drawing.DeviceString, drawing.DeviceRecords, drawing.devices,
+               drawing.devices.DeviceCount, recordedFields(device),
+               deviceWriter(drawing, platform));
         drawing.DeviceRecorded = true;
         if (deviceNeedsSnapshot(drawing, device.name) && drawing.TakeUndoSnapshot) {
             drawing.TakeUndoSnapshot();
@@ -198,7 +207,8 @@ void RecordLabel(Drawing& drawing, const Platform& platform, Label label) {
             printOnCanvas(platform, label);
             return;
         }
-        appendLabel(drawing, platform, label);
+        addRow(drawing.LabelString, drawing.LabelRecords, drawing.labels, drawing.labels.LabelCount,
+               label, labelWriter(drawing, platform));
         drawing.CurrentLabel = static_cast<Short>(drawing.labels.LabelCount - 1);
         drawing.DrawingChanged = true;
         if (!drawing.NoSnapshot && drawing.TakeUndoSnapshot) drawing.TakeUndoSnapshot();
@@ -208,18 +218,14 @@ void RecordLabel(Drawing& drawing, const Platform& platform, Label label) {
 void RebuildDeviceString(Drawing& drawing, const Platform& platform) {
     platform.attempt("Rebuild Device String", [&] {
         rebuild(drawing.DeviceString, drawing.DeviceRecords, drawing.devices.DeviceCount,
-                [&](std::string& text, Short index) {
-                    appendDeviceRecord(text, drawing.devices, index, platform.locale.decimalMark);
-                });
+                deviceWriter(drawing, platform));
     });
 }
 
 void RebuildLabelString(Drawing& drawing, const Platform& platform) {
     platform.attempt("Rebuild Label String", [&] {
         rebuild(drawing.LabelString, drawing.LabelRecords, drawing.labels.LabelCount,
-                [&](std::string& text, Short index) {
-                    appendLabelRecord(text, drawing.labels, index, platform.locale.decimalMark);
-                });
+                labelWriter(drawing, platform));
     });
 }
 

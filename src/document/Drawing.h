@@ -67,10 +67,14 @@ bool isCircleName(std::string_view name);  // InsertCircle, InsertSolidCircle
 // DrawingChanged and takes the undo snapshot that is due. A slot that already holds the name is
 // left alone. Writes the corrected width tag and aspect back to `device`. A failure (the 32,768th
 // device) goes to the shared report, with the table as it was.
+//
+// This and the next are cheap while the text was written here. The first record after a reading
+// remakes the text from the rows: it may have been in another form, and one text has one form. What
+// could not be read of it is gone then.
 void RecordDevice(Drawing& drawing, const Platform& platform, Device& device);
 
-// Adds a label and takes the undo snapshot; on the canvas only while a preview is drawn. An empty
-// text becomes "Type New Text".
+// Adds a label, its record at the end of LabelString, and takes the undo snapshot; on the canvas
+// only while a preview is drawn. An empty text becomes "Type New Text".
 void RecordLabel(Drawing& drawing, const Platform& platform, Label label);
 
 // Remake the records and the master text from the columns. With a count of 0 they leave a text that

@@ -4,6 +4,7 @@
 #include <ctime>
 #include <utility>
 
+#include "document/JoinedTexts.h"
 #include "document/Records.h"
 
 namespace ladrix {
@@ -157,8 +158,8 @@ void takeParts(Drawing& drawing, DrawingParts parts) {
     drawing.LabelString = std::move(parts.labels);
     if (drawing.TemplateActive) {
         drawing.TemplateActive = false;
-        drawing.DeviceString.insert(0, drawing.TemplateDevices);
-        drawing.LabelString.insert(0, drawing.TemplateLabels);
+        drawing.DeviceString = joinedDevices(drawing.TemplateDevices, drawing.DeviceString);
+        drawing.LabelString = joinedLabels(drawing.TemplateLabels, drawing.LabelString);
     }
     drawing.PictureString.clear();
     if (!parts.pictures) return;

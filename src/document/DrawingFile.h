@@ -58,8 +58,8 @@ bool isOldFile(FileTime modified, std::string_view text);
 DrawingParts splitFile(std::string_view text, FileTime modified);
 
 // Puts the parts in the drawing's master texts, description and page key; tables are not parsed. A
-// template in force comes before the file's devices and labels, once: it is no longer in force
-// afterwards. With a picture section, the folder of the pictures is told by
+// template in force comes before the file's devices and labels, once, in one form with them: it is
+// no longer in force afterwards. With a picture section, the folder of the pictures is told by
 // CurrentFolder and CurrentFileName.
 void takeParts(Drawing& drawing, DrawingParts parts);
 

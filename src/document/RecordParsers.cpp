@@ -6,18 +6,12 @@
 #include <unordered_map>
 #include <utility>
 
-#include "document/Records.h"
+#include "document/RecordLines.h"
 #include "platform/Encoding.h"
-#include "platform/Numbers.h"
 
 namespace ladrix {
 
 namespace {
-
-constexpr std::string_view WrittenSeparator = "\xFF";
-// The byte 255 after a way through mail as quoted-printable text.
-constexpr std::string_view QuotedSeparator = "=FF";
-constexpr std::string_view OldSeparator = ", ";
 
 // How the lines of one master text are to be read.
 struct TextForm {
@@ -25,54 +19,6 @@ struct TextForm {
     bool oldForm = false;     // neither the byte 255 nor "=FF"
     bool repairMark = false;  // written under a locale with the other decimal mark
     char writtenMark = '.', ownMark = '.';
-};
-
-// Takes the fields of a line, left to right. A field that isn't there reads as "".
-class Fields {
-  public:
-    Fields(std::string_view line, std::string_view separator)
-        : rest_(line), separator_(separator), end_(find()) {}
-
-    std::string_view next() {
-        const std::string_view field = rest_.substr(0, end_);
-        rest_ = hasMore() ? rest_.substr(end_ + separator_.size()) : std::string_view{};
-        end_ = find();
-        return field;
-    }
-    // The last field: all that remains, separators too.
-    std::string_view rest() const { return rest_; }
-    bool hasMore() const { return end_ != std::string_view::npos; }
-
-    Single single() { return toSingle(next()); }
-    Long number() { return toLong(next()); }
-
-  private:
-    std::size_t find() const {
-        return separator_.size() == 1 ? rest_.find(separator_[0]) : rest_.find(separator_);
-    }
-
-    std::string_view rest_, separator_;
-    std::size_t end_;  // of the next field, in rest_
-};
-
-// The lines of a text: those ended by CR LF. What comes behind the last line end is no line.
-class Lines {
-  public:
-    explicit Lines(std::string_view text) : text_(text) {}
-
-    std::optional<std::string_view> next() {
-        const std::size_t end = text_.find(LineEnd, start_);
-        if (end == std::string_view::npos) return std::nullopt;
-        lineStart_ = start_;
-        start_ = end + LineEnd.size();
-        return text_.substr(lineStart_, end - lineStart_);
-    }
-    // Where in the text the line begins that next() gave last.
-    std::size_t lineStart() const { return lineStart_; }
-
-  private:
-    std::string_view text_;
-    std::size_t start_ = 0, lineStart_ = 0;
 };
 
 Short countLines(std::string_view text) {
@@ -87,39 +33,13 @@ Short countLines(std::string_view text) {
     return static_cast<Short>(count);
 }
 
-bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
-
-// Whether a digit, the mark and a digit stand behind the second separator of the line.
-bool hasDecimal(std::string_view line, std::string_view separator, char mark) {
-    Fields fields(line, separator);
-    fields.next();
-    if (!fields.hasMore()) return false;
-    fields.next();
-    const std::string_view rest = fields.rest();
-    for (std::size_t i = 1; i + 1 < rest.size(); ++i) {
-        if (rest[i] == mark && isDigit(rest[i - 1]) && isDigit(rest[i + 1])) return true;
-    }
-    return false;
-}
-
 // nullopt if the text holds none of the separators.
 std::optional<TextForm> textForm(std::string_view text, bool decimalComma) {
+    const auto separator = separatorOf(text);
+    if (!separator) return std::nullopt;
     TextForm form;
-    const auto holds = [text](std::string_view part) {
-        return text.find(part) != std::string_view::npos;
-    };
-    if (holds(WrittenSeparator)) {
-        form.separator = WrittenSeparator;
-    } else if (holds(QuotedSeparator)) {
-        form.separator = QuotedSeparator;
-    } else if (holds(OldSeparator)) {
-        form.separator = OldSeparator;
-        form.oldForm = true;
-    } else {
-        return std::nullopt;
-    }
+    form.separator = *separator;
+    form.oldForm = *separator == OldSeparator;
     form.ownMark = decimalComma ? ',' : '.';
     form.writtenMark = decimalComma ? '.' : ',';
     if (const auto first = Lines(text).next()) {

@@ -93,8 +93,11 @@ struct PictureRow {
 // The lines of a table's master text: record i is the text between two offsets, CR LF left out.
 struct RecordOffsets {
     std::vector<std::size_t> start;  // one per record
+    // The text was written from rows, not read: it is of the present form and holds these records
+    // alone, so that one more may follow them.
+    bool written = false;
 
-    void clear() { start.clear(); }
+    void clear() { *this = {}; }
     std::string_view record(std::string_view master, std::size_t index) const;
 };
 

@@ -4,6 +4,7 @@
 
 #include "RecordText.h"
 #include "document/Records.h"
+#include "support/FakePlatform.h"
 
 namespace ladrix {
 namespace {
@@ -129,6 +130,90 @@ TEST(DrawingFile, AMarkerInsideALineIsText) {
     EXPECT_EQ(split("8.5x11Portrait\n\n\nM1|1|2///Picture Files///\nlogo.bmp|1\n").pictures,
               "logo.bmp|1\n")
         << "behind a label that was cut off";
+}
+
+// ---- A template and a drawing, each in a form of its own
+
+std::string inForm(std::string text, std::string_view separator, char mark) {
+    std::string out;
+    for (const char c : text) {
+        if (c == '|')
+            out += separator;
+        else
+            out += c == '.' ? mark : c;
+    }
+    return asRecords(out);
+}
+
+TEST(DrawingFile, ATemplateAndADrawingOfAnyFormsReadAsOneAfterTheOther) {
+    constexpr std::string_view Separators[] = {"\xFF", "=FF", ", "};
+    const auto join = [](Drawing& drawing, std::string_view front, char frontMark,
+                         std::string_view back, char backMark) {
+        drawing.TemplateActive = true;
+        drawing.TemplateDevices = inForm("InsertA|1.5|2.5|0|\n", front, frontMark);
+        drawing.TemplateLabels = inForm("T1|1.5|2.25|7\nT2|2|2|7\n", front, frontMark);
+        DrawingParts file;
+        file.devices = inForm("InsertB|3.5|4.5|0|\nInsertC|3|4|0|\n", back, backMark);
+        file.labels = inForm("M1|3.5|4.25|9\n", back, backMark);
+        takeParts(drawing, std::move(file));
+    };
+    for (const std::string_view front : Separators) {
+        for (const std::string_view back : Separators) {
+            for (int marks = 0; marks < 8; ++marks) {
+                test::FakePlatform machine;
+                machine.platform.locale.decimalMark = (marks & 4) != 0 ? ',' : '.';
+                Drawing drawing;
+                join(drawing, front, (marks & 1) != 0 ? ',' : '.', back,
+                     (marks & 2) != 0 ? ',' : '.');
+                SCOPED_TRACE(readable(drawing.DeviceString + drawing.LabelString));
+                ParseDeviceString(drawing, machine.platform);
+                ParseLabelString(drawing, machine.platform);
+                EXPECT_TRUE(machine.reports.empty());
+                EXPECT_EQ(drawing.devices.DeviceName,
+                          (std::vector<std::string>{"InsertA", "InsertB", "InsertC"}));
+                EXPECT_EQ(drawing.devices.DeviceY, (std::vector<Single>{2.5f, 4.5f, 4}));
+                EXPECT_EQ(drawing.labels.LabelText, (std::vector<std::string>{"T1", "T2", "M1"}));
+                EXPECT_EQ(drawing.labels.LabelY, (std::vector<Single>{2.25f, 2, 4.25f}));
+                const std::string fonts[] = {front == ", " ? "" : "Arial",
+                                             back == ", " ? "" : "Arial"};
+                EXPECT_EQ(drawing.labels.LabelFontName,
+                          (std::vector<std::string>{fonts[0], fonts[0], fonts[1]}));
+                EXPECT_EQ(drawing.labels.LabelColor, (std::vector<Long>{7, 7, 9}));
+                const DrawingParts copy =
+                    splitFile(crashCopyText(drawing), std::chrono::system_clock::now());
+                EXPECT_EQ(copy.devices, drawing.DeviceString);
+                EXPECT_EQ(copy.labels, drawing.LabelString);
+            }
+        }
+    }
+}
+
+TEST(DrawingFile, WhatATemplateCannotGiveDoesNotSpoilTheDrawing) {
+    const struct {
+        const char *front, *back, *joined;
+    } cases[] = {
+        {"", "InsertB|1\n", "InsertB|1\n"},
+        {"InsertA|1\n", "", "InsertA|1\n"},
+        {"\n", "InsertB|1\n", "InsertB|1\n"},
+        {"InsertA|1\n", "\n", "InsertA|1\n"},
+        {"not understood\n", "InsertB|1\n", "InsertB|1\n"},
+        {"InsertA|1\n", "not understood\n", "InsertA|1\nnot understood\n"},
+        {"InsertA|1\nInser", "InsertB|1\n", "InsertA|1\nInsertB|1\n"},
+        {"InsertA|1\n", "InsertB|1\nInser", "InsertA|1\nInsertB|1\nInser"},
+        // A text goes over to the mark of what stands before it.
+        {"A|1|2,5|x.y\n", "1.5|1|2.5|A.B\n3.5|1|2\n", "A|1|2,5|x.y\n1.5|1|2,5|A,B\n3.5|1|2\n"},
+        {"A|1|2\n", "B|1|2.5|A.B\n", "A|1|2\nB|1|2.5|A.B\n"},
+        {"A, 1, 2, 0, \n", "B, 1, 2, 0, \n", "A, 1, 2, 0, \nB, 1, 2, 0, \n"},
+    };
+    for (const auto& [front, back, joined] : cases) {
+        Drawing drawing;
+        drawing.TemplateActive = true;
+        drawing.TemplateDevices = asRecords(front);
+        DrawingParts file;
+        file.devices = asRecords(back);
+        takeParts(drawing, std::move(file));
+        EXPECT_EQ(readable(drawing.DeviceString), joined) << front << "and\n" << back;
+    }
 }
 
 }  // namespace

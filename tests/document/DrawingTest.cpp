@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 #include "RecordText.h"
+#include "document/Records.h"
 #include "support/FakePlatform.h"
 
 namespace ladrix {
@@ -135,22 +138,36 @@ TEST_F(DrawingTest, SnapshotsWaitForALabelAndForAScript) {
     EXPECT_EQ(snapshots, 2);
 }
 
-TEST_F(DrawingTest, ADashedLineIsOneSnapshotUnlessItsCountersHaveDriftedApart) {
-    drawing.DashedLine = true;
-    drawing.DashesCounted = 5;
-    for (int dash = 0; dash < 5; ++dash) {
-        EXPECT_EQ(snapshots, 0) << "before dash " << dash;
-        record({.name = "InsertSavedLine", .x = 1});
-    }
-    EXPECT_EQ(snapshots, 1);
-    EXPECT_EQ(drawing.DashesRecorded, 0);
-    record({.name = "InsertSavedSquare"});
-    EXPECT_EQ(snapshots, 2) << "the style is of lines alone";
-
-    drawing.DashesRecorded = 6;
+// As the line tool does it: each dash is counted, then recorded.
+TEST_F(DrawingTest, OnlyTheFirstDashOfAllIsASnapshotUntilLinesOfOneDash) {
+    const auto line = [&](int dashes) {
+        drawing.DashedLine = true;
+        drawing.DashesCounted = 0;
+        for (int dash = 0; dash < dashes; ++dash) {
+            ++drawing.DashesCounted;
+            record({.name = "InsertSavedLine", .x = 1});
+        }
+        drawing.DashedLine = false;
+        return std::exchange(snapshots, 0);
+    };
+    EXPECT_EQ(line(1), 1);
+    EXPECT_EQ(line(1), 1) << "each is the last of its line";
+    EXPECT_EQ(line(4), 1);
+    EXPECT_EQ(drawing.DashesRecorded, 3) << "cleared at the first";
+    EXPECT_EQ(line(5) + line(1) + line(0), 0) << "the counters stay apart";
+    EXPECT_EQ(drawing.DashesRecorded, 9);
+    drawing.NoSnapshot = drawing.DashedLine = true;
     record({.name = "InsertSavedLine", .x = 1});
-    EXPECT_EQ(snapshots, 2);
-    EXPECT_EQ(drawing.DashesRecorded, 7);
+    drawing.NoSnapshot = false;
+    record({.name = "InsertSavedSquare"});
+    EXPECT_EQ(drawing.DashesRecorded, 9) << "neither a script's line nor another shape is a dash";
+    EXPECT_EQ(snapshots, 1);
+
+    drawing.DashesRecorded = 0;
+    drawing.DashesCounted = 2;
+    record({.name = "InsertSavedLine", .x = 1});
+    record({.name = "InsertSavedLine", .x = 1});
+    EXPECT_EQ(snapshots, 2) << "a line counted beforehand is one, at its end";
 }
 
 TEST_F(DrawingTest, ANumberThatCannotBeWrittenLeavesTableAndTextAsTheyWere) {
@@ -207,8 +224,66 @@ TEST_F(DrawingTest, ALabelIsAddedToATextThatHoldsTheOthersAndReplacesOneThatDoes
 
     ClearTables(drawing);
     drawing.LabelString = "not a label\r\n";
+    label({.text = "M3", .x = std::numeric_limits<Single>::infinity()});
+    EXPECT_EQ(machine.reports.size(), 2u);
+    EXPECT_EQ(drawing.labels.LabelCount, 0);
+    EXPECT_EQ(drawing.LabelString, "not a label\r\n");
     label({.text = "M1", .fontName = "Arial", .fontSize = 8});
     EXPECT_EQ(readable(drawing.LabelString), "M1|0|0|0|Arial|8|False|False\n");
+}
+
+// What was read in any form, or only in part, and what is added to it are read together next time.
+TEST_F(DrawingTest, WhatIsAddedToATextOfAnotherFormIsReadWithAllTheOthers) {
+    const struct {
+        const char *devices, *labels;
+        Short rows;
+    } cases[] = {
+        {"InsertA, 1.5, 2, 255, \nInsertB, 1, 2, 7, \n", "M1, 1.5, 2, 255\nM2, 1, 2, 7\n", 2},
+        {"InsertA=FF1=FF2,5=FF255=FF\n", "M1=FF1,5=FF2=FF255\n", 1},
+        {"InsertA|1|2,5|7|a,b|1|1\n", "M1|1|2,5|7|A,B|8|False|False\n", 1},
+        {"InsertA|1|2.5|7|a.b|1|1\n", "M1|1|2.5|7|A.B|8|False|False\n", 1},
+        {"InsertA|1|2|7|\nInsertB|x\nInsertC|1|2|7|\n", "M1|1|2|7\nM2|x\nM3|1|2|7\n", 1},
+        {"InsertA|1|2|7|\nInsertB|1", "M1|1|2|7\nM2|1", 1},
+        {"InsertB|x\n", "M2|x\n", 0},
+        {"not understood\n", "not understood\n", 0},
+    };
+    const auto parse = [this] {
+        ParseDeviceString(drawing, machine.platform);
+        ParseLabelString(drawing, machine.platform);
+        return std::exchange(machine.reports, {}).size();
+    };
+    for (const char mark : {'.', ','}) {
+        machine.platform.locale.decimalMark = mark;
+        for (const auto& [devices, labels, rows] : cases) {
+            SCOPED_TRACE(devices);
+            drawing.DeviceString = test::asRecords(devices);
+            drawing.LabelString = test::asRecords(labels);
+            parse();
+            record({.name = "InsertFuse", .x = 2.5f, .color = 9});
+            label({.text = "new", .x = 2.5f, .color = 9, .fontName = "C.D,E"});
+            const DeviceTable held = drawing.devices;
+            const LabelTable heldLabels = drawing.labels;
+            EXPECT_EQ(held.DeviceCount, rows + 1);
+            EXPECT_EQ(heldLabels.LabelCount, rows + 1);
+            EXPECT_EQ(parse(), 0u);
+            EXPECT_EQ(drawing.devices.DeviceName, held.DeviceName);
+            EXPECT_EQ(drawing.devices.DeviceY, held.DeviceY);
+            EXPECT_EQ(drawing.devices.DeviceWidthTag, held.DeviceWidthTag);
+            EXPECT_EQ(drawing.labels.LabelText, heldLabels.LabelText);
+            EXPECT_EQ(drawing.labels.LabelY, heldLabels.LabelY);
+            EXPECT_EQ(drawing.labels.LabelFontName, heldLabels.LabelFontName);
+        }
+    }
+}
+
+// Though it looks as if nothing had to change: a missing font is the default font of the reading.
+TEST_F(DrawingTest, AnAddedLabelRemakesTheRecordsOfAllOthers) {
+    drawing.LabelString = test::asRecords("M1|1.50|02|255\n");
+    ParseLabelString(drawing, machine.platform);
+    label({.text = "M2", .fontName = "Arial", .fontSize = 8});
+    EXPECT_EQ(readable(drawing.LabelString),
+              "M1|1.5|2|255|Arial|8|False|False\nM2|0|0|0|Arial|8|False|False\n");
+    EXPECT_EQ(readable(drawing.LabelRecord(0)), "M1|1.5|2|255|Arial|8|False|False");
 }
 
 TEST_F(DrawingTest, ALabelOfAPreviewIsPrintedAndNotRecorded) {
