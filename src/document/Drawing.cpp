@@ -192,9 +192,7 @@ void RecordDevice(Drawing& drawing, const Platform& platform, Device& device) {
                drawing.devices.DeviceCount, recordedFields(device),
                deviceWriter(drawing, platform));
         drawing.DeviceRecorded = true;
-        if (deviceNeedsSnapshot(drawing, device.name) && drawing.TakeUndoSnapshot) {
-            drawing.TakeUndoSnapshot();
-        }
+        if (deviceNeedsSnapshot(drawing, device.name)) drawing.TakeUndoSnapshot();
     });
 }
 
@@ -211,7 +209,7 @@ void RecordLabel(Drawing& drawing, const Platform& platform, Label label) {
                label, labelWriter(drawing, platform));
         drawing.CurrentLabel = static_cast<Short>(drawing.labels.LabelCount - 1);
         drawing.DrawingChanged = true;
-        if (!drawing.NoSnapshot && drawing.TakeUndoSnapshot) drawing.TakeUndoSnapshot();
+        if (!drawing.NoSnapshot) drawing.TakeUndoSnapshot();
     });
 }
 
