@@ -196,11 +196,16 @@ void RecordDevice(Drawing& drawing, const Platform& platform, Device& device) {
     });
 }
 
+Label newLabel(const Drawing& drawing, Label label) {
+    if (label.text.empty()) label.text = "Type New Text";
+    if (drawing.FixedLabelColor != nullptr) label.color = *drawing.FixedLabelColor;
+    return label;
+}
+
 void RecordLabel(Drawing& drawing, const Platform& platform, Label label) {
     platform.attempt("Record Label", [&] {
         drawing.NewAfterSave = false;
-        if (label.text.empty()) label.text = "Type New Text";
-        if (drawing.FixedLabelColorOn) label.color = drawing.FixedLabelColor;
+        label = newLabel(drawing, std::move(label));
         if (drawing.DrawingPreview) {
             printOnCanvas(platform, label);
             return;

@@ -35,8 +35,9 @@ struct Drawing {
     bool NoSnapshot = false;      // a user symbol's script is running
     Short DashesCounted = 0, DashesRecorded = 0;
     Short CurrentLabel = -1;  // the label recorded last
-    bool FixedLabelColorOn = false;
-    Long FixedLabelColor = Black;
+    // What every new label takes in place of its own colour: the present colour of the layer above,
+    // which owns it. None: each keeps its own.
+    const Long* FixedLabelColor = nullptr;
     std::string DefaultFontName = "Arial";
     Short DefaultFontSize = 8;
     bool DefaultFontBold = false, DefaultFontItalic = false;
@@ -73,8 +74,12 @@ bool isCircleName(std::string_view name);  // InsertCircle, InsertSolidCircle
 // could not be read of it is gone then.
 void RecordDevice(Drawing& drawing, const Platform& platform, Device& device);
 
+// The label as RecordLabel takes it: an empty text becomes "Type New Text", and the colour is the
+// fixed one if there is one.
+Label newLabel(const Drawing& drawing, Label label);
+
 // Adds a label, its record at the end of LabelString, and takes the undo snapshot; on the canvas
-// only while a preview is drawn. An empty text becomes "Type New Text".
+// only while a preview is drawn.
 void RecordLabel(Drawing& drawing, const Platform& platform, Label label);
 
 // Remake the records and the master text from the columns. With a count of 0 they leave a text that

@@ -196,9 +196,10 @@ TEST_F(DrawingTest, ARecordNeverJoinsALineThatWasCutOff) {
 TEST_F(DrawingTest, LabelsAreRecordedWithTheFixedColourWhenThatIsOn) {
     drawing.NewAfterSave = true;
     label({.text = "M1", .x = 1, .y = 2, .color = Red, .fontName = "Arial", .fontSize = 8});
-    drawing.FixedLabelColorOn = true;
-    drawing.FixedLabelColor = Blue;
-    label({.x = 1.25f, .y = 2, .color = Red, .fontName = "Arial", .fontSize = 9.5f, .bold = true});
+    Long color = Red;
+    drawing.FixedLabelColor = &color;
+    color = Blue;
+    label({.x = 1.25f, .y = 2, .color = Cyan, .fontName = "Arial", .fontSize = 9.5f, .bold = true});
 
     EXPECT_EQ(readable(drawing.LabelString),
               "M1|1|2|255|Arial|8|False|False\n"
@@ -288,8 +289,8 @@ TEST_F(DrawingTest, AnAddedLabelRemakesTheRecordsOfAllOthers) {
 
 TEST_F(DrawingTest, ALabelOfAPreviewIsPrintedAndNotRecorded) {
     drawing.DrawingPreview = true;
-    drawing.FixedLabelColorOn = true;
-    drawing.FixedLabelColor = Red;
+    const Long color = Red;
+    drawing.FixedLabelColor = &color;
     label({.text = "M1", .x = 1, .y = 2, .fontName = "Arial", .fontSize = 8, .italic = true});
 
     EXPECT_EQ(drawing.labels.LabelCount, 0);
