@@ -69,10 +69,13 @@ bool enterNearest(FileBrowser& browser, Editor& editor, std::string folder) {
     return true;
 }
 
-// The program's own folder holds what is shipped with it, not what users save.
+// The program's own folder, and that of the simulation in it, hold what is shipped, not what users
+// save.
 std::string homeOf(const Editor& editor) {
     const std::string& folder = editor.drawing.CurrentFolder;
-    return folder == editor.AppFilePath ? std::string() : folder;
+    const std::string simulation =
+        editor.AppFilePath + "Simulation Files" + editor.platform.files->separator();
+    return folder == editor.AppFilePath || folder == simulation ? std::string() : folder;
 }
 
 }  // namespace

@@ -71,26 +71,12 @@ bool mayReplace(const Editor& editor, const FileBrowser& browser, const std::str
                                             browser.Caption, Buttons::YesNo) == Answer::Yes;
 }
 
-// A save that is refused or fails leaves the form up, and the drawing its former name.
+// A save that is refused or fails leaves the form up; this very form turns into the one that opens.
 void saveDrawing(FileBrowser& browser, Editor& editor, const std::string& name) {
-    Drawing& drawing = editor.drawing;
-    std::string formerFolder = std::exchange(drawing.CurrentFolder, browser.BrowserFolder);
-    std::string formerName = std::exchange(drawing.CurrentFileName, name);
-    // This very form turns into the one that opens.
-    const bool openNext = std::exchange(drawing.OpenAfterSave, false);
-    std::string formerMessage = std::exchange(editor.form.lblMessage.Caption, {});
-    SaveDrawing(editor);
-    browser.lblNote.Caption = editor.form.lblMessage.Caption;
-    if (browser.lblNote.Caption.empty()) editor.form.lblMessage.Caption = std::move(formerMessage);
-    const bool saved = !drawing.SaveInProgress && !drawing.DrawingChanged;
-    if (!saved) {
-        drawing.CurrentFolder = std::move(formerFolder);
-        drawing.CurrentFileName = std::move(formerName);
-        drawing.OpenAfterSave = openNext;
-        drawing.SaveInProgress = true;
-        return;
-    }
-    if (openNext) return CheckOpenFileMode(browser, editor);
+    const SaveOutcome outcome = SaveDrawingAs(editor, browser.BrowserFolder, name);
+    browser.lblNote.Caption = outcome.why;
+    if (outcome.result != SaveResult::Saved) return;
+    if (outcome.next == After::Open) return CheckOpenFileMode(browser, editor);
     browser.Chosen = true;
     browser.Visible = false;
 }

@@ -18,7 +18,8 @@ struct DrawingSketch {
     PageSize page;
 };
 
-// nullopt where the file cannot be read or is no drawing. Tells and reports nothing.
+// nullopt where the file cannot be read, by the rule of the large preview. Tells and reports
+// nothing.
 std::optional<DrawingSketch> readSketch(const Editor& editor, const std::string& path);
 
 // On a surface of the page's inches. Records nothing.

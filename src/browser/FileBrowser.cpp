@@ -52,19 +52,12 @@ void setUpForm(FileBrowser& browser, const Drawing& drawing) {
 }
 
 void openChosen(FileBrowser& browser, Editor& editor) {
-    Drawing& drawing = editor.drawing;
-    std::string formerFolder = std::exchange(drawing.CurrentFolder, browser.BrowserFolder);
-    std::string formerName = std::exchange(drawing.CurrentFileName, browser.BrowserFile);
-    drawing.OpenAfterSave = true;
+    if (RefusedWhileCopying(editor)) return;
+    editor.drawing.CurrentFolder = browser.BrowserFolder;
+    editor.drawing.CurrentFileName = browser.BrowserFile;
     browser.Chosen = true;
     browser.Visible = false;
     OpenDrawing(editor);
-    // A drawing that has been opened has cleared the flag. One that has not must not lend its name
-    // to what the tables hold instead.
-    if (!std::exchange(drawing.OpenAfterSave, false)) return;
-    if (drawing.CurrentFileName != browser.BrowserFile) return;
-    drawing.CurrentFolder = std::move(formerFolder);
-    drawing.CurrentFileName = std::move(formerName);
 }
 
 void openInDrawingMode(FileBrowser& browser, Editor& editor) {
@@ -80,6 +73,16 @@ void placePicture(FileBrowser& browser, Editor& editor) {
         browser.PictureFolder = browser.BrowserFolder;
         handOver(browser, browser.BrowserFolder, browser.BrowserFile);
     });
+}
+
+// A cancel restores nothing: who saves now must know what.
+void tellPreviewStays(Editor& editor) {
+    const std::string& former = editor.drawing.CurrentFileName;
+    editor.form.lblMessage.Caption =
+        "The drawing is now the preview of " + editor.PreviewedFile + ". " +
+        (former.empty() ? "What stood there before is gone."
+                        : "For its former text open " + former +
+                              " again or, once saved, \"Open Backup of This Drawing...\".");
 }
 
 // The marked folder, else the one that is shown.
@@ -171,9 +174,9 @@ void cmdOpenOK_Click(FileBrowser& browser, Editor& editor) {
 
 void cmdOpenCancel_Click(FileBrowser& browser, Editor& editor) {
     browser.Visible = false;
-    if (browser.FileBrowserMode != BrowserMode::Drawing) return;
-    // Without this the next save would go on to an open that nobody waits for.
-    if (!editor.drawing.SaveInProgress) editor.drawing.OpenAfterSave = false;
+    const bool previews = traitsOf(browser.FileBrowserMode).preview == BrowserPreview::Drawing &&
+                          !isSaving(browser, editor.drawing);
+    if (previews && !editor.PreviewedFile.empty()) tellPreviewStays(editor);
 }
 
 void cmdPreviewAll_Click(FileBrowser& browser) {

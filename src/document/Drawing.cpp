@@ -169,6 +169,10 @@ std::string_view Drawing::LabelRecord(Short index) const {
     return LabelRecords.record(LabelString, static_cast<std::size_t>(index));
 }
 
+void forgetAfterSave(Drawing& drawing, After after) {
+    if (drawing.AfterSave == after) drawing.AfterSave = After::Nothing;
+}
+
 bool isFreeLineOrSquare(std::string_view name) {
     return recordLayout(name) == RecordLayout::FreeLineOrSquare;
 }
@@ -179,7 +183,7 @@ bool isCircleName(std::string_view name) {
 
 void RecordDevice(Drawing& drawing, const Platform& platform, Device& device) {
     platform.attempt("Record Device", [&] {
-        drawing.NewAfterSave = false;
+        forgetAfterSave(drawing, After::New);
         const auto slot = static_cast<std::size_t>(drawing.devices.DeviceCount);
         const auto& names = drawing.devices.DeviceName;
         if (slot < names.size() && names[slot] == device.name) return;
@@ -204,7 +208,7 @@ Label newLabel(const Drawing& drawing, Label label) {
 
 void RecordLabel(Drawing& drawing, const Platform& platform, Label label) {
     platform.attempt("Record Label", [&] {
-        drawing.NewAfterSave = false;
+        forgetAfterSave(drawing, After::New);
         label = newLabel(drawing, std::move(label));
         if (drawing.DrawingPreview) {
             printOnCanvas(platform, label);

@@ -12,6 +12,9 @@
 
 namespace ladrix {
 
+// What the user asked for when the save prompt came up: the save goes on with it.
+enum class After { Nothing, New, Open, Exit };
+
 struct Drawing {
     DeviceTable devices;
     LabelTable labels;
@@ -46,8 +49,10 @@ struct Drawing {
     std::string FileDescription;
     std::string PageLayoutKey = "8.5x11Portrait";
     bool DrawingChanged = false;
-    bool NewAfterSave = false, OpenAfterSave = false, ExitAfterSave = false, ExitCancelled = false;
-    bool SaveInProgress = false;
+    // New until something is recorded, Open until a drawing is opened, both until the browser has
+    // been left; Exit until the next of them.
+    After AfterSave = After::Nothing;
+    bool SaveInProgress = false;  // the browser is up, or about to be, to save
     bool TemplateActive = false;
     std::string TemplateDevices, TemplateLabels;
     bool Reading = false;
@@ -59,6 +64,9 @@ struct Drawing {
     // Set once by the layer above.
     std::function<void()> TakeUndoSnapshot = [] {};
 };
+
+// What was asked for is not wanted any more.
+void forgetAfterSave(Drawing& drawing, After after);
 
 // Every name of these is drawn from its own geometry, in place of scale and orientation.
 bool isFreeLineOrSquare(std::string_view name);

@@ -17,7 +17,8 @@
 
 namespace ladrix {
 
-enum class Buttons { Ok, OkCancel, YesNo, YesNoCancel };
+// Enter presses the first button; of the last kind No.
+enum class Buttons { Ok, OkCancel, YesNo, YesNoCancel, YesNoDefaultNo };
 enum class Answer { Ok, Cancel, Yes, No };
 
 // The forms that the core can ask for, by their own names.

@@ -57,8 +57,7 @@ void runForm(QtPlatform& machine, Program& program, QWidget* window, Form form) 
     if (QWidget* const before = QApplication::activeModalWidget()) window = before;
     switch (form) {
         case Form::frmFile:
-            FileDialog(program, window).run();
-            return;
+            return runShowing<FileDialog>(machine, program, window);
         case Form::frmDesc:
             DescriptionDialog(program, window).run();
             return;
@@ -128,7 +127,6 @@ int takeScreenshot(const QString& file, QtPlatform& machine, Program& program, M
 void connectPlatform(QtPlatform& machine, Program& program, MainWindow& window) {
     const auto refresh = [&window] { window.refresh(); };
     machine.dialogs.window = &window;
-    machine.dialogs.beforeModal = refresh;
     machine.dialogs.runForm = [&](Form form) { runForm(machine, program, &window, form); };
     auto* const help = new LocalHelp(program, &window);
     machine.dialogs.openForm = [help, &window](Form form) {
@@ -141,6 +139,7 @@ void connectPlatform(QtPlatform& machine, Program& program, MainWindow& window) 
         refresh();
         if (machine.showForm) machine.showForm();
     };
+    machine.dialogs.beforeModal = showAll;
     machine.printers.afterChange = showAll;
     machine.platform.LetEventsRun = [showAll, sinceLast = QElapsedTimer()]() mutable {
         letEventsRun(showAll, sinceLast);

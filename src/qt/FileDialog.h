@@ -32,6 +32,7 @@ class FileDialog final : public QDialog {
 
     // Loads the form, shows it until its Visible is false, and unloads it.
     int run();
+    void showState();
 
     void reject() override;
 
@@ -57,7 +58,6 @@ class FileDialog final : public QDialog {
     // Runs a handler, then shows what the state says.
     template <class Handler>
     void handle(const Handler& handler);
-    void showState();
     void showPrompt();
     void showFavorites();
     void showList();

@@ -27,6 +27,7 @@ QMessageBox::StandardButtons buttonsOf(Buttons buttons) {
         case Buttons::OkCancel:
             return QMessageBox::Ok | QMessageBox::Cancel;
         case Buttons::YesNo:
+        case Buttons::YesNoDefaultNo:
             return QMessageBox::Yes | QMessageBox::No;
         case Buttons::YesNoCancel:
             return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
@@ -92,6 +93,7 @@ Answer QtDialogs::message(std::string_view text, std::string_view title, Buttons
     box.setWindowTitle(toQString(title));
     box.setText(breakable(toQString(text)));
     box.setStandardButtons(buttonsOf(buttons));
+    if (buttons == Buttons::YesNoDefaultNo) box.setDefaultButton(QMessageBox::No);
     return answerOf(box.exec(), buttons);
 }
 

@@ -175,16 +175,6 @@ void chooseView(Simulation& simulation, Editor& editor, std::string_view view) {
     showMode(simulation, editor);
 }
 
-// Whether the drawing may be given up; the prompt goes on to nothing afterwards.
-bool drawingMayGo(Editor& editor) {
-    Drawing& drawing = editor.drawing;
-    drawing.NewAfterSave = drawing.OpenAfterSave = drawing.ExitAfterSave = false;
-    if (drawing.DrawingChanged) AskToSaveChanges(editor);
-    if (!drawing.DrawingChanged) return true;
-    drawing.ExitCancelled = false;
-    return false;
-}
-
 }  // namespace
 
 Simulation::Simulation()
@@ -201,12 +191,13 @@ void connectSimulation(Simulation& simulation, Editor& editor) {
 }
 
 void mnuSimCircuit_Click(Simulation& simulation, Editor& editor, Short index) {
+    if (RefusedWhileCopying(editor)) return;
     showLegend(simulation, true);
     setMenus(editor, false);
     editor.SimulationMode = true;
     editor.form.menu[Menu::mnuModeNormal].Checked = false;
     editor.form.menu[Menu::mnuModeDesign].Checked = false;
-    if (!drawingMayGo(editor)) return;
+    if (!MayGiveUpDrawing(editor)) return;
     enableTimer(simulation, editor, false);
     showView(simulation, Voltage);
     simulation.txtTimer.Text = longText(simulation.SimTimerInterval);

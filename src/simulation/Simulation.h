@@ -50,6 +50,7 @@ void connectSimulation(Simulation& simulation, Editor& editor);
 
 // Starts circuit 0, 1 or 2 in the voltage view, after the prompt for unsaved changes. Where the
 // user cancels, the mode is on with the old drawing, which nothing touches, until it is left.
+// Refused, with nothing changed, while a copy waits for a point.
 void mnuSimCircuit_Click(Simulation& simulation, Editor& editor, Short index);
 
 // The canvas takes its options again; then, if the mode is on, it ends. The drawing last loaded

@@ -9,6 +9,7 @@
 #include "browser/DrawingSketch.h"
 #include "browser/Favorites.h"
 #include "browser/FileBrowser.h"
+#include "canvas/file/DrawingCommands.h"
 #include "support/FakePlatform.h"
 
 namespace ladrix {
@@ -252,7 +253,7 @@ TEST_F(BrowserModesTest, ASketchLeavesTheOpenDrawingAloneAndTellsNothing) {
     ASSERT_TRUE(sketch);
     EXPECT_EQ(sketch->page.PageWidth, 17);
     EXPECT_TRUE(readSketch(editor, fake.folder / "drawings/d.els")) << "an empty drawing";
-    for (const char* name : {"noise.els", "numbers.els", "gone.els", "sub"})
+    for (const char* name : {"numbers.els", "gone.els", "sub"})
         EXPECT_FALSE(readSketch(editor, fake.folder / "drawings/" + name)) << name;
     test::RecordingPage page;
     drawSketch(editor, *sketch, page);
@@ -262,6 +263,14 @@ TEST_F(BrowserModesTest, ASketchLeavesTheOpenDrawingAloneAndTellsNothing) {
     EXPECT_TRUE(editor.drawing.DrawingChanged);
     EXPECT_THAT(fake.dialogs.boxes, IsEmpty());
     EXPECT_THAT(fake.reports, IsEmpty());
+    // The large preview and Open take the same files for readable; noise is an empty drawing.
+    const std::string drawings = fake.folder / "drawings/";
+    for (const char* name : {"good.els", "d.els", "noise.els", "numbers.els", "gone.els", "sub"}) {
+        const bool readable = readSketch(editor, drawings + name).has_value();
+        EXPECT_EQ(ReadPreview(editor, drawings, name).has_value(), readable) << name;
+        OpenNamedDrawing(editor, drawings, name);
+        EXPECT_EQ(!editor.drawing.CurrentFileName.empty(), readable) << name;
+    }
 }
 
 }  // namespace

@@ -8,6 +8,7 @@
 
 #include "browser/BrowserFolders.h"
 #include "browser/BrowserSaving.h"
+#include "browser/DrawingSketch.h"
 #include "browser/Favorites.h"
 #include "canvas/file/DrawingCommands.h"
 #include "platform/Encoding.h"
@@ -115,6 +116,8 @@ TEST_F(FileBrowserOpenTest, StartsWithNothingChosenAndNothingGivenUpUntilAPrevie
     cmdOpenCancel_Click(browser, editor);
     EXPECT_FALSE(browser.Visible);
     EXPECT_EQ(editor.drawing.devices.DeviceCount, 2) << "a cancel restores nothing";
+    EXPECT_EQ(editor.form.lblMessage.Caption,
+              "The drawing is now the preview of a.els. What stood there before is gone.");
     EXPECT_FALSE(editor.drawing.DrawingChanged);
 }
 
@@ -166,6 +169,7 @@ TEST_F(FileBrowserOpenTest, AFileThatCannotBeReadShowsTheBoxAndAnotherCanBeChose
         fake.dialogs.boxes.clear();
         click(name);
         EXPECT_THAT(fake.dialogs.boxes, ElementsAre(Unreadable)) << "each time";
+        EXPECT_FALSE(readSketch(editor, drawings + name)) << "the sheet of previews agrees";
         EXPECT_FALSE(browser.PreviewShown);
         EXPECT_EQ(browser.txtDescription.Text, "");
         test::RecordingPage page;
@@ -182,7 +186,6 @@ TEST_F(FileBrowserOpenTest, AFileThatCannotBeReadShowsTheBoxAndAnotherCanBeChose
 TEST_F(FileBrowserOpenTest, ADoubleClickOpensADrawingAndATemplate) {
     fake.folder.write("drawings/frame.tpl", drawingText("8.5x11Portrait"));
     fake.folder.write("drawings/a.els", drawingText("8.5x11Portrait"));
-    editor.drawing.OpenAfterSave = true;
     showOpen();
     EXPECT_THAT(listed(), ElementsAre("a.els", "frame.tpl"));
     doubleClick("frame.tpl");
@@ -192,7 +195,6 @@ TEST_F(FileBrowserOpenTest, ADoubleClickOpensADrawingAndATemplate) {
     showOpen();
     doubleClick("a.els");
     EXPECT_GT(editor.drawing.devices.DeviceCount, 2) << "the template's and the file's";
-    EXPECT_FALSE(editor.drawing.OpenAfterSave);
     EXPECT_FALSE(browser.Visible);
 }
 
@@ -207,7 +209,6 @@ TEST_F(FileBrowserOpenTest, AnOpenThatFailsLendsItsNameToNoOtherDrawing) {
     ASSERT_EQ(fake.reports.size(), 1u);
     EXPECT_EQ(fake.reports[0].text, "Input/output error");
     EXPECT_NE(editor.drawing.CurrentFileName, "a.els");
-    EXPECT_FALSE(editor.drawing.OpenAfterSave) << "or the next save would show the browser";
 }
 
 TEST_F(FileBrowserOpenTest, ACancelledOpenDoesNotComeBackAtTheNextSave) {
@@ -327,6 +328,17 @@ TEST_F(FileBrowserSaveTest, OffersThePresentNameInItsOwnFolder) {
     showOpen();
     EXPECT_EQ(browser.BrowserFolder, fake.folder / "elsewhere/") << "the folder used last";
     EXPECT_THAT(listed(), ElementsAre("frame.els", "old.tpl"));
+}
+
+TEST_F(FileBrowserSaveTest, OfWhatCameFromTheProgramsFoldersIsOfferedInTheUsersOwn) {
+    const std::string simulation = fake.folder / "program/Simulation Files/";
+    fake.folder.makeFolder("program/Simulation Files");
+    for (const std::string& folder : {editor.AppFilePath, simulation}) {
+        editor.drawing.CurrentFolder = folder;
+        showSave();
+        EXPECT_EQ(browser.BrowserFolder, drawings) << folder;
+        frmFile_Unload(browser, editor);
+    }
 }
 
 TEST_F(FileBrowserSaveTest, ASaveThatFailsOrIsRefusedKeepsTheFormAndTheFormerName) {

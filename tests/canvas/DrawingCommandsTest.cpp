@@ -17,8 +17,8 @@ struct CommandBench : Bench {
             if (form != Form::frmFile) return;
             ++(drawing.SaveInProgress ? saveBrowsers : openBrowsers);
             if (!drawing.SaveInProgress || nameInBrowser.empty()) return;
-            drawing.CurrentFileName = nameInBrowser;
-            SaveDrawing(editor);
+            const SaveOutcome outcome = SaveDrawingAs(editor, drawing.CurrentFolder, nameInBrowser);
+            if (outcome.next == After::Open) ++openBrowsers;
         };
     }
 
@@ -49,25 +49,32 @@ TEST(SavePrompt, HasThreeWaysForEachCommand) {
         Answer answer;
         const char* browser;  // the name given in it
         bool saved, emptied, opens, closes, ends, changed;
+        After afterwards = After::Nothing;  // what the next save goes on with
     };
     const Case cases[] = {
         {Command::New, true, Answer::Yes, "", true, true, false, true, false, false},
         {Command::New, true, Answer::No, "", false, true, false, true, false, false},
-        {Command::New, true, Answer::Cancel, "", false, false, false, true, false, true},
+        {Command::New, true, Answer::Cancel, "", false, false, false, true, false, true,
+         After::New},
         {Command::New, false, Answer::Yes, "Mine.els", true, true, false, true, false, false},
         {Command::New, false, Answer::Yes, "", false, false, false, true, false, true},
         {Command::New, false, Answer::No, "", false, true, false, true, false, false},
         {Command::Open, true, Answer::Yes, "", true, false, true, true, false, false},
         {Command::Open, true, Answer::No, "", false, false, true, true, false, false},
-        {Command::Open, true, Answer::Cancel, "", false, false, false, true, false, true},
+        {Command::Open, true, Answer::Cancel, "", false, false, false, true, false, true,
+         After::Open},
         {Command::Open, false, Answer::Yes, "Mine.els", true, false, true, true, false, false},
         {Command::Open, false, Answer::Yes, "", false, false, false, true, false, true},
         // Yes at exit leaves the program open on a named drawing, to be closed again.
-        {Command::Exit, true, Answer::Yes, "", true, false, false, false, false, false},
-        {Command::Exit, true, Answer::No, "", false, false, false, true, false, false},
-        {Command::Exit, true, Answer::Cancel, "", false, false, false, false, false, true},
-        {Command::Exit, false, Answer::Yes, "Mine.els", true, false, false, true, true, false},
-        {Command::Exit, false, Answer::Yes, "", false, false, false, false, false, true},
+        {Command::Exit, true, Answer::Yes, "", true, false, false, false, false, false,
+         After::Exit},
+        {Command::Exit, true, Answer::No, "", false, false, false, true, false, false, After::Exit},
+        {Command::Exit, true, Answer::Cancel, "", false, false, false, false, false, true,
+         After::Exit},
+        {Command::Exit, false, Answer::Yes, "Mine.els", true, false, false, true, true, false,
+         After::Exit},
+        {Command::Exit, false, Answer::Yes, "", false, false, false, false, false, true,
+         After::Exit},
     };
     int number = 0;
     for (const Case& c : cases) {
@@ -89,7 +96,7 @@ TEST(SavePrompt, HasThreeWaysForEachCommand) {
         EXPECT_EQ(bench.machine.shell.ended, c.ends);
         EXPECT_EQ(bench.drawing.DrawingChanged, c.changed);
         EXPECT_EQ(bench.drawing.CurrentFileName.empty(), c.emptied || (!c.named && !c.saved));
-        EXPECT_FALSE(bench.drawing.ExitCancelled && c.command == Command::Exit);
+        EXPECT_EQ(bench.drawing.AfterSave, c.afterwards);
     }
 }
 
@@ -117,9 +124,9 @@ TEST(SavePrompt, AnExitAskedForStandsUntilTheNextNewOrOpen) {
         bench.drawing.CurrentFileName = "Mine.els";
         bench.machine.dialogs.answers = {Answer::Yes};
         EXPECT_FALSE(Form_QueryUnload(bench.editor));
-        EXPECT_TRUE(bench.drawing.ExitAfterSave);
+        EXPECT_EQ(bench.drawing.AfterSave, After::Exit);
         run(bench, later);
-        EXPECT_EQ(bench.drawing.ExitAfterSave, later == Command::Exit);
+        EXPECT_EQ(bench.drawing.AfterSave == After::Exit, later == Command::Exit);
         EXPECT_FALSE(bench.machine.shell.ended);
     }
 }
@@ -140,15 +147,72 @@ TEST_F(DrawingCommandsTest, NewEmptiesEverythingAndIsUntitled) {
     EXPECT_EQ(editor.form.Caption, "Ladrix - Current Library: User Symbols - File Name: Untitled");
 }
 
-TEST_F(DrawingCommandsTest, NewIsRefusedWhileACopyWaitsForItsPoint) {
+TEST(ACopyThatWaitsForItsPoint, RefusesAnotherDrawingBeforeAnythingIsTouched) {
+    const std::pair<const char*, void (*)(CommandBench&)> ways[] = {
+        {"new", [](CommandBench& b) { mnuFileNew_Click(b.editor); }},
+        {"open", [](CommandBench& b) { mnuFileOpen_Click(b.editor); }},
+        {"restore", [](CommandBench& b) { mnuFileRestore_Click(b.editor); }},
+        {"demo", [](CommandBench& b) { mnuHelpDemo_Click(b.editor, 1); }},
+        {"recent",
+         [](CommandBench& b) { OpenNamedDrawing(b.editor, b.drawing.CurrentFolder, "Other.els"); }},
+        {"backup", [](CommandBench& b) { MayGiveUpDrawing(b.editor); }},
+        {"an open asked for before",
+         [](CommandBench& b) {
+             b.drawing.AfterSave = After::Open;
+             b.drawing.FileDescription = "saved";
+             SaveDrawing(b.editor);
+         }},
+    };
+    for (const auto& [name, open] : ways) {
+        for (const bool changed : {true, false}) {
+            SCOPED_TRACE(name);
+            CommandBench bench;
+            bench.writeDocument("Other.els", line(Lamp));
+            bench.machine.folder.write("program/Demo1.els", "8.5x11Portrait\r\n\r\n");
+            bench.drawGround();
+            bench.save("Mine.els");
+            bench.drawing.DrawingChanged = changed;
+            bench.editor.gesture.CopyStage = 2;
+            const std::string folder = bench.drawing.CurrentFolder;
+            open(bench);
+            EXPECT_THAT(bench.boxes(),
+                        ElementsAre("New drawing not possible. Copy point not selected."));
+            EXPECT_EQ(bench.openBrowsers + bench.saveBrowsers, 0);
+            EXPECT_THAT(bench.devices(), ElementsAre(Ground));
+            EXPECT_EQ(bench.drawing.CurrentFolder + bench.drawing.CurrentFileName,
+                      folder + "Mine.els");
+            EXPECT_EQ(bench.drawing.DrawingChanged,
+                      changed && !bench.drawing.FileDescription.size());
+        }
+    }
+}
+
+TEST_F(DrawingCommandsTest, WhatWasAnsweredYesAndCancelledInTheBrowserIsForgotten) {
+    for (const Command command : {Command::New, Command::Open}) {
+        machine.dialogs.answers = {Answer::Yes};
+        drawing.CurrentFileName.clear();
+        drawing.DrawingChanged = true;
+        run(*this, command);
+        nameInBrowser = "Mine.els";
+        play("tool Ground; click 1 1; key 27 0");
+        const std::size_t placed = devices().size();
+        openBrowsers = 0;
+        mnuFileSaveAs_Click(editor);
+        EXPECT_EQ(devices().size(), placed);
+        EXPECT_EQ(openBrowsers, 0);
+        nameInBrowser.clear();
+    }
+}
+
+TEST_F(DrawingCommandsTest, ACloseThatWasCancelledEndsTheProgramAtTheNextSave) {
     drawGround();
     drawing.CurrentFileName = "Mine.els";
-    drawing.DrawingChanged = false;
-    editor.gesture.CopyStage = 1;
-    mnuFileNew_Click(editor);
-    EXPECT_THAT(boxes(), ElementsAre("New drawing not possible. Copy point not selected."));
-    EXPECT_THAT(devices(), ElementsAre(Ground));
-    EXPECT_EQ(drawing.CurrentFileName, "Mine.els");
+    machine.dialogs.answers = {Answer::Cancel};
+    EXPECT_FALSE(Form_QueryUnload(editor));
+    EXPECT_FALSE(machine.shell.ended);
+    play("tool Lamp; click 2 2; key 27 0");
+    mnuFileSave_Click(editor);
+    EXPECT_TRUE(machine.shell.ended);
 }
 
 TEST_F(DrawingCommandsTest, SaveWritesTheDrawingAndSaysSo) {
@@ -270,14 +334,15 @@ TEST(Open, OfAFileThatCannotBeReadReportsOnceAndLeavesItAlone) {
 TEST_F(DrawingCommandsTest, OpenReplacesTheDrawingAndStartsItsHistory) {
     drawGround();
     writeDocument("B.els", line(Lamp), line("Motor|1|2|0|Arial|8|False|False"), "11x17Landscape");
-    drawing.OpenAfterSave = true;
+    drawing.AfterSave = After::Open;
     open("B.els");
     EXPECT_THAT(devices(), ElementsAre(Lamp));
     EXPECT_EQ(editor.UndoTop, 0);
     EXPECT_THAT(editor.history.text(0), HasSubstr(line(Lamp))) << "the first state";
     EXPECT_EQ(editor.form.lbl.size(), 1u);
     EXPECT_EQ(editor.PageWidth, 17);
-    EXPECT_FALSE(drawing.DrawingChanged || drawing.OpenAfterSave || drawing.Reading);
+    EXPECT_FALSE(drawing.DrawingChanged || drawing.Reading);
+    EXPECT_EQ(drawing.AfterSave, After::Nothing);
     EXPECT_THAT(editor.form.Caption, HasSubstr("File Name: B.els"));
     EXPECT_FALSE(canvas.persistent.empty());
 }
@@ -351,6 +416,27 @@ TEST_F(DrawingCommandsTest, CrashCopyIsDeletedByAnOpenAndStaysWhereItCannotBeRea
     mnuFileRestore_Click(editor);
     EXPECT_THAT(devices(), IsEmpty()) << "a new drawing stays";
     EXPECT_EQ(drawing.CurrentFileName, "");
+}
+
+TEST_F(DrawingCommandsTest, CrashCopyThatIsReadInPartOrCannotBeDeletedStaysAndIsTold) {
+    const std::string copy = "program/Temp_Drawing.els";
+    const std::string damaged =
+        "8.5x11Portrait\r\n\r\n" + line(Ground) + line("InsertLamp|two|2|0||1|1|0|False") + "\r\n";
+    machine.folder.write(copy, damaged);
+    mnuFileRestore_Click(editor);
+    EXPECT_THAT(devices(), ElementsAre(Ground));
+    EXPECT_EQ(machine.folder.read(copy), damaged);
+    EXPECT_THAT(message(), HasSubstr("Only a part of the crash copy could be read."));
+
+    machine.reports.clear();
+    machine.files.fail(Operation::Remove, {failure::PermissionDenied, "Permission denied"});
+    writeDocument("B.els", line(Lamp));
+    drawing.DrawingChanged = false;
+    open("B.els");
+    ASSERT_EQ(machine.reports.size(), 1u);
+    EXPECT_EQ(machine.reports[0].description, "Delete Temporary Drawing");
+    EXPECT_EQ(drawing.CurrentFileName, "B.els");
+    EXPECT_THAT(message(), testing::Not(HasSubstr("could not be opened")));
 }
 
 TEST_F(DrawingCommandsTest, CrashCopyRestoringAsksFirstAndHoldsItsTemplateAlready) {

@@ -5,6 +5,7 @@
 
 #include "Bench.h"
 #include "canvas/file/DrawingCommands.h"
+#include "canvas/file/PictureFiles.h"
 
 namespace ladrix::test {
 namespace {
@@ -45,6 +46,8 @@ TEST_F(DrawingIOTest, TheKeyOfAnUnknownPageIsKeptAndLeavesThePageAsItWas) {
     EXPECT_THAT(devices(), ElementsAre(Ground));
     save("B.els");
     EXPECT_TRUE(file("B.els").starts_with("A4\r\n\r\n"));
+    mnuFileNew_Click(editor);
+    EXPECT_EQ(drawing.PageLayoutKey, "8.5x11Portrait") << "a foreign text is no page";
 }
 
 TEST_F(DrawingIOTest, TooManyDevicesAreReportedOnceAndTheFileKeepsThem) {
@@ -92,15 +95,58 @@ TEST_F(PictureFilesTest, ThatAreInTheirFolderAlreadyNeedNoSource) {
     EXPECT_FALSE(drawing.DrawingChanged);
 }
 
-TEST(PictureFiles, ThatCannotBeCopiedLeaveTheOldDrawingAndOneReport) {
+TEST_F(PictureFilesTest, WhoseFileHasGoneAreWrittenFromWhatWasReadOfThem) {
+    keepPictureFile(editor, drawing.PictureTable[0].FullPath);
+    std::filesystem::remove(machine.folder.native("elsewhere/logo.bmp"));
+    save("Plan.els");
+    EXPECT_EQ(machine.folder.read("documents/Plan/logo.bmp"), "picture bytes");
+    EXPECT_EQ(drawing.PictureTable[0].FullPath, machine.folder / "documents/Plan/logo.bmp");
+
+    open("Plan.els");
+    std::filesystem::remove_all(machine.folder.native("documents/Plan"));
+    save("Copy.els");
+    EXPECT_EQ(machine.folder.read("documents/Copy/logo.bmp"), "picture bytes");
+    EXPECT_EQ(drawing.PictureTable[0].FullPath, machine.folder / "documents/Copy/logo.bmp");
+    EXPECT_FALSE(drawing.DrawingChanged);
+    EXPECT_THAT(boxes(), IsEmpty());
+}
+
+TEST_F(PictureFilesTest, TakeAFreeNameWhereTheFolderHoldsAnotherFile) {
+    machine.folder.write("documents/Plan/LOGO.bmp", "another's");
+    machine.folder.write("documents/Plan/logo (2).bmp", "a third");
+    addPicture({3, 3, 1, 1, "logo.bmp", machine.folder / "elsewhere/logo.bmp", false});
+    for (const char* again : {"first", "second"}) {
+        SCOPED_TRACE(again);
+        save("Plan.els");
+        EXPECT_EQ(machine.folder.read("documents/Plan/LOGO.bmp"), "another's");
+        EXPECT_EQ(machine.folder.read("documents/Plan/logo (3).bmp"), "picture bytes");
+        EXPECT_THAT(file("Plan.els"), HasSubstr(line("logo (3).bmp|3|3|1|1")));
+        EXPECT_EQ(machine.folder.entries("documents/Plan").size(), 3u);
+    }
+    save("Other.els");
+    EXPECT_EQ(machine.folder.read("documents/Other/logo (3).bmp"), "picture bytes");
+}
+
+TEST(PictureFiles, ThatCannotBeWrittenAreNamedOnceAndTheDrawingStandsWithoutThem) {
     for (const Operation operation : {Operation::Copy, Operation::MakeFolder}) {
         PictureBench bench;
+        bench.addPicture({3, 3, 1, 1, "logo.bmp", bench.drawing.PictureTable[0].FullPath, false});
         bench.machine.folder.write(bench.document("Plan.els"), "old");
         bench.machine.files.fail(operation, {failure::PathFileAccess, "No space left on device"});
+        bench.drawing.AfterSave = After::New;
         bench.save("Plan.els");
-        EXPECT_THAT(bench.reports(), ElementsAre(failure::PathFileAccess));
-        EXPECT_EQ(bench.file("Plan.els"), "old");
+        EXPECT_THAT(bench.boxes(), ElementsAre("The picture logo.bmp could not be written:\r\n"
+                                               "No space left on device\r\n\r\n"
+                                               "The drawing has been saved without it."));
+        EXPECT_THAT(bench.reports(), IsEmpty());
+        EXPECT_TRUE(bench.file("Plan.els").ends_with(bench.drawing.PictureString));
         EXPECT_TRUE(bench.drawing.DrawingChanged);
+        EXPECT_EQ(bench.drawing.PictureCount, 2) << "nothing is given up";
+        bench.machine.files.heal();
+        bench.drawing.AfterSave = After::Nothing;
+        mnuFileSave_Click(bench.editor);
+        EXPECT_FALSE(bench.drawing.DrawingChanged);
+        EXPECT_EQ(bench.machine.folder.read("documents/Plan/logo.bmp"), "picture bytes");
     }
 }
 

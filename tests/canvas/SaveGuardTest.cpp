@@ -75,9 +75,11 @@ TEST(ASave, AsksBeforeItReplacesWhatThisRunDoesNotKnow) {
         if (c.event == Meanwhile::Edited) bench.change("another's work");
         if (c.event == Meanwhile::SameAsOurs) bench.change(fileText(bench.drawing).c_str());
         if (c.event == Meanwhile::Deleted) std::filesystem::remove(path);
-        bench.drawing.SaveInProgress = c.inBrowser;
         bench.machine.dialogs.answers = {c.answer};
-        mnuFileSave_Click(bench.editor);
+        if (c.inBrowser)
+            SaveDrawingAs(bench.editor, bench.drawing.CurrentFolder, "Mine.els");
+        else
+            mnuFileSave_Click(bench.editor);
         EXPECT_EQ(bench.firstLine(), c.question);
         EXPECT_LE(bench.machine.dialogs.boxes.size(), 1u);
         EXPECT_EQ(bench.drawing.DrawingChanged, !c.saved);
@@ -91,7 +93,6 @@ TEST(ASave, AsksBeforeItReplacesWhatThisRunDoesNotKnow) {
         }
         // Either way the next save knows the file, or asks again.
         bench.machine.dialogs.boxes.clear();
-        bench.drawing.SaveInProgress = false;
         bench.machine.dialogs.answers = {Answer::No};
         mnuFileSave_Click(bench.editor);
         EXPECT_EQ(bench.firstLine(), c.saved ? "" : c.question);
@@ -104,13 +105,51 @@ TEST_F(SaveGuardTest, ASaveKeepsTheFormerTextAndNothingWhereItChangesNothing) {
     EXPECT_THAT(copies(), ElementsAre(former));
     mnuFileSave_Click(editor);
     EXPECT_THAT(copies(), ElementsAre(former));
-    // What a cancelled preview leaves may be saved under the drawing's name.
+}
+
+TEST_F(SaveGuardTest, ThePreviewInTheDrawingsPlaceIsAskedAboutUntilItIsSaved) {
+    mnuFileSave_Click(editor);
     const std::string saved = file();
     writeDocument("Other.els", line(Ground));
     ASSERT_TRUE(ReadPreview(editor, drawing.CurrentFolder, "Other.els"));
+    EXPECT_EQ(editor.PreviewedFile, "Other.els");
+    for (const Answer answer : {Answer::No, Answer::Yes}) {
+        machine.dialogs.boxes.clear();
+        machine.dialogs.answers = {answer};
+        const SaveOutcome outcome = SaveDrawing(editor);
+        ASSERT_EQ(machine.dialogs.boxes.size(), 1u);
+        EXPECT_EQ(machine.dialogs.boxes[0].buttons, Buttons::YesNoDefaultNo);
+        EXPECT_EQ(firstLine(), "The preview of Other.els stands in the place of Mine.els.");
+        EXPECT_EQ(file() == saved, answer == Answer::No);
+        EXPECT_EQ(outcome.result, answer == Answer::No ? SaveResult::Refused : SaveResult::Saved);
+    }
+    EXPECT_THAT(copies(), testing::Contains(saved));
+    play("tool Lamp; click 2 2; key 27 0");
+    machine.dialogs.boxes.clear();
     mnuFileSave_Click(editor);
-    EXPECT_FALSE(isSaved());
-    EXPECT_THAT(copies(), testing::UnorderedElementsAre(former, saved));
+    EXPECT_THAT(boxes(), IsEmpty());
+    const std::pair<const char*, std::function<void()>> ends[] = {
+        {"new", [&] { mnuFileNew_Click(editor); }},
+        {"open", [&] { OpenNamedDrawing(editor, drawing.CurrentFolder, "Other.els"); }},
+        {"save as", [&] { SaveDrawingAs(editor, drawing.CurrentFolder, "Third.els"); }},
+    };
+    for (const auto& [name, end] : ends) {
+        ReadPreview(editor, drawing.CurrentFolder, "Other.els");
+        end();
+        EXPECT_EQ(editor.PreviewedFile, "") << name;
+    }
+}
+
+TEST_F(SaveGuardTest, APreviewLeavesThePicturesAlone) {
+    addPicture({1, 1, 1, 1, "logo.bmp", "logo.bmp", false});
+    const std::string pictures = drawing.PictureString;
+    writeDocument("Other.els", line(Ground), line("Motor|1|2|0|Arial|8|False|False"));
+    ASSERT_TRUE(ReadPreview(editor, drawing.CurrentFolder, "Other.els"));
+    EXPECT_THAT(devices(), ElementsAre(Ground));
+    EXPECT_EQ(drawing.labels.LabelCount, 0);
+    EXPECT_EQ(drawing.LabelString, "");
+    EXPECT_EQ(drawing.PictureTable.size() + editor.img.size(), 2u);
+    EXPECT_EQ(drawing.PictureString, pictures);
 }
 
 TEST(ASave, WithoutABackupIsMadeOnlyWhenTheUserSaysSo) {

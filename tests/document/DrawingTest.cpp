@@ -105,14 +105,14 @@ TEST_F(DrawingTest, ZeroXIsToldForAllButFreeLinesAndSquares) {
 }
 
 TEST_F(DrawingTest, ASlotThatHoldsTheNameAlreadyIsLeftAlone) {
-    drawing.NewAfterSave = true;
+    drawing.AfterSave = After::New;
     drawing.devices.DeviceName.push_back("InsertCoil");
 
     record({.name = "InsertCoil", .x = 1});
     EXPECT_EQ(drawing.devices.DeviceCount, 0);
     EXPECT_EQ(drawing.DeviceString, "");
     EXPECT_FALSE(drawing.DrawingChanged);
-    EXPECT_FALSE(drawing.NewAfterSave);
+    EXPECT_EQ(drawing.AfterSave, After::Nothing);
 
     record({.name = "InsertRelay", .x = 1});
     record({.name = "InsertRelay", .x = 2});
@@ -194,7 +194,7 @@ TEST_F(DrawingTest, ARecordNeverJoinsALineThatWasCutOff) {
 }
 
 TEST_F(DrawingTest, LabelsAreRecordedWithTheFixedColourWhenThatIsOn) {
-    drawing.NewAfterSave = true;
+    drawing.AfterSave = After::New;
     label({.text = "M1", .x = 1, .y = 2, .color = Red, .fontName = "Arial", .fontSize = 8});
     Long color = Red;
     drawing.FixedLabelColor = &color;
@@ -208,7 +208,7 @@ TEST_F(DrawingTest, LabelsAreRecordedWithTheFixedColourWhenThatIsOn) {
     EXPECT_EQ(drawing.CurrentLabel, 1);
     EXPECT_EQ(readable(drawing.LabelRecord(0)), "M1|1|2|255|Arial|8|False|False");
     EXPECT_TRUE(drawing.DrawingChanged);
-    EXPECT_FALSE(drawing.NewAfterSave);
+    EXPECT_EQ(drawing.AfterSave, After::Nothing);
 }
 
 TEST_F(DrawingTest, ALabelIsAddedToATextThatHoldsTheOthersAndReplacesOneThatDoesNot) {

@@ -292,7 +292,7 @@ TEST_F(SimulationTest, OffersUnsavedWorkForSavingAndTouchesNothingAfterCancel) {
     machine.dialogs.answers = {Answer::Cancel};
     start(1);
     EXPECT_TRUE(editor.SimulationMode && editor.drawing.DrawingChanged);
-    EXPECT_FALSE(editor.drawing.ExitCancelled || simulation.picSimulation.Visible);
+    EXPECT_FALSE(simulation.picSimulation.Visible);
     press();
     release();
     cmdCurrent_Click(simulation, editor);
@@ -302,6 +302,16 @@ TEST_F(SimulationTest, OffersUnsavedWorkForSavingAndTouchesNothingAfterCancel) {
     start(1);
     EXPECT_EQ(shown(), "V_Demo_2_Off.els");
     EXPECT_EQ(machine.dialogs.boxes.size(), 2u);
+}
+
+TEST_F(SimulationTest, DoesNotStartWhileACopyWaitsForItsPoint) {
+    editor.drawing.DrawingChanged = true;
+    editor.gesture.CopyStage = 1;
+    start(0);
+    ASSERT_EQ(machine.dialogs.boxes.size(), 1u);
+    EXPECT_EQ(machine.dialogs.boxes[0].text, "New drawing not possible. Copy point not selected.");
+    EXPECT_FALSE(editor.SimulationMode || simulation.lblSimColor[0].Visible);
+    EXPECT_TRUE(editor.form.menu[Menu::mnuFile].Enabled);
 }
 
 TEST_F(SimulationTest, GoesOnWithoutAPictureThatIsMissing) {

@@ -14,6 +14,7 @@ bool offers(Buttons buttons, Answer answer) {
         case Buttons::OkCancel:
             return answer == Answer::Ok || answer == Answer::Cancel;
         case Buttons::YesNo:
+        case Buttons::YesNoDefaultNo:
             return answer == Answer::Yes || answer == Answer::No;
         case Buttons::YesNoCancel:
             return answer != Answer::Ok;
@@ -35,7 +36,7 @@ Answer FakeDialogs::message(std::string_view text, std::string_view title, Butto
     boxes.push_back(box);
     if (duringBox) duringBox(box);
     if (buttons == Buttons::Ok) return Answer::Ok;
-    if (answers.empty()) return buttons == Buttons::YesNo ? Answer::No : Answer::Cancel;
+    if (answers.empty()) return offers(buttons, Answer::Cancel) ? Answer::Cancel : Answer::No;
     const Answer answer = takeFirst(answers);
     if (!offers(buttons, answer)) {
         throw std::logic_error("The queued answer has no button in: " + box.text);

@@ -4,104 +4,76 @@
 
 #include "canvas/file/DrawingIO.h"
 #include "canvas/file/FileText.h"
-#include "canvas/file/SaveGuard.h"
 #include "canvas/file/Title.h"
 #include "canvas/gestures/Gesture.h"
 #include "canvas/history/History.h"
 #include "canvas/view/View.h"
 #include "canvas/view/Zoom.h"
 #include "document/DrawingFile.h"
+#include "document/PageLayout.h"
 #include "document/Records.h"
 
 namespace ladrix {
 
 namespace {
 
-enum class After { Nothing, New, Open, Exit };
-
-void askFor(Drawing& drawing, After after) {
-    drawing.NewAfterSave = after == After::New;
-    drawing.OpenAfterSave = after == After::Open;
-    drawing.ExitAfterSave = after == After::Exit;
-}
-
-bool isDemo(std::string_view name) {
-    return name == "Demo1.els" || name == "Demo2.els";
-}
-
+// What was asked for and has not come about is forgotten with the browser.
 void showBrowser(Editor& editor, bool saving) {
-    editor.drawing.SaveInProgress = saving;
-    editor.platform.dialogs->show(Form::frmFile);
-}
-
-bool refusedTarget(Editor& editor) {
-    const Drawing& drawing = editor.drawing;
-    const auto refuse = [&](std::string_view text) {
-        editor.platform.tell(text);
-        return true;
-    };
-    if (isDemo(drawing.CurrentFileName) && !editor.LoggedIn)
-        return refuse("Could not save the demo. You are not logged in.");
-    if (drawing.CurrentFolder == editor.UserSymbolsPath)
-        return refuse(
-            "Files cannot be saved to the User Symbols Folder. Select a different folder.");
-    if (drawing.CurrentFolder == editor.UserButtonsPath)
-        return refuse(
-            "Files cannot be saved to the User Buttons Folder. Select a different folder.");
-    return false;
-}
-
-void keepTemplate(Drawing& drawing) {
-    if (extensionOf(drawing.CurrentFileName) != ".tpl") return;
-    drawing.TemplateActive = true;
-    drawing.TemplateDevices = drawing.DeviceString;
-    drawing.TemplateLabels = drawing.LabelString;
-}
-
-// False if the new drawing is refused: the present one keeps its name.
-bool startUntitled(Editor& editor) {
-    const std::string name = std::exchange(editor.drawing.CurrentFileName, {});
-    if (NewDrawing(editor)) {
-        editor.drawing.DrawingChanged = false;
-        return true;
-    }
-    editor.drawing.CurrentFileName = name;
-    return false;
-}
-
-void goOnAfterSave(Editor& editor) {
     Drawing& drawing = editor.drawing;
-    if (drawing.NewAfterSave) {
-        drawing.NewAfterSave = false;
-        startUntitled(editor);
-    } else if (drawing.OpenAfterSave) {
-        drawing.OpenAfterSave = false;
-        UpdateTitle(editor);
-        showBrowser(editor, false);
-    } else {
-        UpdateTitle(editor);
+    drawing.SaveInProgress = saving;
+    editor.platform.dialogs->show(Form::frmFile);
+    drawing.SaveInProgress = false;
+    forgetAfterSave(drawing, After::New);
+    forgetAfterSave(drawing, After::Open);
+}
+
+void startUntitled(Editor& editor) {
+    if (RefusedWhileCopying(editor)) return;
+    editor.drawing.CurrentFileName.clear();
+    NewDrawing(editor);
+    editor.drawing.DrawingChanged = false;
+}
+
+// The changes are saved, or nobody wants them.
+void goOn(Editor& editor) {
+    Drawing& drawing = editor.drawing;
+    switch (drawing.AfterSave) {
+        case After::New:
+            drawing.AfterSave = After::Nothing;
+            return startUntitled(editor);
+        case After::Open:
+            drawing.AfterSave = After::Nothing;
+            if (!RefusedWhileCopying(editor)) showBrowser(editor, false);
+            return;
+        case After::Exit:
+            return editor.platform.shell->endProgram();
+        case After::Nothing:
+            return;
     }
-    if (drawing.ExitAfterSave && !drawing.ExitCancelled) editor.platform.shell->endProgram();
 }
 
-void fileTouched(Editor& editor, std::string_view text) {
-    RememberFile(editor, text);
-    if (editor.FileTouched) editor.FileTouched();
+bool mayGoOn(const Editor& editor, const SaveOutcome& outcome) {
+    return outcome.result == SaveResult::Saved && !editor.drawing.DrawingChanged;
 }
 
-// Whether nothing stands in the way of giving the present drawing up.
-bool mayGoOn(Editor& editor) {
-    if (editor.drawing.DrawingChanged) AskToSaveChanges(editor);
-    return !editor.drawing.DrawingChanged;
+// A Yes goes on by itself when the save is done.
+void askAndGoOn(Editor& editor, After after) {
+    if (RefusedWhileCopying(editor)) return;
+    editor.drawing.AfterSave = after;
+    if (!editor.drawing.DrawingChanged || AskToSaveChanges(editor) == Changes::GivenUp)
+        goOn(editor);
 }
 
 std::string tempDrawing(const Editor& editor) {
     return editor.drawing.TempFolder + std::string(CrashCopyName);
 }
 
+// One that cannot be deleted is reported by itself: what was done before has been done.
 void removeTempDrawing(Editor& editor) {
-    if (FileExists(*editor.platform.files, editor.drawing.TempFolder, CrashCopyName))
-        editor.platform.files->remove(tempDrawing(editor));
+    editor.platform.attempt("Delete Temporary Drawing", [&] {
+        if (FileExists(*editor.platform.files, editor.drawing.TempFolder, CrashCopyName))
+            editor.platform.files->remove(tempDrawing(editor));
+    });
 }
 
 // Drawings of the program's own folder that are opened with their whole width in view.
@@ -127,10 +99,15 @@ void tellIncomplete(Editor& editor) {
                                      "does not replace the file.";
 }
 
+// The key of a page that nobody knows belonged to the former drawing's file alone.
 void emptyDrawing(Editor& editor) {
-    ClearTables(editor.drawing);
-    editor.drawing.FileDescription.clear();
+    Drawing& drawing = editor.drawing;
+    ClearTables(drawing);
+    drawing.FileDescription.clear();
+    if (!pageSize(drawing.PageLayoutKey)) drawing.PageLayoutKey = DefaultPageKey;
     editor.img.clear();
+    editor.KeptPictureFiles.clear();
+    editor.PreviewedFile.clear();
     editor.LastSelectedLabel = -1;
     editor.labelEdit = {};
     editor.backups.shown.clear();
@@ -190,25 +167,6 @@ void openNamed(Editor& editor) {
     if (opensAtPageWidth(editor)) zoomToPageWidth(editor);
 }
 
-// False: the file is to stay as it is.
-bool writeNamedFile(Editor& editor) {
-    const std::string text = fileText(editor.drawing);
-    if (!MayReplaceFile(editor, text)) return false;
-    writeDrawing(editor, text);
-    fileTouched(editor, text);
-    return true;
-}
-
-// A preview has a message of its own for what cannot be read.
-void parseForPreview(Editor& editor) {
-    Platform quiet = editor.platform;
-    quiet.ReportError = [](std::string_view, const Failure&) {};
-    editor.drawing.ReadIncomplete = false;
-    ParseDeviceString(editor.drawing, quiet);
-    if (editor.drawing.ReadIncomplete)
-        throw Failure{failure::TypeMismatch, "A record cannot be read."};
-}
-
 // A failure that repeats brings up no second report: the foot tells it each time.
 void tellOutcome(Editor& editor, std::string text) {
     editor.form.lblMessage.Caption = std::move(text);
@@ -217,17 +175,11 @@ void tellOutcome(Editor& editor, std::string text) {
 }  // namespace
 
 void mnuFileNew_Click(Editor& editor) {
-    askFor(editor.drawing, After::New);
-    // A Yes at the prompt starts the new drawing itself, when the save is done.
-    if (!mayGoOn(editor) || !editor.drawing.NewAfterSave) return;
-    editor.drawing.NewAfterSave = false;
-    startUntitled(editor);
+    askAndGoOn(editor, After::New);
 }
 
 void mnuFileOpen_Click(Editor& editor) {
-    askFor(editor.drawing, After::Open);
-    if (!mayGoOn(editor) || !editor.drawing.OpenAfterSave) return;
-    showBrowser(editor, false);
+    askAndGoOn(editor, After::Open);
 }
 
 void mnuFileSave_Click(Editor& editor) {
@@ -246,9 +198,16 @@ void mnuHelpDemo_Click(Editor& editor, int number) {
     OpenNamedDrawing(editor, editor.AppFilePath, number == 1 ? "Demo1.els" : "Demo2.els");
 }
 
+bool RefusedWhileCopying(Editor& editor) {
+    if (editor.gesture.CopyStage == 0) return false;
+    editor.platform.tell("New drawing not possible. Copy point not selected.");
+    return true;
+}
+
 bool MayGiveUpDrawing(Editor& editor) {
-    askFor(editor.drawing, After::Nothing);
-    return mayGoOn(editor);
+    if (RefusedWhileCopying(editor)) return false;
+    editor.drawing.AfterSave = After::Nothing;
+    return !editor.drawing.DrawingChanged || AskToSaveChanges(editor) != Changes::Kept;
 }
 
 void OpenNamedDrawing(Editor& editor, const std::string& folder, const std::string& name) {
@@ -259,10 +218,7 @@ void OpenNamedDrawing(Editor& editor, const std::string& folder, const std::stri
 }
 
 bool NewDrawing(Editor& editor) {
-    if (editor.gesture.CopyStage > 0) {
-        editor.platform.tell("New drawing not possible. Copy point not selected.");
-        return false;
-    }
+    if (RefusedWhileCopying(editor)) return false;
     Drawing& drawing = editor.drawing;
     emptyDrawing(editor);
     drawing.TitleState = drawing.CurrentFileName.empty() ? 0 : 1;
@@ -273,26 +229,30 @@ bool NewDrawing(Editor& editor) {
     return true;
 }
 
-void SaveDrawing(Editor& editor) {
-    Drawing& drawing = editor.drawing;
-    if (drawing.CurrentFileName.empty()) return showBrowser(editor, true);
-    if (refusedTarget(editor)) return;
-    if (mainText(drawing).size() == 2) return;
-    try {
-        if (!writeNamedFile(editor)) return tellOutcome(editor, "The drawing was not saved.");
-    } catch (const Failure& failure) {
-        drawing.DrawingChanged = true;
-        drawing.SaveInProgress = false;
-        tellOutcome(editor, "The drawing was not saved. " + failure.text);
-        return editor.platform.ReportError("Save Drawing", failure);
+SaveOutcome SaveDrawing(Editor& editor) {
+    if (editor.drawing.CurrentFileName.empty()) {
+        showBrowser(editor, true);
+        return {SaveResult::LeftToBrowser};
     }
-    keepTemplate(drawing);
-    drawing.SaveInProgress = false;
-    drawing.TitleState = 1;
-    editor.backups.shown.clear();
-    editor.form.lblMessage.Caption = "File saved.";
-    drawing.DrawingChanged = false;
-    goOnAfterSave(editor);
+    SaveOutcome outcome = saveUnderName(editor, SaveName::Own);
+    if (mayGoOn(editor, outcome)) goOn(editor);
+    return outcome;
+}
+
+SaveOutcome SaveDrawingAs(Editor& editor, std::string folder, std::string name) {
+    Drawing& drawing = editor.drawing;
+    std::string formerFolder = std::exchange(drawing.CurrentFolder, std::move(folder));
+    std::string formerName = std::exchange(drawing.CurrentFileName, std::move(name));
+    SaveOutcome outcome = saveUnderName(editor, SaveName::Chosen);
+    if (outcome.result != SaveResult::Saved) {
+        drawing.CurrentFolder = std::move(formerFolder);
+        drawing.CurrentFileName = std::move(formerName);
+    } else if (mayGoOn(editor, outcome)) {
+        if (drawing.AfterSave == After::Open)
+            outcome.next = std::exchange(drawing.AfterSave, After::Nothing);
+        goOn(editor);
+    }
+    return outcome;
 }
 
 void OpenDrawing(Editor& editor) {
@@ -322,54 +282,53 @@ void OpenDrawingQuietly(Editor& editor) {
 std::optional<PreviewOfFile> ReadPreview(Editor& editor, const std::string& folder,
                                          const std::string& file) {
     Drawing& drawing = editor.drawing;
-    ClearTables(drawing);
-    editor.img.clear();
+    drawing.DeviceString.clear();
+    drawing.LabelString.clear();
+    ParseDeviceString(drawing, editor.platform);
+    ParseLabelString(drawing, editor.platform);
+    editor.PreviewedFile = file;
     try {
-        const FileText text = readDrawingFile(*editor.platform.files, folder + file);
-        DrawingParts parts = splitFile(text.content, text.modified);
-        drawing.DeviceString = std::move(parts.devices);
-        parseForPreview(editor);
+        DrawingParts parts = readDevices(drawing, editor.platform, folder + file);
         drawing.DrawingChanged = false;
-        drawing.OpenAfterSave = false;
-        return PreviewOfFile{parts.pageKey, parts.description};
+        forgetAfterSave(drawing, After::Open);
+        return PreviewOfFile{std::move(parts.pageKey), std::move(parts.description)};
     } catch (const Failure&) {
         editor.platform.tell("File structure corrupted and cannot be read.", "Bad File Structure");
         return std::nullopt;
     }
 }
 
-void AskToSaveChanges(Editor& editor) {
+Changes AskToSaveChanges(Editor& editor) {
     Drawing& drawing = editor.drawing;
-    if (isDemo(drawing.CurrentFileName)) {
+    if (isDemo(drawing)) {
         drawing.DrawingChanged = false;
-        return;
+        return Changes::GivenUp;
     }
     switch (editor.platform.dialogs->message(
         "The current file has been changed. Do you want to save those changes?", "File Has Changed",
         Buttons::YesNoCancel)) {
         case Answer::Yes:
-            // An untitled drawing is saved in the browser, and that save ends the program.
-            drawing.ExitCancelled = drawing.ExitAfterSave && !drawing.CurrentFileName.empty();
-            SaveDrawing(editor);
-            if (drawing.ExitAfterSave && drawing.DrawingChanged) drawing.ExitCancelled = true;
-            break;
+            // The end of the program waits for another close, unless the browser asks for a name.
+            if (drawing.AfterSave == After::Exit && !drawing.CurrentFileName.empty())
+                saveUnderName(editor, SaveName::Own);
+            else
+                SaveDrawing(editor);
+            return drawing.DrawingChanged ? Changes::Kept : Changes::Saved;
         case Answer::No:
             drawing.DrawingChanged = false;
-            break;
+            return Changes::GivenUp;
         default:
-            drawing.ExitCancelled = true;
-            break;
+            return Changes::Kept;
     }
 }
 
 bool Form_QueryUnload(Editor& editor) {
     Drawing& drawing = editor.drawing;
-    askFor(drawing, After::Exit);
-    drawing.ExitCancelled = false;
-    if (drawing.DrawingChanged) AskToSaveChanges(editor);
-    if (!drawing.ExitCancelled) return true;
-    drawing.ExitCancelled = false;
-    return false;
+    drawing.AfterSave = After::Exit;
+    if (!drawing.DrawingChanged) return true;
+    const bool isNamed = !drawing.CurrentFileName.empty();
+    const Changes changes = AskToSaveChanges(editor);
+    return changes == Changes::GivenUp || (changes == Changes::Saved && !isNamed);
 }
 
 void WriteTempDrawing(Editor& editor) {
@@ -385,11 +344,14 @@ void RestoreTempDrawing(Editor& editor) {
     if (!MayGiveUpDrawing(editor)) return;
     drawing.Reading = true;
     editor.platform.attempt("Restore Temporary Drawing", [&] {
-        if (!startUntitled(editor) ||
-            !FileExists(*editor.platform.files, drawing.TempFolder, CrashCopyName))
-            return;
+        startUntitled(editor);
+        if (!FileExists(*editor.platform.files, drawing.TempFolder, CrashCopyName)) return;
         restoreText(editor, readDrawingFile(*editor.platform.files, tempDrawing(editor)));
-        editor.platform.files->remove(tempDrawing(editor));
+        if (!drawing.ReadIncomplete) return removeTempDrawing(editor);
+        tellOutcome(editor,
+                    "Only a part of the crash copy could be read. It stays on disk until the next "
+                    "placement or opening: " +
+                        tempDrawing(editor));
     });
     drawing.Reading = false;
 }

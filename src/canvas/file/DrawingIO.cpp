@@ -2,29 +2,18 @@
 
 #include <utility>
 
+#include "canvas/file/FileText.h"
+#include "canvas/file/PictureFiles.h"
 #include "canvas/file/Title.h"
 #include "canvas/history/History.h"
 #include "canvas/view/Painting.h"
 #include "canvas/view/View.h"
 #include "document/Records.h"
+#include "platform/SilentDialogs.h"
 
 namespace ladrix {
 
 namespace {
-
-// Every picture stands in a folder beside the drawing, named as it is.
-void copyPictures(Editor& editor) {
-    const Drawing& drawing = editor.drawing;
-    if (drawing.PictureCount == 0) return;
-    Files& files = *editor.platform.files;
-    const std::string name{nameWithoutExtension(drawing.CurrentFileName)};
-    const std::string folder = drawing.CurrentFolder + name + files.separator();
-    if (!FolderExists(files, drawing.CurrentFolder, name))
-        files.makeFolder(drawing.CurrentFolder + name);
-    for (const PictureRow& row : drawing.PictureTable)
-        if (!FileExists(files, folder, row.FileName))
-            files.copy(row.FullPath, folder + row.FileName);
-}
 
 void parseAll(Editor& editor) {
     editor.drawing.ReadIncomplete = false;
@@ -35,12 +24,6 @@ void parseAll(Editor& editor) {
 }
 
 }  // namespace
-
-void writeDrawing(Editor& editor, std::string_view text) {
-    const Drawing& drawing = editor.drawing;
-    copyPictures(editor);
-    editor.platform.files->replace(drawing.CurrentFolder + drawing.CurrentFileName, text);
-}
 
 void openText(Editor& editor, const FileText& file, PageView view) {
     Drawing& drawing = editor.drawing;
@@ -63,7 +46,8 @@ void openText(Editor& editor, const FileText& file, PageView view) {
     RedrawDrawing(editor);
     ClearHistory(editor);
     drawing.DrawingChanged = false;
-    drawing.OpenAfterSave = false;
+    forgetAfterSave(drawing, After::Open);
+    editor.PreviewedFile.clear();
     drawing.TitleState = 1;
     UpdateTitle(editor);
 }
@@ -82,6 +66,20 @@ void restoreText(Editor& editor, const FileText& file) {
     drawing.DrawingChanged = true;
 }
 
+DrawingParts readDevices(Drawing& tables, const Platform& platform, const std::string& path) {
+    const FileText file = readDrawingFile(*platform.files, path);
+    DrawingParts parts = splitFile(file.content, file.modified);
+    SilentDialogs silence;
+    Platform quiet = platform;
+    quiet.dialogs = &silence;
+    quiet.ReportError = [](std::string_view, const Failure&) {};
+    tables.DeviceString = std::exchange(parts.devices, {});
+    tables.ReadIncomplete = false;
+    ParseDeviceString(tables, quiet);
+    if (tables.ReadIncomplete) throw Failure{failure::TypeMismatch, "A record cannot be read."};
+    return parts;
+}
+
 void loadPictures(Editor& editor) {
     editor.img.clear();
     for (const PictureRow& row : editor.drawing.PictureTable) {
@@ -93,6 +91,7 @@ void loadPictures(Editor& editor) {
         }
         editor.platform.attempt("Load Picture", [&] {
             editor.img.back() = editor.platform.images->load(row.FullPath);
+            keepPictureFile(editor, row.FullPath);
         });
     }
 }

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <utility>
 
+#include "canvas/file/PictureFiles.h"
 #include "canvas/gestures/Gesture.h"
 #include "canvas/history/History.h"
 #include "canvas/view/Painting.h"
@@ -29,15 +30,6 @@ std::string recordableName(std::string name) {
     return name;
 }
 
-// Where the drawing keeps its pictures; "" while it has no name.
-std::string picturesFolder(const Editor& editor) {
-    const Drawing& drawing = editor.drawing;
-    if (drawing.CurrentFileName.empty()) return {};
-    return withSeparator(
-        *editor.platform.files,
-        drawing.CurrentFolder + std::string(nameWithoutExtension(drawing.CurrentFileName)));
-}
-
 // Whether another file has the name, in the drawing or in its folder: a save would leave that one's
 // content in the place of this picture's.
 bool isTaken(const Editor& editor, const std::string& name, const std::string& path) {
@@ -52,11 +44,10 @@ bool isTaken(const Editor& editor, const std::string& name, const std::string& p
 
 std::string freeName(const Editor& editor, const std::string& file, const std::string& path) {
     const std::string wanted = recordableName(file);
-    const std::string stem{nameWithoutExtension(wanted)};
-    std::string name = wanted;
-    for (int i = 2; isTaken(editor, name, path); ++i)
-        name = stem + " (" + std::to_string(i) + ")" + wanted.substr(stem.size());
-    return name;
+    int number = 1;
+    while (isTaken(editor, numberedName(wanted, number), path))
+        ++number;
+    return numberedName(wanted, number);
 }
 
 }  // namespace
@@ -93,6 +84,7 @@ void InsertPicture(Editor& editor, const std::string& folder, const std::string&
     drawing.PictureTable.push_back(std::move(row));
     ++drawing.PictureCount;
     editor.img.push_back(std::move(image));
+    keepPictureFile(editor, folder + file);
     drawing.DrawingChanged = true;
     RebuildPictureString(drawing, editor.platform);
     TakeUndoSnapshot(editor);

@@ -17,8 +17,9 @@ std::size_t sumOf(std::string_view text) {
     return std::hash<std::string_view>{}(text);
 }
 
-bool yes(const Editor& editor, const std::string& question, std::string_view title) {
-    return editor.platform.dialogs->message(question, title, Buttons::YesNo) == Answer::Yes;
+bool yes(const Editor& editor, const std::string& question, std::string_view title,
+         Buttons buttons = Buttons::YesNo) {
+    return editor.platform.dialogs->message(question, title, buttons) == Answer::Yes;
 }
 
 bool mayMakeAgain(const Editor& editor) {
@@ -36,6 +37,15 @@ bool mayReplaceChanged(const Editor& editor) {
                "File Has Changed on Disk");
 }
 
+bool mayReplaceWithPreview(const Editor& editor) {
+    return yes(editor,
+               "The preview of " + editor.PreviewedFile + " stands in the place of " +
+                   editor.drawing.CurrentFileName + ".\r\nDo you want to replace " +
+                   editor.drawing.CurrentFileName +
+                   " with what is shown now?\r\nA backup copy of it will be kept.",
+               "Drawing Replaced by a Preview", Buttons::YesNoDefaultNo);
+}
+
 bool maySaveWithoutBackup(const Editor& editor, const Failure& failure) {
     return yes(editor,
                "No backup copy of " + editor.drawing.CurrentFileName + " could be made:\r\n" +
@@ -45,17 +55,20 @@ bool maySaveWithoutBackup(const Editor& editor, const Failure& failure) {
 
 }  // namespace
 
-bool MayReplaceFile(Editor& editor, std::string_view newText) {
+bool MayReplaceFile(Editor& editor, std::string_view newText, SaveName name) {
     Files& files = *editor.platform.files;
     const Drawing& drawing = editor.drawing;
     const std::string path = drawingPath(drawing);
-    const bool isKnown = !drawing.SaveInProgress && editor.fileSeen.path == path;
+    const bool isKnown = name == SaveName::Own && editor.fileSeen.path == path;
     const auto status = files.status(path);
     if (!status) return !isKnown || mayMakeAgain(editor);
     if (status->isFolder) return true;  // no save replaces a folder: the failure tells
     try {
         const FileText former = readDrawingFile(files, path);
         if (former.content == newText || former.content.empty()) return true;
+        if (name == SaveName::Own && !editor.PreviewedFile.empty() &&
+            !mayReplaceWithPreview(editor))
+            return false;
         if (isKnown && sumOf(former.content) != editor.fileSeen.sum && !mayReplaceChanged(editor))
             return false;
         const std::string backups = BackupsOfDrawing(editor);

@@ -8,10 +8,13 @@
 
 namespace ladrix {
 
-// Asks what must be asked and keeps the backup copy. False if the file is to stay as it is. Save As
-// has asked for the name in the browser already: only a missing backup is asked about. Throws a
-// Failure where the system cannot tell what stands there.
-bool MayReplaceFile(Editor& editor, std::string_view newText);
+// The name under which a drawing is saved: its own, or one that the browser has just asked for.
+enum class SaveName { Own, Chosen };
+
+// Asks what must be asked and keeps the backup copy. False if the file is to stay as it is. A
+// chosen name has been asked about already: only a missing backup is asked about. Throws a Failure
+// where the system cannot tell what stands there.
+bool MayReplaceFile(Editor& editor, std::string_view newText, SaveName name);
 
 // The drawing's file holds this text now.
 void RememberFile(Editor& editor, std::string_view text);

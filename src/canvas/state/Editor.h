@@ -188,6 +188,11 @@ struct Editor {
 
     FileSeen fileSeen;
     BackupState backups;
+    // The file whose preview stands in the tables in the place of the drawing, until another
+    // drawing does or the drawing is saved. "": none.
+    std::string PreviewedFile;
+    // What was read of the pictures' files, by full path.
+    std::map<std::string, std::shared_ptr<const std::string>, std::less<>> KeptPictureFiles;
 
     // What the open dialog of the description holds.
     struct {
