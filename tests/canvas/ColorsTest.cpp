@@ -2,6 +2,7 @@
 // one step of the history.
 #include "canvas/gestures/Gesture.h"
 #include "canvas/history/History.h"
+#include "canvas/labels/LabelCommands.h"
 #include "canvas/tools/Colors.h"
 #include "canvas/tools/LineWidth.h"
 
@@ -50,7 +51,7 @@ struct ColorsTest : testing::Test, RestyleBench {};
 TEST(Colour, GoesToTheSelectedDevicesAndToLabelsWhenTheyTakeColour) {
     for (const bool labelsToo : {false, true}) {
         RestyleBench bench;
-        bench.editor.LabelColorOn = labelsToo;
+        if (labelsToo) mnuOptionLabelColor_Click(bench.editor);
         bench.editor.form.lblColor = {Red, Blue};
         cmdColors_Click(bench.editor);
         EXPECT_TRUE(bench.editor.form.picColors.Visible);

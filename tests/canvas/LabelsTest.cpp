@@ -2,6 +2,7 @@
 #include "canvas/labels/Labels.h"
 
 #include "Bench.h"
+#include "canvas/labels/LabelCommands.h"
 
 namespace ladrix::test {
 namespace {
@@ -50,13 +51,19 @@ TEST_F(LabelsTest, AttachedLabelComesToLabelledDevicesOnlyAndOnlyWhileTheOptionI
     play("tool Fuse; click 3 3");
     EXPECT_THAT(labels(), IsEmpty());
     EXPECT_FALSE(drawing.LabelPending || editor.form.picText.Visible);
-    editor.LabelColorOn = editor.AddSpace = drawing.AttachLabels = true;
+    mnuOptionLabelColor_Click(editor);
+    editor.AddSpace = drawing.AttachLabels = true;
     editor.CurrentColor = 255;
     editor.SymbolScaleX = 2;
     editor.SymbolScaleY = 0.5f;
     play("click 1 3");
     EXPECT_EQ(drawing.labels.LabelText.at(0), "FU ");
     EXPECT_EQ(drawing.labels.LabelColor[0], 255) << "the label colour option";
+    EXPECT_TRUE(editor.form.menu[Menu::mnuOptionLabelColor].Checked);
+    mnuOptionLabelColor_Click(editor);
+    play("click 1 6");
+    EXPECT_EQ(drawing.labels.LabelColor.at(1), Black);
+    EXPECT_FALSE(editor.form.menu[Menu::mnuOptionLabelColor].Checked);
     EXPECT_FLOAT_EQ(centre(0), 1.5f);
     EXPECT_FLOAT_EQ(drawing.labels.LabelY[0], 3 - 0.125f - HalfHeight);
 }

@@ -11,6 +11,7 @@
 #include "canvas/file/DrawingCommands.h"
 #include "canvas/gestures/CopyMove.h"
 #include "canvas/gestures/Selection.h"
+#include "canvas/labels/LabelCommands.h"
 #include "canvas/labels/Labels.h"
 #include "canvas/tools/Colors.h"
 #include "canvas/tools/RadiusFields.h"
@@ -162,7 +163,7 @@ struct RandomCommands {
     void restyle() {
         pick();
         Editor& editor = bench.editor;
-        editor.LabelColorOn = below(2) == 0;
+        if (below(2) == 0) mnuOptionLabelColor_Click(editor);
         editor.form.txtRadius.Text = "0." + std::to_string(1 + below(9));
         if (below(2) == 0) cmdCircle_Click(editor);
         if (below(2) == 0) cmdDrawWidth_Click(editor, static_cast<Short>(below(2)));

@@ -101,7 +101,9 @@ void mnuOptionAddSpace_Click(Editor& editor) {
 }
 
 void mnuOptionLabelColor_Click(Editor& editor) {
-    flipOption(editor, editor.LabelColorOn, Menu::mnuOptionLabelColor);
+    const Long*& fixed = editor.drawing.FixedLabelColor;
+    fixed = fixed == nullptr ? &editor.CurrentColor : nullptr;
+    editor.form.menu[Menu::mnuOptionLabelColor].Checked = fixed != nullptr;
 }
 
 }  // namespace ladrix

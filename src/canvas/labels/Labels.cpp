@@ -74,7 +74,7 @@ Short recordCentredLabel(Editor& editor, std::string_view text, Single x, Single
     label.text = text;
     label.x = corner.x;
     label.y = corner.y;
-    label.color = editor.LabelColorOn ? editor.CurrentColor : color;
+    label.color = color;
     label.fontName = font.name;
     label.fontSize = font.size;
     label.bold = font.bold;

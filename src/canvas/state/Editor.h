@@ -161,7 +161,7 @@ struct Editor {
 
     // Text and selection.
     bool TextBoxFocused = false;
-    bool AutoIncrement = false, AddSpace = false, LabelColorOn = false;
+    bool AutoIncrement = false, AddSpace = false;
     Short LastSelectedLabel = -1;  // the one label that is selected; -1: none or several
     Short SelectedCount = 0, SelectedDeviceCount = 0, SelectedLabelCount = 0;
     Short SelectedPicture = -1;  // the last one selected

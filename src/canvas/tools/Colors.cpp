@@ -30,7 +30,8 @@ void recolorSelection(Editor& editor, Long color) {
     for (std::size_t i = 0; i < devices.DeviceSelected.size(); ++i)
         if (devices.DeviceSelected[i] != 0) devices.DeviceColor[i] = color;
     LabelTable& labels = editor.drawing.labels;
-    for (std::size_t i = 0; editor.LabelColorOn && i < labels.LabelSelected.size(); ++i)
+    const bool labelsToo = editor.drawing.FixedLabelColor != nullptr;
+    for (std::size_t i = 0; labelsToo && i < labels.LabelSelected.size(); ++i)
         if (labels.LabelSelected[i] != 0) labels.LabelColor[i] = color;
     recordStep(editor);
 }

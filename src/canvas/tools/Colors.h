@@ -12,7 +12,7 @@ void cmdColors_Click(Editor& editor);  // opens the panel
 
 // A cell of the panel, or the present colour. It becomes the colour of new items and, where a
 // change of it is pending, the selection colour. With a selection it is given to the selected
-// devices, and to the selected labels while LabelColorOn, and the editor is reset.
+// devices, and to the selected labels while new ones take it, and the editor is reset.
 void lblColor_Click(Editor& editor, std::size_t index);
 void picSelectedColor_Click(Editor& editor);
 
