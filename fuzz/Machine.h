@@ -41,7 +41,8 @@ class RefusingFiles : public Files {
     void copy(const std::string&, const std::string&) override { std::abort(); }
     void remove(const std::string&) override { std::abort(); }
     void rename(const std::string&, const std::string&) override { std::abort(); }
-    void makeFolder(const std::string&) override { std::abort(); }
+    void makeFolder(const std::string&, bool) override { std::abort(); }
+    FolderOwner ownerOf(const std::string&) override { std::abort(); }
     void removeFolder(const std::string&) override { std::abort(); }
     bool writable(const std::string&) override { std::abort(); }
 };

@@ -13,6 +13,7 @@ Program::Program(Platform& machine) : platform(machine), editor(machine) {
     platform.ReportError = [this](std::string_view description, const Failure& failure) {
         ReportError(*this, description, failure);
     };
+    platform.files->ReportError = platform.ReportError;
     editor.symbols.BeginLabel = [this](std::string_view prefix, Single x, Single y) {
         BeginLabel(editor, prefix, x, y);
     };

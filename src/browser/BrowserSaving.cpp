@@ -87,7 +87,7 @@ void makeFolder(FileBrowser& browser, Editor& editor, const std::string& name,
     guarded(browser, editor, "New Folder", [&] {
         Files& files = *editor.platform.files;
         const std::string& folder = browser.BrowserFolder;
-        if (FolderExists(files, folder, name) || FileExists(files, folder, name))
+        if (FileExists(files, folder, name) || FolderExists(files, folder, name))
             return editor.platform.tell(taken, title);
         files.makeFolder(folder + name);
         if (browser.FileBrowserMode == BrowserMode::Folder) txtSaveAs_Change(browser, "");

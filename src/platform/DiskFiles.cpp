@@ -31,11 +31,17 @@ std::string lastPart(const std::string& path) {
     return path.substr(path.rfind(Separator) + 1);
 }
 
-// What a failure calls the file, or the folder with its separator at the end.
-std::string nameOf(std::string path) {
+// Of a folder with its separator at the end.
+std::string withoutEnd(std::string path) {
     while (path.size() > 1 && path.back() == Separator)
         path.pop_back();
-    return path.size() > 1 ? lastPart(path) : path;
+    return path;
+}
+
+// What a failure calls the file, or the folder with its separator at the end.
+std::string nameOf(const std::string& path) {
+    const std::string whole = withoutEnd(path);
+    return whole.size() > 1 ? lastPart(whole) : whole;
 }
 
 // With the separator at its end; "./" of a bare name.
@@ -155,8 +161,15 @@ void closeChecked(Descriptor& file, const std::string& path) {
     if (!file.close()) refuse(path, errno);
 }
 
+bool anyoneMayWrite(const std::string& nativeFolder) {
+    struct stat info {};
+    return stat(nativeFolder.c_str(), &info) == 0 && (info.st_mode & S_IWOTH);
+}
+
+enum class Links { All, NoneThatAnyoneCanMake };
+
 // The file that a chain of symbolic links ends at; it need not exist.
-std::string linkTarget(std::string native, const std::string& path) {
+std::string linkTarget(std::string native, const std::string& path, Links followed) {
     constexpr int mostLinks = 40;
     for (int links = 0;; ++links) {
         struct stat info {};
@@ -165,6 +178,9 @@ std::string linkTarget(std::string native, const std::string& path) {
         if (!exists && errno != ENOENT) refuse(path, errno);
         if (!exists || !S_ISLNK(info.st_mode)) return native;
         if (links == mostLinks) refuse(path, ELOOP);
+        if (followed == Links::NoneThatAnyoneCanMake && anyoneMayWrite(folderOf(native))) {
+            refuse(path, failure::PermissionDenied, "A link in a folder that anyone may write to");
+        }
         std::string target(4096, '\0');
         const ssize_t length = readlink(native.c_str(), target.data(), target.size());
         if (length < 0) refuse(path, errno);
@@ -266,6 +282,16 @@ void flushFolder(const std::string& target, const std::string& path) {
         if (!unsupported) refuse(path, errno);
     }
     closeChecked(folder, path);
+}
+
+// The new name stands whether or not this succeeds.
+void flushRenamed(const std::string& from, const std::string& to) {
+    try {
+        flushFolder(to, to);
+        if (folderOf(from) != folderOf(to)) flushFolder(from, from);
+    } catch (const Failure&) {
+        // At worst a power cut brings the old name back.
+    }
 }
 
 std::string sizeText(std::uintmax_t bytes) {
@@ -383,7 +409,7 @@ std::string DiskFiles::read(const std::string& path, std::uintmax_t limit) {
 }
 
 void DiskFiles::replace(const std::string& path, std::string_view content, bool ownerOnly) {
-    const std::string target = linkTarget(nativePath(path), path);
+    const std::string target = linkTarget(nativePath(path), path, Links::All);
     struct stat old {};
     const bool exists = stat(target.c_str(), &old) == 0;
     if (!exists && errno != ENOENT) refuse(path, errno);
@@ -405,14 +431,15 @@ void DiskFiles::replace(const std::string& path, std::string_view content, bool 
 }
 
 void DiskFiles::append(const std::string& path, std::string_view content) {
-    const std::string native = nativePath(path);
+    const std::string native = linkTarget(nativePath(path), path, Links::NoneThatAnyoneCanMake);
     struct stat old {};
-    if (stat(native.c_str(), &old) == 0 && S_ISREG(old.st_mode) && !(old.st_mode & S_IWUSR)) {
-        if (chmod(native.c_str(), (old.st_mode & Permissions) | S_IWUSR) != 0) refuse(path, errno);
+    if (lstat(native.c_str(), &old) == 0 && S_ISREG(old.st_mode) && !(old.st_mode & S_IWUSR)) {
+        const mode_t mode = (old.st_mode & Permissions) | S_IWUSR;
+        if (fchmodat(AT_FDCWD, native.c_str(), mode, AT_SYMLINK_NOFOLLOW) != 0) refuse(path, errno);
     }
     Descriptor file(uninterrupted([&] {
-        return open(native.c_str(), O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC | O_NONBLOCK,
-                    PermissionsOfNew);
+        constexpr int flags = O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC | O_NONBLOCK | O_NOFOLLOW;
+        return open(native.c_str(), flags, PermissionsOfNew);
     }));
     if (!file) refuse(path, errno);
     const off_t length = regularFile(file, path).st_size;
@@ -447,16 +474,35 @@ void DiskFiles::rename(const std::string& from, const std::string& to) {
     struct stat info {};
     if (lstat(nativeFrom.c_str(), &info) != 0) refuse(from, errno);
     if (lstat(nativeTo.c_str(), &info) == 0) refuse(to, EEXIST);
-    if (renameat2(AT_FDCWD, nativeFrom.c_str(), AT_FDCWD, nativeTo.c_str(), RENAME_NOREPLACE) ==
+    if (renameat2(AT_FDCWD, nativeFrom.c_str(), AT_FDCWD, nativeTo.c_str(), RENAME_NOREPLACE) !=
         0) {
-        return;
+        const bool unsupported = errno == EINVAL || errno == ENOSYS;
+        if (!unsupported || ::rename(nativeFrom.c_str(), nativeTo.c_str()) != 0) refuse(to, errno);
     }
-    const bool unsupported = errno == EINVAL || errno == ENOSYS;
-    if (!unsupported || ::rename(nativeFrom.c_str(), nativeTo.c_str()) != 0) refuse(to, errno);
+    flushRenamed(withoutEnd(nativeFrom), withoutEnd(nativeTo));
 }
 
-void DiskFiles::makeFolder(const std::string& path) {
-    if (mkdir(nativePath(path).c_str(), Permissions) != 0) refuse(path, errno);
+void DiskFiles::makeFolder(const std::string& path, bool ownerOnly) {
+    const std::string native = withoutEnd(nativePath(path));
+    if (mkdir(native.c_str(), ownerOnly ? OwnerOnly : Permissions) != 0) refuse(path, errno);
+    try {
+        flushFolder(native + Separator, path);
+        flushFolder(native, path);
+    } catch (const Failure&) {
+        rmdir(native.c_str());
+        throw;
+    }
+}
+
+FolderOwner DiskFiles::ownerOf(const std::string& folder) {
+    struct stat info {};
+    if (lstat(withoutEnd(nativePath(folder)).c_str(), &info) != 0) {
+        if (errno == ENOENT) return FolderOwner::Nobody;
+        refuse(folder, errno);
+    }
+    const bool isOwn =
+        S_ISDIR(info.st_mode) && info.st_uid == geteuid() && !(info.st_mode & (S_IWGRP | S_IWOTH));
+    return isOwn ? FolderOwner::User : FolderOwner::Others;
 }
 
 void DiskFiles::removeFolder(const std::string& path) {

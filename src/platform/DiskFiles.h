@@ -19,7 +19,8 @@ class DiskFiles final : public Files {
     void copy(const std::string& from, const std::string& to) override;
     void remove(const std::string& path) override;
     void rename(const std::string& from, const std::string& to) override;
-    void makeFolder(const std::string& path) override;
+    void makeFolder(const std::string& path, bool ownerOnly) override;
+    FolderOwner ownerOf(const std::string& folder) override;
     void removeFolder(const std::string& path) override;
     bool writable(const std::string& folder) override;
 };

@@ -41,7 +41,21 @@ bool FileExists(Files& files, const std::string& folder, std::string_view name) 
 }
 
 bool FolderExists(Files& files, const std::string& parent, std::string_view name) {
-    return hasEntry(files, parent, name, true);
+    try {
+        return hasEntry(files, parent, name, true);
+    } catch (const Failure& failure) {
+        // The parent is read as a whole, so that no entry is being looked at when it fails.
+        files.ReportError("Error encountered during Folder check. Folder Check: MySearchPath = " +
+                              parent + ": MyFolderName = " + std::string(name) + ": MyTestName = ",
+                          failure);
+        return false;
+    }
+}
+
+std::string pathIn(const std::string& folder, std::string_view name) {
+    if (folder.empty())
+        throw Failure{failure::PathNotFound, std::string(name) + ": There is no folder for it"};
+    return folder + std::string(name);
 }
 
 std::string withSeparator(const Files& files, std::string folder) {

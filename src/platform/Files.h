@@ -5,6 +5,7 @@
 
 #include <chrono>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -27,9 +28,17 @@ struct FileEntry {
 // A drawing or other document larger than this is refused.
 constexpr std::uintmax_t LargestDocument = 64u * 1024 * 1024;
 
+// Whose a folder is: the user's own is no link, belongs to them, and nobody else may write to it.
+enum class FolderOwner { Nobody /* there is nothing of the name */, User, Others };
+
 class Files {
   public:
     virtual ~Files() = default;
+
+    // The shared failure report, for a question that is answered with no where it cannot be
+    // answered; set by the program at start.
+    std::function<void(std::string_view description, const Failure& failure)> ReportError =
+        [](std::string_view, const Failure&) {};
 
     virtual char separator() const = 0;
 
@@ -50,15 +59,19 @@ class Files {
                          bool ownerOnly = false) = 0;
 
     // Adds to the end, creating the file where there is none; clears a read-only mark first.
+    // Refuses to follow a link that stands in a folder anyone may write to.
     virtual void append(const std::string& path, std::string_view content) = 0;
 
     // By the rules of replace.
     virtual void copy(const std::string& from, const std::string& to) = 0;
     // Of a file; a read-only mark does not keep it. A missing file is an error.
     virtual void remove(const std::string& path) = 0;
-    // Refuses if there is something of the new name.
+    // Refuses if there is something of the new name. Flushed as far as the system lets.
     virtual void rename(const std::string& from, const std::string& to) = 0;
-    virtual void makeFolder(const std::string& path) = 0;    // one level; existing is an error
+    // One level; existing is an error. Flushed with its parent: what is written into it next cannot
+    // outlive it. `ownerOnly` lets nobody else in.
+    virtual void makeFolder(const std::string& path, bool ownerOnly = false) = 0;
+    virtual FolderOwner ownerOf(const std::string& folder) = 0;
     virtual void removeFolder(const std::string& path) = 0;  // an empty one
     virtual bool writable(const std::string& folder) = 0;
 
@@ -71,9 +84,13 @@ class Files {
 // if there is no such folder; throws where it cannot be read.
 bool FileExists(Files& files, const std::string& folder, std::string_view name);
 
-// A sub-folder of this name, ignoring case, is in the parent. Throws where the parent cannot be
-// read.
+// A sub-folder of this name, ignoring case, is in the parent. A parent that cannot be read is
+// reported, and the answer is no.
 bool FolderExists(Files& files, const std::string& parent, std::string_view name);
+
+// The file's path. Throws where the folder is not known: a bare name would be a file in whatever
+// folder the program was started from.
+std::string pathIn(const std::string& folder, std::string_view name);
 
 // `folder` with the separator at its end, and only one.
 std::string withSeparator(const Files& files, std::string folder);

@@ -189,6 +189,55 @@ TEST_F(DiskFilesTest, AppendingAddsToTheEndAndClearsAReadOnlyMark) {
     EXPECT_EQ(modeOf("Error Log.txt"), 0644u);
 }
 
+TEST_F(DiskFilesTest, AppendingFollowsNoLinkThatAnyoneCouldHaveMade) {
+    folder.makeFolder("own");
+    folder.makeFolder("open");
+    setMode("open", 01777);
+    link(toUtf8(folder / "target"), "own/link");
+    link(toUtf8(folder / "target"), "open/link");
+    link(toUtf8(folder / "none"), "open/dangling");
+    link("../open/link", "own/by way of open");
+    for (const char* name : {"open/link", "open/dangling", "own/by way of open"}) {
+        folder.write("target", "mine");
+        setMode("target", 0444);
+        const std::optional<Failure> failure = failureOf([&] { files.append(folder / name, "x"); });
+        ASSERT_TRUE(failure) << name;
+        EXPECT_EQ(failure->number, failure::PermissionDenied) << failure->text;
+        EXPECT_EQ(folder.read("target"), "mine") << name;
+        EXPECT_EQ(modeOf("target"), 0444u) << name;
+        files.remove(folder / "target");
+    }
+    EXPECT_FALSE(folder.has("none"));
+    for (const char* name : {"own/link", "open/file"}) {
+        files.append(folder / name, "one");
+        files.append(folder / name, "two");
+        EXPECT_EQ(folder.read(name), "onetwo") << name;
+    }
+}
+
+TEST_F(DiskFilesTest, AFolderIsTheUsersOwnWhereNobodyElseCanChangeIt) {
+    files.makeFolder(folder / "private/", true);
+    EXPECT_EQ(modeOf("private"), 0700u);
+    folder.write("file", "");
+    link("private", "link");
+    link("nowhere", "dangling");
+    const std::pair<const char*, mode_t> modes[] = {
+        {"tight", 0755}, {"of the group", 0775}, {"open", 0757}, {"sticky", 01777}};
+    for (const auto& [name, mode] : modes) {
+        folder.makeFolder(name);
+        setMode(name, mode);
+    }
+    for (const char* name : {"private", "private/", "tight"})
+        EXPECT_EQ(files.ownerOf(folder / name), FolderOwner::User) << name;
+    for (const char* name : {"of the group", "open", "sticky", "file", "link", "link/", "dangling"})
+        EXPECT_EQ(files.ownerOf(folder / name), FolderOwner::Others) << name;
+    EXPECT_EQ(files.ownerOf(folder / "none"), FolderOwner::Nobody);
+    if (geteuid() == 0) {
+        ASSERT_EQ(chown(folder.native("tight").c_str(), 65534, 0), 0);
+        EXPECT_EQ(files.ownerOf(folder / "tight"), FolderOwner::Others);
+    }
+}
+
 TEST_F(DiskFilesTest, RemovingAndRenamingLoseNothingByMistake) {
     folder.write("a.els", "a");
     folder.write("b.els", "b");
@@ -287,10 +336,10 @@ TEST_F(DiskFilesTest, FailuresTellTheNumberTheNameAndTheSystemsReason) {
          "none: No such folder"},
         {"list a file", [&] { files.list(folder / "file"); }, failure::PathNotFound,
          "file: Not a directory"},
-        {"make an existing folder", [&] { files.makeFolder(folder.path()); },
+        {"make an existing folder", [&] { files.makeFolder(folder.path(), false); },
          failure::PathFileAccess, ""},
-        {"make two levels", [&] { files.makeFolder(folder / "none/x/"); }, failure::PathNotFound,
-         "x: No such file or directory"},
+        {"make two levels", [&] { files.makeFolder(folder / "none/x/", false); },
+         failure::PathNotFound, "x: No such file or directory"},
         {"a zero byte", [&] { files.read(folder / std::string("file\0.els", 9), 1); },
          failure::PathFileAccess, "File name with a zero byte"},
     };

@@ -28,10 +28,25 @@ TEST_F(FilesTest, FilesAndFoldersExistInAnyCaseAndAreNotEachOther) {
         EXPECT_FALSE(FolderExists(files, folder.path(), name)) << name;
 }
 
-TEST_F(FilesTest, AMissingFolderHoldsNoFileButCannotBeAskedForFolders) {
+TEST_F(FilesTest, AFolderCheckThatFailsIsReportedAndAnsweredWithNo) {
+    std::vector<std::string> reports;
+    files.ReportError = [&](std::string_view description, const Failure& failure) {
+        reports.push_back(std::string(description) + "|" + failure.text);
+    };
+    folder.makeFolder("Bitmaps");
+    EXPECT_FALSE(FolderExists(files, folder / "none/", "Bitmaps"));
+    files.fail(Operation::List, {failure::PermissionDenied, "locked"});
+    EXPECT_FALSE(FolderExists(files, folder.path(), "Bitmaps"));
+    const auto report = [](const std::string& parent) {
+        return "Error encountered during Folder check. Folder Check: MySearchPath = " + parent +
+               ": MyFolderName = Bitmaps: MyTestName = |";
+    };
+    EXPECT_EQ(reports, (std::vector<std::string>{report(folder / "none/") + "none: No such folder",
+                                                 report(folder.path()) + "locked"}));
+}
+
+TEST_F(FilesTest, AMissingFolderHoldsNoFileAndALockedOneCannotBeAsked) {
     EXPECT_FALSE(FileExists(files, folder / "none/", "Demo1.els"));
-    EXPECT_EQ(failureNumber([&] { FolderExists(files, folder / "none/", "Bitmaps"); }),
-              failure::PathNotFound);
     files.fail(Operation::List, {failure::PermissionDenied, "locked"});
     EXPECT_EQ(failureNumber([&] { FileExists(files, folder.path(), "Demo1.els"); }),
               failure::PermissionDenied)

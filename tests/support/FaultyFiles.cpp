@@ -92,9 +92,9 @@ void FaultyFiles::rename(const std::string& from, const std::string& to) {
     disk_.rename(from, to);
 }
 
-void FaultyFiles::makeFolder(const std::string& path) {
+void FaultyFiles::makeFolder(const std::string& path, bool ownerOnly) {
     enter(Operation::MakeFolder, path);
-    disk_.makeFolder(path);
+    disk_.makeFolder(path, ownerOnly);
 }
 
 void FaultyFiles::removeFolder(const std::string& path) {

@@ -57,7 +57,8 @@ class FaultyFiles final : public Files {
     void copy(const std::string& from, const std::string& to) override;
     void remove(const std::string& path) override;
     void rename(const std::string& from, const std::string& to) override;
-    void makeFolder(const std::string& path) override;
+    void makeFolder(const std::string& path, bool ownerOnly) override;
+    FolderOwner ownerOf(const std::string& folder) override { return disk_.ownerOf(folder); }
     void removeFolder(const std::string& path) override;
     bool writable(const std::string& folder) override;
 
