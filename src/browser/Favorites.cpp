@@ -13,6 +13,11 @@ namespace {
 constexpr std::string_view FavoritesName = "Favorite Folders.hst";
 constexpr std::string_view LineEnd = "\r\n";
 
+bool holds(const Favorites& favorites, const std::string& folder) {
+    const auto& folders = favorites.FavoriteFolders;
+    return std::find(folders.begin(), folders.end(), folder) != folders.end();
+}
+
 void take(Favorites& favorites, std::string folder) {
     if (favorites.FavoriteCount == LargestCount)
         throw Failure{failure::Overflow, "There are too many favorite folders."};
@@ -28,6 +33,15 @@ void takeLines(Favorites& favorites, std::string_view text) {
         if (line.ends_with('\r')) line.remove_suffix(1);
         if (!line.empty()) take(favorites, std::string(line));
     }
+}
+
+// The file may be readable by now: the list then is what it holds and what was added without it.
+void readBehind(Favorites& favorites, const Editor& editor) {
+    const std::vector<std::string> added = std::move(favorites.FavoriteFolders);
+    ReadFavorites(favorites, editor);
+    favorites.FavoritesChanged = true;
+    for (const std::string& folder : added)
+        if (!holds(favorites, folder)) take(favorites, folder);
 }
 
 void enableButtons(FavoritesForm& form) {
@@ -58,20 +72,28 @@ void moveSelected(FavoritesForm& form, Favorites& favorites, int by) {
 }  // namespace
 
 void ReadFavorites(Favorites& favorites, const Editor& editor) {
-    favorites = {};
-    editor.platform.attempt("Read Favorite Folders", [&] {
+    favorites.FavoriteFolders.clear();
+    favorites.FavoriteCount = 0;
+    favorites.FavoritesChanged = false;
+    const auto read = [&] {
         Files& files = *editor.platform.files;
         if (!FileExists(files, editor.AppFilePath, FavoritesName)) return;
-        takeLines(favorites, files.read(editor.AppFilePath + std::string(FavoritesName)));
-    });
+        takeLines(favorites, files.read(pathIn(editor.AppFilePath, FavoritesName)));
+    };
+    const auto tell = [&](const Failure& failure) {
+        editor.platform.ReportError("Read Favorite Folders", failure);
+    };
+    favorites.file.read(read, tell);
 }
 
 void SaveFavorites(Favorites& favorites, FileBrowser& browser, const Editor& editor) {
     editor.platform.attempt("SaveFavorite Folders", [&] {
+        if (favorites.file.hasFailed()) readBehind(favorites, editor);
+        favorites.file.requireRead();
         std::string text;
         for (const std::string& folder : favorites.FavoriteFolders)
             text.append(folder).append(LineEnd);
-        editor.platform.files->replace(editor.AppFilePath + std::string(FavoritesName), text);
+        editor.platform.files->replace(pathIn(editor.AppFilePath, FavoritesName), text);
         favorites.FavoritesChanged = false;
         browser.FileBrowserMode = BrowserMode::Drawing;
     });
@@ -80,8 +102,8 @@ void SaveFavorites(Favorites& favorites, FileBrowser& browser, const Editor& edi
 void LoadFavoriteFolders(const Favorites& favorites, FileBrowser& browser) {
     const auto& folders = favorites.FavoriteFolders;
     ComboBox& box = browser.cmbFavorites;
-    const bool keeps = std::find(folders.begin(), folders.end(), box.Text) != folders.end();
-    if (!keeps) box.Text = folders.empty() ? "No Favorite Folders Exist" : folders.front();
+    if (!holds(favorites, box.Text))
+        box.Text = folders.empty() ? "No Favorite Folders Exist" : folders.front();
     box.List = folders;
     box.Enabled = !folders.empty();
     browser.cmdGoFavorite = captioned("&Go");
@@ -96,8 +118,7 @@ void LoadFavoriteFolders(const Favorites& favorites, FavoritesForm& form) {
 }
 
 bool addFavorite(Favorites& favorites, const Editor& editor, const std::string& folder) {
-    const auto& folders = favorites.FavoriteFolders;
-    if (std::find(folders.begin(), folders.end(), folder) != folders.end()) {
+    if (holds(favorites, folder)) {
         editor.platform.tell("This folder is one of the favorites already.");
         return false;
     }

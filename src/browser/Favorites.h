@@ -7,6 +7,7 @@
 
 #include "canvas/state/Controls.h"
 #include "canvas/state/Editor.h"
+#include "platform/ReadState.h"
 
 namespace ladrix {
 
@@ -16,12 +17,15 @@ struct Favorites {
     std::vector<std::string> FavoriteFolders;  // as the user entered them, in their order
     Short FavoriteCount = 0;
     bool FavoritesChanged = false;  // the list differs from the file
+    ReadState file;
 };
 
-// Without a file the list is empty. A file that cannot be read is reported.
+// Without a file the list is empty. A file that cannot be read is reported, once for one reason,
+// and the list holds what could be read.
 void ReadFavorites(Favorites& favorites, const Editor& editor);
 
-// Writes the list and puts the browser's mode back. A failure is reported; the list stays changed.
+// Writes the list and puts the browser's mode back. A failure is reported, as is a file that still
+// cannot be read and is therefore left alone; the list stays changed.
 void SaveFavorites(Favorites& favorites, FileBrowser& browser, const Editor& editor);
 
 // Fills the browser's box, or the list of frmFavorites.

@@ -5,6 +5,21 @@
 
 namespace ladrix {
 
+namespace {
+
+// What cannot be read may yet be of use to somebody. It steps aside for the file that is restored.
+void keepUnreadable(Files& files, const std::string& folder) {
+    if (!FileExists(files, folder, PreferencesName)) return;
+    const std::string path = pathIn(folder, PreferencesName);
+    try {
+        files.read(path);
+    } catch (const Failure&) {
+        files.rename(path, pathIn(folder, UnreadableName));
+    }
+}
+
+}  // namespace
+
 void savePreferencesCopy(FileBrowser& browser, const Editor& editor, const std::string& name) {
     guarded(browser, editor, "Save a Copy of the User Preferences", [&] {
         Files& files = *editor.platform.files;
@@ -16,7 +31,7 @@ void savePreferencesCopy(FileBrowser& browser, const Editor& editor, const std::
         const BrowserPlaces& places = browser.places;
         const bool own = FileExists(files, places.DataFilesPath, PreferencesName);
         const std::string& from = own ? places.DataFilesPath : places.PrefsFolder;
-        files.copy(from + std::string(PreferencesName), browser.BrowserFolder + name);
+        files.copy(pathIn(from, PreferencesName), browser.BrowserFolder + name);
         editor.platform.tell("User Preferences Saved.");
         handOver(browser, browser.BrowserFolder, name);
     });
@@ -32,8 +47,9 @@ void restorePreferences(FileBrowser& browser, const Editor& editor) {
             "Restoration not possible. Source and destiny file are\r\n"
             "one and the same. Please browse to another location.");
     guarded(browser, editor, "Restore User Preferences", [&] {
-        editor.platform.files->copy(browser.BrowserFolder + browser.BrowserFile,
-                                    target + std::string(PreferencesName));
+        Files& files = *editor.platform.files;
+        keepUnreadable(files, target);
+        files.copy(browser.BrowserFolder + browser.BrowserFile, pathIn(target, PreferencesName));
         handOver(browser, browser.BrowserFolder, browser.BrowserFile);
     });
 }

@@ -9,6 +9,8 @@
 namespace ladrix {
 
 constexpr std::string_view PreferencesName = "UserPreferences.upf";
+// What a restore makes of preferences that cannot be read.
+constexpr std::string_view UnreadableName = "Unreadable UserPreferences.upf";
 
 // Copies the preferences to the browser's folder under this name; asks before one is replaced.
 void savePreferencesCopy(FileBrowser& browser, const Editor& editor, const std::string& name);

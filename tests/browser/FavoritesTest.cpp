@@ -121,6 +121,26 @@ TEST_F(FavoritesTest, ClosingAsksAboutChangesAndAFailedSaveKeepsThemAndTheForm) 
     EXPECT_EQ(file(), "/b/\r\n");
 }
 
+TEST_F(FavoritesTest, AListThatCannotBeReadIsToldOnceAndLeftAloneUntilItCan) {
+    list("/a/\r\n/b/\r\n");
+    fake.files.fail(Operation::Read, {failure::DeviceIO, "bad sector"}, "Favorite");
+    showBrowser();
+    showBrowser();
+    ASSERT_EQ(fake.reports.size(), 1u);
+    EXPECT_EQ(fake.reports[0].text, "bad sector");
+    cmdAddToFavorites_Click(browser, favorites, editor);
+    EXPECT_EQ(file(), "/a/\r\n/b/\r\n");
+    ASSERT_EQ(fake.reports.size(), 2u);
+    EXPECT_EQ(fake.reports[1].description, "SaveFavorite Folders");
+    EXPECT_EQ(fake.reports[1].text, "What could not be read is not written over. bad sector");
+    EXPECT_TRUE(favorites.FavoritesChanged);
+
+    fake.files.heal();
+    SaveFavorites(favorites, browser, editor);
+    EXPECT_EQ(file(), "/a/\r\n/b/\r\n" + (fake.folder / "drawings/") + "\r\n");
+    EXPECT_FALSE(favorites.FavoritesChanged);
+}
+
 TEST_F(FavoritesTest, BrowsingForAFolderLeavesTheBrowserBehindAndTheListAsTheyWere) {
     list("/a/\r\n");
     editor.drawing.SaveInProgress = true;
