@@ -1,5 +1,7 @@
 #include "app/FailureLog.h"
 
+#include <vector>
+
 #include "platform/Files.h"
 #include "platform/Numbers.h"
 
@@ -7,11 +9,12 @@ namespace ladrix {
 
 namespace {
 
-constexpr std::string_view LogName = "Error Log.txt";
+constexpr std::string_view LogName = "Error Log.txt", MessagesName = "Error Messages.txt";
+constexpr std::uintmax_t LargestLog = 1u << 30;  // it is held in memory meanwhile
 constexpr std::string_view EndOfLine = "\r\n";
 
 std::string logPath(const Program& program) {
-    return program.paths.DataFilesPath + std::string(LogName);
+    return pathIn(program.paths.DataFilesPath, LogName);
 }
 
 std::string entryOf(const Program& program, std::string_view description, const Failure& failure) {
@@ -39,12 +42,32 @@ bool logExists(Program& program) {
     return FileExists(*program.platform.files, program.paths.DataFilesPath, LogName);
 }
 
-// Puts a copy of `name` from `folder` in the base folder, in place of a former one, which stays if
-// the copy fails.
-void handOver(Program& program, const std::string& folder, const std::string& name) {
+// A file to be copied to the base folder, under its own name.
+struct HandedOver {
+    std::string name, content;
+};
+
+// The one of the base folder that has this content is left alone: it may be the original itself, by
+// whatever path that was opened.
+bool isThere(Files& files, const std::string& path, const HandedOver& file) {
+    try {
+        return files.read(path, LargestLog) == file.content;
+    } catch (const Failure&) {
+        return false;
+    }
+}
+
+// Everything is read before a former copy goes, so that what cannot be handed over stays as it was.
+void handOver(Program& program, std::vector<HandedOver> handedOver) {
     Files& files = *program.platform.files;
-    if (folder == program.paths.BasePath || !FileExists(files, folder, name)) return;
-    files.copy(folder + name, program.paths.BasePath + name);
+    const std::string& base = program.paths.BasePath;
+    std::erase_if(handedOver, [&](const HandedOver& file) {
+        return isThere(files, pathIn(base, file.name), file);
+    });
+    for (const HandedOver& file : handedOver)
+        if (files.status(base + file.name)) files.remove(base + file.name);
+    for (const HandedOver& file : handedOver)
+        files.replace(base + file.name, file.content);
 }
 
 }  // namespace
@@ -65,9 +88,16 @@ void ReportError(Program& program, std::string_view description, const Failure& 
         appendToLog(program, entry);
 }
 
+void renewErrorMessages(Program& program) {
+    Files& files = *program.platform.files;
+    const std::string path = pathIn(program.paths.BasePath, MessagesName);
+    if (files.status(path)) files.remove(path);
+    files.append(path, "");
+}
+
 void appendErrorMessage(Program& program, std::string_view lines) {
     try {
-        program.platform.files->append(program.paths.BasePath + "Error Messages.txt",
+        program.platform.files->append(pathIn(program.paths.BasePath, MessagesName),
                                        std::string(lines) + "\r\n");
     } catch (const Failure&) {
         // The diagnostics are no reason to trouble the user.
@@ -79,23 +109,30 @@ void mnuAdminViewErrorLog_Click(Program& program) {
     viewer.Caption = "Error Log";
     viewer.txtLog.clear();
     program.platform.attempt("View Error Log", [&] {
-        if (logExists(program)) viewer.txtLog = program.platform.files->read(logPath(program));
+        const std::string path = logPath(program);
+        if (logExists(program)) viewer.txtLog = program.platform.files->read(path);
     });
     viewer.Visible = true;
     program.platform.dialogs->show(Form::frmLog);
 }
 
 void frmLog_cmdExport_Click(Program& program) {
+    Files& files = *program.platform.files;
     const Drawing& drawing = program.editor.drawing;
-    try {
-        handOver(program, program.paths.DataFilesPath, std::string(LogName));
-        if (!drawing.CurrentFileName.empty())
-            handOver(program, drawing.CurrentFolder, drawing.CurrentFileName);
-    } catch (const Failure& failure) {
-        return ReportError(program, "Export Error Log", failure);
-    }
     std::string attached{LogName};
-    if (!drawing.CurrentFileName.empty()) attached += " and " + drawing.CurrentFileName;
+    const bool done = program.platform.attempt("Export Error Log", [&] {
+        if (!logExists(program)) return attached.clear();
+        std::vector<HandedOver> handedOver{{attached, files.read(logPath(program), LargestLog)}};
+        const std::string& name = drawing.CurrentFileName;
+        const std::string path = drawing.CurrentFolder + name;
+        if (!name.empty() && files.status(path)) {
+            handedOver.push_back({name, files.read(path)});
+            attached += " and " + name;
+        }
+        handOver(program, std::move(handedOver));
+    });
+    if (!done) return;
+    if (attached.empty()) return program.platform.tell("There is no error log to export.");
     program.platform.tell(
         "Error Log has been successfully exported to MyDocuments\\Ladrix\r\nPlease attach the "
         "file " +
@@ -104,9 +141,10 @@ void frmLog_cmdExport_Click(Program& program) {
 }
 
 void frmLog_cmdView_Click(Program& program) {
-    if (!program.platform.shell->open(logPath(program)))
-        ReportError(program, "View Error Log",
-                    {failure::FileNotFound, "No application could open the error log."});
+    program.platform.attempt("View Error Log", [&] {
+        if (!program.platform.shell->open(logPath(program)))
+            throw Failure{failure::FileNotFound, "No application could open the error log."};
+    });
 }
 
 void frmLog_cmdExit_Click(Program& program) {

@@ -11,10 +11,15 @@ namespace ladrix {
 // description twice in a row is only logged. Never throws: a failure to log is dropped.
 void ReportError(Program& program, std::string_view description, const Failure& failure);
 
-// Lines of the run's own diagnostics in "Error Messages.txt"; the last line end is added.
+// "Error Messages.txt", the run's own diagnostics, starts afresh; nobody needs what the last run
+// left, so nothing is flushed. Throws a Failure.
+void renewErrorMessages(Program& program);
+// Adds lines to it; the last line end is added. Never throws.
 void appendErrorMessage(Program& program, std::string_view lines);
 
 void mnuAdminViewErrorLog_Click(Program& program);
+// Copies of the log and of the drawing in the base folder, in place of former ones. What cannot be
+// read or removed stops it before anything is changed.
 void frmLog_cmdExport_Click(Program& program);
 void frmLog_cmdView_Click(Program& program);
 void frmLog_cmdExit_Click(Program& program);

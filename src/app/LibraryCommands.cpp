@@ -105,6 +105,8 @@ void offerSampleLibrary(Program& program) {
     const Paths& paths = program.paths;
     const LibraryPlace shipped{paths.AppFilePath, std::string(SampleLibrary)};
     const LibraryPlace own{paths.BasePath, std::string(SampleLibrary)};
+    // Without a data folder it could not be known whether the library has been offered before.
+    if (paths.DataFilesPath.empty()) return;
     const std::string mark = paths.DataFilesPath + own.file();
     program.platform.attempt("Copying Sample Symbols", [&] {
         if (files.status(mark) || !files.status(shipped.path())) return;
