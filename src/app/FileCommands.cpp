@@ -8,8 +8,6 @@ namespace ladrix {
 
 namespace {
 
-constexpr Single DefaultDashSpacing = 0.125f;  // inches
-
 void showBrowser(Program& program, BrowserMode mode) {
     program.frmFile.FileBrowserMode = mode;
     program.platform.dialogs->show(Form::frmFile);
@@ -28,9 +26,6 @@ void mnuOptSavePreferences_Click(Program& program) {
 void mnuOptRestorePreferences_Click(Program& program) {
     showBrowser(program, BrowserMode::RestorePreferences);
     if (!program.frmFile.Chosen) return;
-    // Where the file leaves a line empty the default is in force.
-    program.editor.DashSpacing = DefaultDashSpacing;
-    program.usersymbols.PaletteRows = DefaultPaletteRows;
     ReadUserPreferences(program);
     LayOutUserButtons(program.usersymbols, program.editor);
     program.editor.form.lblMessage.Caption = "User preferences restored.";

@@ -15,6 +15,7 @@
 #include "output/PreviewForm.h"
 #include "output/PrintDrawing.h"
 #include "platform/Platform.h"
+#include "platform/ReadState.h"
 #include "simulation/Simulation.h"
 #include "usersymbols/LibManager.h"
 #include "usersymbols/SymbolSearch.h"
@@ -66,9 +67,10 @@ struct Program {
     PreviewForm frmPreview;
     std::vector<std::string> UserPrefs;  // the lines of the preferences file
     std::string PrefsFolder;             // where they were read
-    std::string LastErrorText;           // description of the last report
-    std::string TraceText;               // the stage of the start, for reports
-    bool Ending = false;                 // the run is over; the view closes its windows
+    ReadState prefsFile;
+    std::string LastErrorText;  // description of the last report
+    std::string TraceText;      // the stage of the start, for reports
+    bool Ending = false;        // the run is over; the view closes its windows
 };
 
 }  // namespace ladrix

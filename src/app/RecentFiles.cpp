@@ -38,8 +38,7 @@ void add(std::vector<std::string>& paths, std::string path) {
         paths.push_back(std::move(path));
 }
 
-std::vector<std::string> pathsIn(const Files& files, std::string_view text) {
-    std::vector<std::string> paths;
+void addLines(std::vector<std::string>& paths, const Files& files, std::string_view text) {
     while (!text.empty()) {
         const std::size_t end = std::min(text.find('\n'), text.size());
         std::string_view line = text.substr(0, end);
@@ -47,17 +46,30 @@ std::vector<std::string> pathsIn(const Files& files, std::string_view text) {
         if (isPath(files, line)) add(paths, std::string(line));
         text.remove_prefix(std::min(end + 1, text.size()));
     }
-    return paths;
+}
+
+// What the file holds comes behind what has been opened without it.
+void readList(Program& program) {
+    RecentFiles& recent = program.recentFiles;
+    const auto read = [&] {
+        Files& files = *program.platform.files;
+        const std::string list = pathIn(program.paths.DataFilesPath, ListName);
+        if (files.status(list)) addLines(recent.paths, files, files.read(list, LargestList));
+    };
+    recent.file.read(
+        read, [&](const Failure& failure) { ReportError(program, "Read Recent Files", failure); });
 }
 
 void writeList(Program& program) {
-    const Paths& paths = program.paths;
-    if (paths.DataFilesPath.empty()) return;
+    const std::string& folder = program.paths.DataFilesPath;
+    if (folder.empty()) return;
+    if (program.recentFiles.file.hasFailed()) readList(program);
     std::string text;
     for (const std::string& path : program.recentFiles.paths)
         text.append(path).append("\r\n");
     try {
-        program.platform.files->replace(paths.DataFilesPath + std::string(ListName), text);
+        program.recentFiles.file.requireRead();
+        program.platform.files->replace(pathIn(folder, ListName), text);
     } catch (const Failure& failure) {
         appendErrorMessage(program, "Recent Files: " + failure.text);
     }
@@ -99,17 +111,11 @@ std::string withoutMnemonics(std::string_view text) {
 }  // namespace
 
 void ReadRecentFiles(Program& program) {
-    Files& files = *program.platform.files;
     for (auto entry = Menu::mnuFileRecent0; entry <= Menu::mnuFileRecent8;
          entry = static_cast<Menu>(static_cast<int>(entry) + 1))
         program.editor.form.menu[entry].Visible = false;
-    if (program.paths.DataFilesPath.empty()) return;
-    try {
-        const std::string list = program.paths.DataFilesPath + std::string(ListName);
-        program.recentFiles.paths = pathsIn(files, files.read(list, LargestList));
-    } catch (const Failure&) {
-        program.recentFiles.paths.clear();
-    }
+    program.recentFiles.paths.clear();
+    if (!program.paths.DataFilesPath.empty()) readList(program);
 }
 
 void KeepRecentFile(Program& program) {

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "platform/FileProbe.h"
+#include "platform/ReadState.h"
 
 namespace ladrix {
 
@@ -16,14 +17,16 @@ constexpr std::size_t RecentFilesKept = 9;
 struct RecentFiles {
     std::vector<std::string> paths;
     FileProbe probe;
+    ReadState file;
 };
 
-// At the start. A list that is missing, damaged or beyond all measure is an empty one, or what can
-// be read of it; nobody is bothered with that.
+// At the start. A missing list is an empty one, of a damaged one what can be read is taken. One
+// that cannot be read, or is beyond all measure, is reported.
 void ReadRecentFiles(Program& program);
 
 // The drawing's file comes first from now on. What is shipped with the program and backup copies
-// are not kept. A list that cannot be written is only noted in the diagnostics.
+// are not kept. A list that cannot be written, or still cannot be read and is therefore left alone,
+// is only noted in the diagnostics.
 void KeepRecentFile(Program& program);
 
 // "&1 Pump.els", with its folder behind a tab unless it is the user's own for drawings.

@@ -1,7 +1,9 @@
 #include "app/Startup.h"
 
-#include <filesystem>
+#include <algorithm>
+#include <vector>
 
+#include "app/CommandTable.h"
 #include "app/FailureLog.h"
 #include "app/Preferences.h"
 #include "canvas/file/DrawingCommands.h"
@@ -14,6 +16,7 @@
 #include "canvas/view/Snap.h"
 #include "canvas/view/View.h"
 #include "platform/Encoding.h"
+#include "platform/FallbackRoot.h"
 #include "usersymbols/Libraries.h"
 #include "usersymbols/UserPalette.h"
 
@@ -23,15 +26,10 @@ namespace {
 
 constexpr Single LeastScreenWidth = 14400;  // twips
 constexpr Single TallScreenHeight = 11520;  // twips
+constexpr std::string_view UnfinishedTree = ".Ladrix-unfinished";
 
 std::string specialFolder(Program& program, int number) {
     return withSeparator(*program.platform.files, program.platform.shell->specialFolder(number));
-}
-
-// The root for a machine that has no documents folder: the system's temporary folder.
-std::string fallbackRoot(Program& program) {
-    return withSeparator(*program.platform.files,
-                         fromUtf8(std::filesystem::temp_directory_path().string()));
 }
 
 void setFolderPaths(Paths& paths, char separator) {
@@ -44,32 +42,93 @@ void makeMissing(Files& files, const std::string& base, std::string_view name) {
     if (!FolderExists(files, base, name)) files.makeFolder(base + std::string(name));
 }
 
-// The crash copy of a former run is no drawing of the user's.
-void copyDrawings(Program& program, std::string_view extension) {
-    Files& files = *program.platform.files;
-    for (const FileEntry& entry : files.list(program.paths.AppFilePath)) {
-        if (entry.isFolder || extensionOf(entry.name) != extension) continue;
-        if (equalIgnoringCase(entry.name, CrashCopyName)) continue;
-        files.copy(program.paths.AppFilePath + entry.name, program.paths.DrawingsPath + entry.name);
-    }
+// Of a folder variable.
+std::string withoutSeparator(const std::string& folder) {
+    return folder.substr(0, folder.size() - 1);
 }
 
-void firstUseCopy(Program& program) {
-    program.platform.attempt("Copying Existing Drawings", [&] {
-        copyDrawings(program, ".els");
-        copyDrawings(program, ".tpl");
-    });
+bool folderExists(Files& files, const std::string& folder) {
+    const auto status = files.status(withoutSeparator(folder));
+    return status && status->isFolder;
+}
+
+// The crash copy of a former run is no drawing of the user's.
+std::vector<std::string> shippedDrawings(Program& program) {
+    std::vector<std::string> names;
+    const std::vector<FileEntry> entries = program.platform.files->list(program.paths.AppFilePath);
+    for (const std::string_view extension : {".els", ".tpl"})
+        for (const FileEntry& entry : entries)
+            if (!entry.isFolder && extensionOf(entry.name) == extension &&
+                !equalIgnoringCase(entry.name, CrashCopyName))
+                names.push_back(entry.name);
+    return names;
+}
+
+// Of any number of files, the first few by their own text.
+void reportUncopied(Program& program, const std::vector<Failure>& failures) {
+    constexpr std::size_t mostNamed = 20;
+    if (failures.empty()) return;
+    Failure all{failures.front().number, {}};
+    for (std::size_t i = 0; i < std::min(failures.size(), mostNamed); ++i)
+        all.text += (i == 0 ? "" : "\r\n") + failures[i].text;
+    if (failures.size() > mostNamed)
+        all.text += "\r\nand " + std::to_string(failures.size() - mostNamed) + " more";
+    ReportError(program, "Copying Existing Drawings", all);
+}
+
+// What a copy that was cut off has brought already is whole and stays. What cannot be copied does
+// not keep the others from it.
+std::vector<Failure> firstUseCopy(Program& program, const std::string& drawings) {
+    Files& files = *program.platform.files;
+    std::vector<Failure> failures;
+    const auto guarded = [&](const auto& step) {
+        try {
+            step();
+        } catch (const Failure& failure) {
+            failures.push_back(failure);
+        }
+    };
+    std::vector<std::string> names;
+    guarded([&] { names = shippedDrawings(program); });
+    for (const std::string& name : names)
+        guarded([&] {
+            if (!files.status(drawings + name))
+                files.copy(program.paths.AppFilePath + name, drawings + name);
+        });
+    return failures;
+}
+
+void makeSubfolders(Files& files, const std::string& base) {
+    for (const std::string_view name : {"Drawings", "Bitmaps", "Data Files"})
+        if (!files.status(base + std::string(name))) files.makeFolder(base + std::string(name));
+}
+
+// The tree takes its name when it is complete: what a kill cuts off is taken up at the next start,
+// and nothing is ever copied again into a tree that the user works with.
+std::vector<Failure> makeTreeInDocuments(Program& program) {
+    Files& files = *program.platform.files;
+    const std::string unfinished = program.paths.MyDocumentsPath + std::string(UnfinishedTree);
+    const std::string inside = unfinished + files.separator();
+    if (!folderExists(files, inside)) files.makeFolder(unfinished);
+    makeSubfolders(files, inside);
+    std::vector<Failure> failures = firstUseCopy(program, inside + "Drawings" + files.separator());
+    files.rename(unfinished, withoutSeparator(program.paths.BasePath));
+    return failures;
 }
 
 void makeNewTree(Program& program, bool inDocuments) {
     Files& files = *program.platform.files;
     Paths& paths = program.paths;
-    files.makeFolder(paths.BasePath.substr(0, paths.BasePath.size() - 1));
-    for (const std::string_view name : {"Drawings", "Bitmaps", "Data Files"})
-        files.makeFolder(paths.BasePath + std::string(name));
+    std::vector<Failure> failures;
+    if (inDocuments) {
+        failures = makeTreeInDocuments(program);
+    } else {
+        files.makeFolder(withoutSeparator(paths.BasePath), /*ownerOnly=*/true);
+        makeSubfolders(files, paths.BasePath);
+    }
     setFolderPaths(paths, files.separator());
-    if (inDocuments) firstUseCopy(program);
     paths.FirstRun = true;
+    reportUncopied(program, failures);
 }
 
 void completeTree(Program& program, bool inDocuments) {
@@ -89,11 +148,6 @@ void setUserLibraryPaths(Paths& paths, char separator) {
     paths.UserLibraryFile = "User Symbols.lib";
     paths.UserLibraryParentFolder = paths.BasePath;
     paths.UserLibraryFolder = paths.BasePath + "User Symbols" + separator;
-}
-
-bool folderExists(Files& files, const std::string& path) {
-    const auto status = files.status(path.substr(0, path.size() - 1));
-    return status && status->isFolder;
 }
 
 void settleProgramFolder(Program& program) {
@@ -119,14 +173,6 @@ void shareWithEditor(Program& program) {
     editor.UserLibraryName = paths.UserLibraryName;
     editor.drawing.TempFolder = paths.AppFilePath;
     editor.drawing.CurrentFolder = paths.DrawingsPath;
-}
-
-// The run's diagnostics start afresh; nobody needs what the last run left, so nothing is flushed.
-void renewErrorMessages(Program& program) {
-    Files& files = *program.platform.files;
-    const std::string path = program.paths.BasePath + "Error Messages.txt";
-    if (files.status(path)) files.remove(path);
-    files.append(path, "");
 }
 
 bool screenIsLargeEnough(Program& program) {
@@ -182,6 +228,16 @@ void showPalette(Program& program) {
     LayOutUserButtons(program.usersymbols, editor);
 }
 
+// The next placement takes the place of a crash copy, so that it is told before anything else.
+void tellCrashCopy(Program& program) {
+    const std::string& folder = program.editor.drawing.TempFolder;
+    if (!FileExists(*program.platform.files, folder, CrashCopyName)) return;
+    std::string caption{command(Menu::mnuFileRestore).caption};
+    std::erase(caption, '&');
+    program.editor.form.lblMessage.Caption = "There is a crash copy of a former drawing. \"" +
+                                             caption + "\" in the File menu brings it back.";
+}
+
 // Runs one stage of the load; a failure is reported with the stage's name and the rest goes on.
 template <typename Stage>
 void runStage(Program& program, std::string_view trace, Stage&& stage) {
@@ -200,7 +256,7 @@ void settleFolders(Program& program) {
     Paths& paths = program.paths;
     settleProgramFolder(program);
     const bool inDocuments = paths.MyDocumentsPath != std::string(1, files.separator());
-    paths.BasePath = inDocuments ? paths.MyDocumentsPath : fallbackRoot(program);
+    paths.BasePath = inDocuments ? paths.MyDocumentsPath : fallbackRoot(files, "Ladrix");
     paths.BasePath += std::string("Ladrix") + files.separator();
     if (folderExists(files, paths.BasePath))
         completeTree(program, inDocuments);
@@ -221,6 +277,7 @@ bool startProgram(Program& program) {
     setUserLibraryPaths(program.paths, program.platform.files->separator());
     shareWithEditor(program);
     ReadUserPreferences(program);
+    ReadFavorites(program.favorites, program.editor);
     ReadRecentFiles(program);
     return Form_Load(program);
 }
@@ -244,6 +301,7 @@ bool Form_Load(Program& program) {
     runStage(program, "Entering PositionControls", [&] { ApplyPageLayout(editor); });
     ResetEditor(editor);
     editor.drawing.DrawingChanged = false;
+    runStage(program, "Entering CrashCopy", [&] { tellCrashCopy(program); });
     return true;
 }
 

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -38,6 +39,7 @@ struct Printing {
     bool Running = false;      // a document is being printed
     Short PrintLineWeight = DefaultLineWeight;
     std::string SessionPrinterName;
+    std::optional<Short> SessionPrinterNumber;  // as stored; the name is what counts
     bool PrinterUsed = false;  // something has been printed: the session's printer waits no longer
     // A trace of the run: reading the printer's values, setting the paper, the second attempt at
     // it, a refused value, a reported failure.

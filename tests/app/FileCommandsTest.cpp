@@ -4,7 +4,9 @@
 #include <gtest/gtest.h>
 
 #include "app/CommandTable.h"
+#include "app/PageCommands.h"
 #include "app/Startup.h"
+#include "app/UserPaletteCommands.h"
 #include "browser/BrowserFolders.h"
 #include "support/FakePlatform.h"
 #include "usersymbols/UserPalette.h"
@@ -13,6 +15,7 @@ namespace ladrix {
 namespace {
 
 using testing::ElementsAre;
+using testing::HasSubstr;
 using testing::IsEmpty;
 
 class FileCommandsTest : public testing::Test {
@@ -64,6 +67,39 @@ TEST_F(FileCommandsTest, RestoredPreferencesAreInForceAtOnce) {
     };
     runCommand(program, Menu::mnuOptRestorePreferences);
     EXPECT_EQ(program.editor.DashSpacing, 0.25f) << "a cancelled restore reads nothing";
+}
+
+TEST_F(FileCommandsTest, PreferencesThatCannotBeReadAreLeftAloneUntilTheyCan) {
+    const std::string file = "documents/Ladrix/Data Files/UserPreferences.upf";
+    const std::string former = "Reserve Bit 00:precious\r\n";
+    fake.folder.write(file, former);
+    fake.files.fail(test::Operation::Read, {failure::DeviceIO, "bad sector"}, "Data Files/User");
+    ASSERT_TRUE(startProgram(program));
+    ASSERT_EQ(fake.dialogs.boxes.size(), 1u) << "told once";
+    EXPECT_THAT(fake.dialogs.boxes[0].text, HasSubstr("bad sector"));
+    fake.dialogs.inputAnswers = {"0.25"};
+    runCommand(program, Menu::mnuOptDashedLineConstant);
+    program.usersymbols.frmUBRows.cmbRows.Text = "30";
+    frmUBRows_cmdSave_Click(program);
+    cmdDefaultPrinter_Click(program);
+    EXPECT_EQ(fake.folder.read(file), former);
+    EXPECT_FALSE(fake.folder.has("program/Temp_UserPreferences.upf"));
+    EXPECT_EQ(program.editor.DashSpacing, 0.25f) << "for this run";
+    ASSERT_GE(fake.dialogs.boxes.size(), 2u);
+    EXPECT_THAT(fake.dialogs.boxes[1].text,
+                HasSubstr("What could not be read is not written over. bad sector"));
+
+    // A restore puts another file there; what could not be read is kept beside it.
+    fake.folder.write("stick/UserPreferences.upf", "Reserve Bit 00:restored\r\n");
+    choose(fake.folder / "stick/", "UserPreferences.upf");
+    runCommand(program, Menu::mnuOptRestorePreferences);
+    EXPECT_EQ(fake.folder.read(file), "Reserve Bit 00:restored\r\n");
+    EXPECT_EQ(fake.folder.read("documents/Ladrix/Data Files/Unreadable UserPreferences.upf"),
+              former);
+    fake.files.heal();
+    frmUBRows_cmdSave_Click(program);
+    EXPECT_TRUE(fake.folder.read(file).starts_with("Reserve Bit 00:restored\r\nReserve Bit 01:"));
+    EXPECT_TRUE(fake.folder.read(file).ends_with("Reserve Bit 25:30\r\n"));
 }
 
 TEST_F(FileCommandsTest, APictureIsLookedForInTheUsersPicturesAtFullScaleOnly) {

@@ -84,17 +84,40 @@ TEST_F(FileMenuTest, ADamagedListIsReadAsFarAsItGoesAndAHugeOneNotAtAll) {
     fake.folder.write(list, noise + path + "\r\n/tmp/\r\n" + path);
     start();
     EXPECT_THAT(program->recentFiles.paths, ElementsAre(path));
-    fake.folder.write(list, std::string(70000, '/') + path);
+    const std::string huge = std::string(70000, '/') + path;
+    fake.folder.write(list, huge);
     restart();
     EXPECT_THAT(program->recentFiles.paths, IsEmpty());
-    fake.files.fail(Operation::Read, {failure::PermissionDenied, "no"}, "Recent");
-    fake.files.fail(Operation::Replace, {failure::PermissionDenied, "no"}, "Recent");
-    restart();
+    ASSERT_EQ(fake.dialogs.boxes.size(), 1u);
+    EXPECT_THAT(fake.dialogs.boxes[0].text, HasSubstr("Recent Files.txt: Larger than 65536 bytes"));
     open("documents/Ladrix/Drawings/", "A.els");
-    EXPECT_THAT(recent(), ElementsAre("&1 A.els"));
-    EXPECT_THAT(fake.dialogs.boxes, IsEmpty());
+    EXPECT_EQ(fake.folder.read(list), huge);
+}
+
+TEST_F(FileMenuTest, AListThatCannotBeReadIsToldOnceAndLeftAloneUntilItCan) {
+    const std::string own = "documents/Ladrix/Drawings/",
+                      former = fake.folder / (own + "former.els");
+    fake.folder.write(list, former + "\r\n");
+    fake.files.fail(Operation::Read, {failure::PermissionDenied, "no"}, "Recent");
+    start();
+    open(own, "A.els");
+    open(own, "B.els");
+    EXPECT_THAT(program->recentFiles.paths,
+                ElementsAre(fake.folder / (own + "B.els"), fake.folder / (own + "A.els")));
+    EXPECT_EQ(fake.folder.read(list), former + "\r\n");
+    ASSERT_EQ(fake.dialogs.boxes.size(), 1u);
+    EXPECT_THAT(fake.dialogs.boxes[0].text, HasSubstr("Error Description: no"));
     EXPECT_THAT(fake.folder.read("documents/Ladrix/Error Messages.txt"),
-                HasSubstr("Recent Files: no"));
+                HasSubstr("Recent Files: What could not be read is not written over. no"));
+    fake.files.heal();
+    open(own, "A.els");
+    EXPECT_EQ(fake.folder.read(list), fake.folder / (own + "A.els") + "\r\n" + fake.folder.path() +
+                                          own + "B.els\r\n" + former + "\r\n");
+    fake.files.fail(Operation::Replace, {failure::DiskFull, "full"}, "Recent");
+    open(own, "B.els");
+    EXPECT_THAT(fake.folder.read("documents/Ladrix/Error Messages.txt"),
+                HasSubstr("Recent Files: full"));
+    EXPECT_EQ(fake.dialogs.boxes.size(), 1u);
 }
 
 TEST_F(FileMenuTest, LongPathsAreCutBetweenFoldersAndNeverInACharacter) {

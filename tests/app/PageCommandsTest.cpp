@@ -38,17 +38,9 @@ TEST_F(PageCommandsTest, TheDefaultPrinterOutlivesTheRun) {
     Program next(fake.platform);
     ASSERT_TRUE(startProgram(next));
     EXPECT_EQ(next.printing.SessionPrinterName, "Office");
+    EXPECT_EQ(next.printing.SessionPrinterNumber, 0);
     EXPECT_EQ(next.printing.PrintLineWeight, 4);
     EXPECT_EQ(next.editor.symbols.PrinterLineWidth, 4);
-}
-
-TEST_F(PageCommandsTest, AnEmptyOrAbsurdLineWeightIsBroughtIntoItsRange) {
-    const std::pair<const char*, int> values[] = {{"", 2}, {"6", 6}, {"400", 6}, {"-3", 1}};
-    for (const auto& [value, weight] : values) {
-        StoreSetting(program, Setting::PrintLineWeight, value);
-        ReadUserPreferences(program);
-        EXPECT_EQ(program.printing.PrintLineWeight, weight) << value;
-    }
 }
 
 TEST_F(PageCommandsTest, ExportWritesTheDrawingInTheFormatOfTheNameAndKeepsTheFormerFileOnFailure) {
