@@ -35,6 +35,7 @@ class RefusingFiles : public Files {
     char separator() const override { return '/'; }
     std::vector<FileEntry> list(const std::string&) override { std::abort(); }
     std::optional<FileEntry> status(const std::string&) override { std::abort(); }
+    bool isLink(const std::string&) override { std::abort(); }
     std::string read(const std::string&, std::uintmax_t) override { std::abort(); }
     void replace(const std::string&, std::string_view, bool) override { std::abort(); }
     void append(const std::string&, std::string_view) override { std::abort(); }

@@ -381,6 +381,13 @@ std::optional<FileEntry> DiskFiles::status(const std::string& path) {
     refuse(path, errno);
 }
 
+bool DiskFiles::isLink(const std::string& path) {
+    struct stat info {};
+    if (lstat(nativePath(path).c_str(), &info) == 0) return S_ISLNK(info.st_mode);
+    if (errno == ENOENT || errno == ENOTDIR || errno == ENAMETOOLONG) return false;
+    refuse(path, errno);
+}
+
 std::string DiskFiles::read(const std::string& path, std::uintmax_t limit) {
     const Descriptor file = openExisting(nativePath(path), O_RDONLY);
     if (!file) refuse(path, errno);

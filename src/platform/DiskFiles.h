@@ -13,6 +13,7 @@ class DiskFiles final : public Files {
     std::vector<FileEntry> list(const std::string& folder) override;
     std::vector<std::string> fileNames(const std::string& folder) override;
     std::optional<FileEntry> status(const std::string& path) override;
+    bool isLink(const std::string& path) override;
     std::string read(const std::string& path, std::uintmax_t limit) override;
     void replace(const std::string& path, std::string_view content, bool ownerOnly) override;
     void append(const std::string& path, std::string_view content) override;

@@ -48,6 +48,10 @@ class Files {
     // nullopt if there is nothing of that name. Follows links. Throws only if it cannot tell.
     virtual std::optional<FileEntry> status(const std::string& path) = 0;
 
+    // The name itself is a symbolic link, wherever it leads. False if there is nothing of that
+    // name.
+    virtual bool isLink(const std::string& path) = 0;
+
     // The whole file as bytes. Refuses what is not a regular file, and more than `limit` bytes.
     virtual std::string read(const std::string& path, std::uintmax_t limit = LargestDocument) = 0;
 
@@ -64,7 +68,8 @@ class Files {
 
     // By the rules of replace.
     virtual void copy(const std::string& from, const std::string& to) = 0;
-    // Of a file; a read-only mark does not keep it. A missing file is an error.
+    // Of a file or a link, which is not followed; a read-only mark does not keep it. A missing file
+    // is an error.
     virtual void remove(const std::string& path) = 0;
     // Refuses if there is something of the new name. Flushed as far as the system lets.
     virtual void rename(const std::string& from, const std::string& to) = 0;

@@ -112,15 +112,21 @@ TEST_F(DiskFilesTest, ASymbolicLinkStaysAndWhatItPointsToIsReplaced) {
     files.replace(folder / "mine/dangling", "made", false);
     EXPECT_EQ(folder.read("shared/Demo.els"), "new");
     EXPECT_EQ(folder.read("shared/later.els"), "made");
-    for (const char* name : {"mine/first", "mine/second", "mine/dangling"}) {
-        EXPECT_TRUE(std::filesystem::is_symlink(folder.native(name))) << name;
+    link("../shared", "mine/folder");
+    for (const char* name :
+         {"mine/first", "mine/second", "mine/dangling", "mine/circle", "mine/folder"}) {
+        EXPECT_TRUE(files.isLink(folder / name)) << name;
     }
+    for (const char* name : {"shared", "shared/Demo.els", "mine/nothing", "shared/Demo.els/below"})
+        EXPECT_FALSE(files.isLink(folder / name)) << name;
     EXPECT_EQ(failureNumber([&] { files.replace(folder / "mine/circle", "x", false); }),
               failure::PathFileAccess);
     EXPECT_EQ(folder.entries("shared"), (Names{"Demo.els", "later.els"}));
 
     files.remove(folder / "mine/second");
+    files.remove(folder / "mine/folder");
     EXPECT_EQ(folder.read("shared/Demo.els"), "new") << "only the link is removed";
+    EXPECT_FALSE(files.isLink(folder / "mine/second") || files.isLink(folder / "mine/folder"));
 }
 
 TEST_F(DiskFilesTest, ReplacingRemovesWhatAKilledRunLeftBesideTheFile) {

@@ -62,6 +62,11 @@ std::optional<FileEntry> FaultyFiles::status(const std::string& path) {
     return disk_.status(path);
 }
 
+bool FaultyFiles::isLink(const std::string& path) {
+    enter(Operation::Status, path);
+    return disk_.isLink(path);
+}
+
 std::string FaultyFiles::read(const std::string& path, std::uintmax_t limit) {
     enter(Operation::Read, path);
     return disk_.read(path, limit);
