@@ -169,9 +169,9 @@ void loadManagerSource(LibManager& manager, const UserSymbols& symbols, Editor& 
         !FileExists(files, manager.ManagerParentFolder, manager.ManagerSourceFile) ||
         !FolderExists(files, manager.ManagerParentFolder, manager.ManagerSourceName);
     if (!manager.ManagerSourceMissing) {
-        finishWrites(files, manager.ManagerSourceFolder);
-        manager.ManagerSourceLines =
-            readList(files, {manager.ManagerParentFolder, manager.ManagerSourceName});
+        const LibraryPlace source{manager.ManagerParentFolder, manager.ManagerSourceName};
+        finishLibraryWrites(symbols, files, source);
+        manager.ManagerSourceLines = readList(files, source);
         loadManagerSymbols(manager, symbols, editor.platform);
     }
     layOutButtons(manager, symbols);

@@ -5,6 +5,7 @@
 #include "platform/Encoding.h"
 #include "platform/Numbers.h"
 #include "usersymbols/Libraries.h"
+#include "usersymbols/RemovedSymbols.h"
 #include "usersymbols/UserPalette.h"
 
 namespace ladrix {
@@ -229,7 +230,8 @@ void mnuFileDelete_Click(LibManager& manager, UserSymbols& symbols, Editor& edit
                                   "Preparing to Delete Current Library", Buttons::YesNo);
     if (answer != Answer::Yes) return;
     changeSource(manager, symbols, editor, "Delete User Library", [&] {
-        removeLibrary(*platform.files, sourceOf(manager));
+        removeLibrary(*platform.files, removalsFolder(*platform.files, editor.BasePath),
+                      sourceOf(manager));
         resetTool(editor);
         selectLibrary(symbols, editor, editor.BasePath, DefaultLibraryFile);
         selectManagerSource(manager, editor, editor.BasePath, DefaultLibraryFile);

@@ -40,15 +40,6 @@ void sortAlphabetically(std::vector<std::string>& names) {
     });
 }
 
-std::vector<std::string> scriptsIn(Files& files, const std::string& symbolFolder) {
-    std::vector<std::string> names;
-    for (const FileEntry& entry : files.list(symbolFolder))
-        if (!entry.isFolder && extensionOf(entry.name) == ".uds")
-            names.emplace_back(nameWithoutExtension(entry.name));
-    sortAlphabetically(names);
-    return names;
-}
-
 // A list that is missing comes back from its safety copy, else from the scripts of its folder.
 void bringBackList(const UserSymbols& symbols, Files& files, const LibraryPlace& library) {
     const std::string folder = library.symbolFolder(files);
@@ -56,22 +47,26 @@ void bringBackList(const UserSymbols& symbols, Files& files, const LibraryPlace&
         files.copy(folder + *copy, library.path());
         return note(symbols, library.path() + ": missing, brought back from its safety copy.");
     }
-    std::string text;
-    for (const std::string& name : scriptsIn(files, folder))
-        text += name + "\r\n";
-    files.replace(library.path(), text);
+    std::vector<std::string> names = FolderIndex(files, folder).scripts();
+    sortAlphabetically(names);
+    files.replace(library.path(), listText(names));
     note(symbols, library.path() + ": missing, made anew from the symbols in its folder.");
 }
 
-// One library that cannot be repaired keeps nobody from the others.
-void repairLibrary(const UserSymbols& symbols, Files& files, const LibraryPlace& library,
-                   bool listed) {
+// What cannot be repaired of a library keeps nobody from the rest, nor from the others.
+template <class Repair>
+void attemptRepair(const UserSymbols& symbols, const LibraryPlace& library, const Repair& repair) {
     try {
-        finishWrites(files, library.symbolFolder(files));
-        if (!listed) bringBackList(symbols, files, library);
+        repair();
     } catch (const Failure& failure) {
         note(symbols, library.path() + ": not repaired. " + failure.text);
     }
+}
+
+void repairLibrary(const UserSymbols& symbols, Files& files, const LibraryPlace& library,
+                   bool listed) {
+    finishLibraryWrites(symbols, files, library);
+    if (!listed) attemptRepair(symbols, library, [&] { bringBackList(symbols, files, library); });
 }
 
 void hideUserButtons(Editor& editor) {
@@ -141,6 +136,10 @@ void findLibraryIndex(UserSymbols& symbols) {
 
 }  // namespace
 
+void finishLibraryWrites(const UserSymbols& symbols, Files& files, const LibraryPlace& library) {
+    attemptRepair(symbols, library, [&] { finishWrites(files, library.symbolFolder(files)); });
+}
+
 LibraryPlace currentLibrary(const UserSymbols& symbols) {
     return {symbols.LibraryFolder, symbols.LibraryName};
 }
@@ -160,7 +159,6 @@ void selectLibrary(UserSymbols& symbols, Editor& editor, const std::string& fold
 void ListUserLibraries(UserSymbols& symbols, Editor& editor) {
     Files& files = *editor.platform.files;
     symbols.LibraryList.clear();
-    finishRemovals(files, editor.BasePath);
     const std::vector<std::string> folders = libraryFolders(files, editor.BasePath);
     const FolderIndex lists(files, editor.BasePath);
     for (const std::string& folder : folders) {
@@ -222,7 +220,7 @@ void LoadUserSymbols(UserSymbols& symbols, Editor& editor) {
     UpdateTitle(editor);
     FolderIndex index(files, symbols.SymbolFolder);
     if (index.hasStaged()) {
-        finishWrites(files, symbols.SymbolFolder);
+        finishLibraryWrites(symbols, files, currentLibrary(symbols));
         index = FolderIndex(files, symbols.SymbolFolder);
     }
     for (const std::string& name : symbols.LibraryLines) {

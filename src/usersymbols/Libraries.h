@@ -19,6 +19,9 @@ void selectLibrary(UserSymbols& symbols, Editor& editor, const std::string& fold
                    std::string_view libraryFile);
 LibraryPlace currentLibrary(const UserSymbols& symbols);
 
+// Finishes what a kill has interrupted in the library's folder; what cannot be finished is noted.
+void finishLibraryWrites(const UserSymbols& symbols, Files& files, const LibraryPlace& library);
+
 // Finds the libraries of the data folder (the editor's BasePath), brings back or rebuilds a list
 // that is missing, and fills LibraryList.
 void ListUserLibraries(UserSymbols& symbols, Editor& editor);

@@ -12,32 +12,19 @@ namespace {
 
 constexpr std::string_view EndOfLine = "\r\n";
 constexpr std::array<std::string_view, 3> Endings = {".uds", ".bmp", "_Cyan.bmp"};
+constexpr std::string_view CyanMark = "_Cyan";
 // A file on its way to take the place of the one without this ending.
 constexpr std::string_view Staged = ".new";
-// In front of the name of a library's folder that is being removed.
-constexpr std::string_view Removed = ".ladrix-removed ";
 constexpr std::uintmax_t LargestIcon = 4 * 1024 * 1024;  // bytes
 
 std::string withEnding(std::string_view name, std::string_view ending) {
     return std::string(name).append(ending);
 }
 
-std::string listText(const std::vector<std::string>& names) {
-    std::string text;
-    for (const std::string& name : names)
-        if (!name.empty()) text.append(name).append(EndOfLine);
-    return text;
-}
-
-void makeMissingFolder(Files& files, const std::string& folder) {
-    const std::string path = folder.substr(0, folder.size() - 1);
-    if (!files.status(path)) files.makeFolder(path);
-}
-
 void replaceList(Files& files, const LibraryPlace& library, std::string_view text) {
     const std::string folder = library.symbolFolder(files);
     makeMissingFolder(files, folder);
-    files.replace(library.path(), text);
+    files.replace(listPath(files, library), text);
     files.replace(folder + library.file(), text);
 }
 
@@ -69,13 +56,6 @@ void writeFiles(Files& files, const std::string& path, const SymbolFiles& conten
         files.replace(withEnding(withEnding(path, ending), behind), contentOf(content, ending));
 }
 
-void requireNoFolderIn(Files& files, const std::string& folder) {
-    for (const FileEntry& entry : files.list(folder))
-        if (entry.isFolder)
-            throw Failure{failure::PathFileAccess,
-                          folder + ": holds the folder " + entry.name + " and is left alone."};
-}
-
 // Only a script that was refused is asked for its size.
 std::string readScript(Files& files, const std::string& path) {
     try {
@@ -90,6 +70,38 @@ std::string readScript(Files& files, const std::string& path) {
 bool endsWithIgnoringCase(std::string_view text, std::string_view ending) {
     return text.size() > ending.size() &&
            equalIgnoringCase(text.substr(text.size() - ending.size()), ending);
+}
+
+// Steps of which a failing one keeps none of the others.
+class EachStep {
+  public:
+    template <class Step>
+    void run(const Step& step) {
+        try {
+            step();
+        } catch (const Failure& failure) {
+            if (!first_) first_ = failure;
+        }
+    }
+    // Throws the first failure.
+    void finish() const {
+        if (first_) throw Failure{*first_};
+    }
+
+  private:
+    std::optional<Failure> first_;
+};
+
+// An image of a set that never became complete; `name` is that of the file without its endings. It
+// is ours only beside the script of the symbol that it was to replace.
+bool isLeftOver(const FolderIndex& index, std::string_view name) {
+    const auto awaitsNothing = [&](std::string_view symbol) {
+        const std::string script = withEnding(symbol, Endings[0]);
+        return index.has(script) && !index.has(stagedName(script));
+    };
+    if (awaitsNothing(name)) return true;
+    return endsWithIgnoringCase(name, CyanMark) &&
+           awaitsNothing(name.substr(0, name.size() - CyanMark.size()));
 }
 
 }  // namespace
@@ -138,12 +150,37 @@ bool FolderIndex::hasStaged() const {
                        [](const auto& name) { return endsWithIgnoringCase(name, Staged); });
 }
 
-std::vector<std::string> readList(Files& files, const LibraryPlace& library) {
+std::vector<std::string> FolderIndex::scripts() const {
+    std::vector<std::string> symbols;
+    for (const std::string& name : names_)
+        if (endsWithIgnoringCase(name, Endings[0]))
+            symbols.push_back(name.substr(0, name.size() - Endings[0].size()));
+    return symbols;
+}
+
+std::array<std::string, 3> filesOfSymbol(std::string_view name) {
+    return {withEnding(name, Endings[0]), withEnding(name, Endings[1]),
+            withEnding(name, Endings[2])};
+}
+
+std::string stagedName(std::string_view file) {
+    return withEnding(file, Staged);
+}
+
+std::string listPath(Files& files, const LibraryPlace& library) {
     const auto name = FolderIndex(files, library.Folder).find(library.file());
-    if (!name) return {};
-    const std::string content = files.read(library.Folder + *name);
+    return name ? library.Folder + *name : library.path();
+}
+
+std::string listText(const std::vector<std::string>& names) {
+    std::string text;
+    for (const std::string& name : names)
+        if (!name.empty()) text.append(name).append(EndOfLine);
+    return text;
+}
+
+std::vector<std::string> linesOf(std::string_view text) {
     std::vector<std::string> lines;
-    std::string_view text = content;
     while (!text.empty()) {
         const std::size_t end = text.find('\n');
         std::string_view line = text.substr(0, end);
@@ -152,6 +189,17 @@ std::vector<std::string> readList(Files& files, const LibraryPlace& library) {
         text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
     }
     return lines;
+}
+
+void makeMissingFolder(Files& files, const std::string& folder) {
+    const std::string path = folder.substr(0, folder.size() - 1);
+    if (!files.status(path)) files.makeFolder(path);
+}
+
+std::vector<std::string> readList(Files& files, const LibraryPlace& library) {
+    const auto name = FolderIndex(files, library.Folder).find(library.file());
+    if (!name) return {};
+    return linesOf(files.read(library.Folder + *name));
 }
 
 void writeList(Files& files, const LibraryPlace& library, const std::vector<std::string>& names) {
@@ -219,6 +267,12 @@ void removeSymbol(Files& files, const std::string& symbolFolder, std::string_vie
             files.remove(symbolFolder + *file);
 }
 
+void copySymbol(Files& files, const std::string& symbolFolder, const FolderIndex& index,
+                std::string_view name, const std::string& toFolder) {
+    for (const std::string& file : filesOfSymbol(name))
+        if (const auto found = index.find(file)) files.copy(symbolFolder + *found, toFolder + file);
+}
+
 void changeSymbolCase(Files& files, const std::string& symbolFolder, std::string_view name) {
     const FolderIndex index(files, symbolFolder);
     for (const std::string_view ending : Endings) {
@@ -231,17 +285,21 @@ void changeSymbolCase(Files& files, const std::string& symbolFolder, std::string
 void finishWrites(Files& files, const std::string& symbolFolder) {
     const FolderIndex index(files, symbolFolder);
     if (!index.hasStaged()) return;
-    const std::vector<FileEntry> entries = files.list(symbolFolder);
-    const std::string complete = withEnding(Endings[0], Staged);
-    for (const FileEntry& entry : entries)
-        if (!entry.isFolder && endsWithIgnoringCase(entry.name, complete))
-            installStaged(
-                files, symbolFolder,
-                std::string_view(entry.name).substr(0, entry.name.size() - complete.size()));
-    // What is left of a set that never became complete.
-    for (const FileEntry& entry : entries)
-        if (!entry.isFolder && endsWithIgnoringCase(entry.name, withEnding(Endings[1], Staged)))
-            removeIfThere(files, symbolFolder + entry.name);
+    const std::vector<std::string> names = files.fileNames(symbolFolder);
+    const std::string script = stagedName(std::string(Endings[0]));
+    const std::string image = stagedName(std::string(Endings[1]));
+    EachStep steps;
+    for (const std::string& name : names) {
+        if (!endsWithIgnoringCase(name, script)) continue;
+        const std::string symbol = name.substr(0, name.size() - script.size());
+        if (index.hasAny(symbol)) steps.run([&] { installStaged(files, symbolFolder, symbol); });
+    }
+    for (const std::string& name : names) {
+        if (!endsWithIgnoringCase(name, image)) continue;
+        if (isLeftOver(index, name.substr(0, name.size() - image.size())))
+            steps.run([&] { removeIfThere(files, symbolFolder + name); });
+    }
+    steps.finish();
 }
 
 // The safety copy under the new name comes first: a list that is missing is brought back from it.
@@ -255,28 +313,6 @@ void renameLibrary(Files& files, const std::string& folder, std::string_view old
     if (!listed) return;
     files.rename(before.path(), after.path());
     files.remove(after.symbolFolder(files) + after.file());
-}
-
-void removeLibrary(Files& files, const LibraryPlace& library) {
-    const std::string path = library.Folder + library.Name;
-    const std::string doomed = library.Folder + std::string(Removed) + library.Name;
-    finishRemovals(files, library.Folder);
-    if (files.status(path)) {
-        requireNoFolderIn(files, path + files.separator());
-        files.rename(path, doomed);
-    }
-    removeIfThere(files, library.path());
-    finishRemovals(files, library.Folder);
-}
-
-void finishRemovals(Files& files, const std::string& folder) {
-    for (const FileEntry& doomed : files.list(folder)) {
-        if (!doomed.isFolder || !doomed.name.starts_with(Removed)) continue;
-        const std::string inside = folder + doomed.name + files.separator();
-        for (const FileEntry& entry : files.list(inside))
-            if (!entry.isFolder) files.remove(inside + entry.name);
-        files.removeFolder(folder + doomed.name);
-    }
 }
 
 void createLibrary(Files& files, const LibraryPlace& library) {

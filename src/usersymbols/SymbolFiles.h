@@ -7,6 +7,7 @@
 // Failure and leave what was done so far. Folders end in the separator.
 #pragma once
 
+#include <array>
 #include <memory>
 #include <optional>
 #include <string>
@@ -45,7 +46,8 @@ class FolderIndex {
     bool has(std::string_view name) const;
     bool hasAll(std::string_view symbol) const;  // the symbol's three files
     bool hasAny(std::string_view symbol) const;
-    bool hasStaged() const;  // a write was interrupted
+    bool hasStaged() const;                    // a write was interrupted
+    std::vector<std::string> scripts() const;  // the symbols that have one, unsorted
 
   private:
     const std::unordered_map<std::string, std::string>& byLowerCase() const;
@@ -53,6 +55,18 @@ class FolderIndex {
     std::vector<std::string> names_;
     mutable std::unordered_map<std::string, std::string> byLowerCase_;  // to the name on disk
 };
+
+// The names of a symbol's three files, and of one on its way to take the place of another.
+std::array<std::string, 3> filesOfSymbol(std::string_view name);
+std::string stagedName(std::string_view file);
+
+// The list's path, as its name stands on disk if it is there. Its text, and back to its lines.
+std::string listPath(Files& files, const LibraryPlace& library);
+std::string listText(const std::vector<std::string>& names);
+std::vector<std::string> linesOf(std::string_view text);
+
+// One level, if it is missing. `folder` ends in the separator.
+void makeMissingFolder(Files& files, const std::string& folder);
 
 // The list: its lines, "" for a missing file. Writing replaces the list, then its safety copy,
 // making the folder if it is missing; empty names are left out.
@@ -77,17 +91,17 @@ void writeNewSymbol(Files& files, const std::string& symbolFolder, std::string_v
                     const SymbolFiles& content);
 // The same symbol under a name that differs in the case of letters alone.
 void changeSymbolCase(Files& files, const std::string& symbolFolder, std::string_view name);
-// Finishes what a kill has interrupted in the folder. Called before a library is read.
+// Copies those of the three that are there.
+void copySymbol(Files& files, const std::string& symbolFolder, const FolderIndex& index,
+                std::string_view name, const std::string& toFolder);
+// Finishes what a kill has interrupted in the folder, as far as it can: one file that cannot be
+// put in place does not keep the others, and is told at the end. What stands beside no symbol is
+// left alone. Called before a library is read.
 void finishWrites(Files& files, const std::string& symbolFolder);
 
 // A whole library under another name; the safety copy keeps its old one.
 void renameLibrary(Files& files, const std::string& folder, std::string_view oldName,
                    std::string_view newName);
-// The list, every file in the folder, and the folder: out of sight in one step, then file by file.
-// Refused if the folder holds another one.
-void removeLibrary(Files& files, const LibraryPlace& library);
-// What a kill has left of removed libraries in their parent folder.
-void finishRemovals(Files& files, const std::string& folder);
 // An empty library: the folder, then the list.
 void createLibrary(Files& files, const LibraryPlace& library);
 

@@ -6,7 +6,7 @@
 #include "canvas/gestures/Pointer.h"
 #include "canvas/tools/Tools.h"
 #include "support/FakePlatform.h"
-#include "usersymbols/SymbolFiles.h"
+#include "usersymbols/RemovedSymbols.h"
 
 namespace ladrix {
 namespace {
@@ -69,7 +69,8 @@ TEST_F(LibraryCommandsTest, TheSampleLibraryIsOfferedOnce) {
     EXPECT_EQ(program.usersymbols.UserSymbolName, std::vector<std::string>{"VFD"});
     EXPECT_EQ(program.usersymbols.LibraryFolder, program.paths.BasePath);
 
-    removeLibrary(fake.files, {program.paths.BasePath, "Sample Symbols"});
+    removeLibrary(fake.files, removalsFolder(fake.files, program.paths.BasePath),
+                  {program.paths.BasePath, "Sample Symbols"});
     chooses("");
     mnuLibOpen_Click(program);
     EXPECT_FALSE(fake.folder.has("documents/Ladrix/Sample Symbols.lib"));
