@@ -88,6 +88,24 @@ void loadManagerSymbols(LibManager& manager, const UserSymbols& symbols, const P
     }
 }
 
+void readSource(LibManager& manager, const UserSymbols& symbols, const Platform& platform) {
+    Files& files = *platform.files;
+    const LibraryPlace source{manager.ManagerParentFolder, manager.ManagerSourceName};
+    manager.ManagerSourceMissing = !FileExists(files, source.Folder, source.file()) ||
+                                   !FolderExists(files, source.Folder, source.Name);
+    if (manager.ManagerSourceMissing) return;
+    finishLibraryWrites(symbols, files, source);
+    manager.ManagerSourceLines = readList(files, source);
+    loadManagerSymbols(manager, symbols, platform);
+}
+
+void showSource(LibManager& manager, const UserSymbols& symbols) {
+    layOutButtons(manager, symbols);
+    mnuEditClear_Click(manager);
+    rebuildSelection(manager);
+    manager.ManagerLoading = false;
+}
+
 void drawPreview(LibManager& manager, Editor& editor, Short symbol, Single x, Single y) {
     if (manager.picPreview == nullptr || !isSymbol(manager, symbol)) return;
     const ManagerSymbol& state = stateOf(manager, symbol);
@@ -162,22 +180,16 @@ void listManagerLibraries(LibManager& manager, const UserSymbols& symbols) {
 }
 
 void loadManagerSource(LibManager& manager, const UserSymbols& symbols, Editor& editor) {
-    Files& files = *editor.platform.files;
     manager.ManagerLoading = true;
     clearSource(manager);
-    manager.ManagerSourceMissing =
-        !FileExists(files, manager.ManagerParentFolder, manager.ManagerSourceFile) ||
-        !FolderExists(files, manager.ManagerParentFolder, manager.ManagerSourceName);
-    if (!manager.ManagerSourceMissing) {
-        const LibraryPlace source{manager.ManagerParentFolder, manager.ManagerSourceName};
-        finishLibraryWrites(symbols, files, source);
-        manager.ManagerSourceLines = readList(files, source);
-        loadManagerSymbols(manager, symbols, editor.platform);
+    try {
+        readSource(manager, symbols, editor.platform);
+    } catch (const Failure&) {
+        clearSource(manager);
+        showSource(manager, symbols);
+        throw;
     }
-    layOutButtons(manager, symbols);
-    mnuEditClear_Click(manager);
-    rebuildSelection(manager);
-    manager.ManagerLoading = false;
+    showSource(manager, symbols);
 }
 
 void mnuLibManageUserLibraries_Click(LibManager& manager, UserSymbols& symbols, Editor& editor) {

@@ -47,12 +47,11 @@ std::vector<std::string> selectedNames(const LibManager& manager) {
     return manager.lstSelected.List;
 }
 
-// What the list names when the blanked symbols are gone: the buttons in their order, then what is
-// there but could not be read.
+// The list when the blanked symbols are gone.
 void writeSource(const LibManager& manager, Files& files) {
-    std::vector<std::string> names = manager.ManagerSymbolName;
-    names.insert(names.end(), manager.ManagerUnread.begin(), manager.ManagerUnread.end());
-    writeList(files, sourceOf(manager), names);
+    const ListChange change{manager.ManagerSymbolName, manager.ManagerSourceLines,
+                            manager.ManagerUnread};
+    writeList(files, sourceOf(manager), changedList(files, sourceOf(manager), change));
 }
 
 // The list first, then the files.
@@ -62,8 +61,7 @@ void removeSelected(LibManager& manager, const UserSymbols& symbols, Editor& edi
     for (std::size_t i = 0; i < manager.ManagerSymbolState.size(); ++i)
         if (manager.ManagerSymbolState[i].Selected) manager.ManagerSymbolName[i].clear();
     writeSource(manager, files);
-    for (const std::string& name : names)
-        removeSymbol(files, manager.ManagerSourceFolder, name);
+    removeSymbols(files, manager.ManagerSourceFolder, names);
     loadManagerSource(manager, symbols, editor);
 }
 
@@ -171,6 +169,7 @@ void lstDestinationLibrary_Click(LibManager& manager, Editor& editor, int row) {
     manager.ManagerDestFile = library.file();
     manager.ManagerDestName = library.Name;
     manager.ManagerDestFolder = library.symbolFolder(files);
+    manager.ManagerDestLines.clear();
     manager.cmdCopy.Enabled = manager.cmdMove.Enabled = true;
     editor.platform.attempt("Destination Library",
                             [&] { manager.ManagerDestLines = readList(files, library); });

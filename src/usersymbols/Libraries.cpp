@@ -110,20 +110,21 @@ std::shared_ptr<const Picture> pictureOf(const UserSymbols& symbols, Images& ima
     }
 }
 
-bool contains(const std::vector<std::string>& names, std::string_view name) {
-    return std::find(names.begin(), names.end(), name) != names.end();
-}
-
-// The names to write: the symbols in their order, then what only the list on disk knows and what is
-// there but could not be read.
-std::vector<std::string> namesToWrite(const UserSymbols& symbols, Files& files) {
-    std::vector<std::string> names = symbols.UserSymbolName;
-    for (const std::string& line : readList(files, currentLibrary(symbols)))
-        if (!contains(symbols.LibraryLines, line) && !contains(names, line)) names.push_back(line);
-    for (const std::string& name : symbols.UnreadSymbols)
-        if (!contains(names, name)) names.push_back(name);
-    std::erase(names, "");
-    return names;
+void loadListed(UserSymbols& symbols, Editor& editor) {
+    Files& files = *editor.platform.files;
+    FolderIndex index(files, symbols.SymbolFolder);
+    if (index.hasStaged()) {
+        finishLibraryWrites(symbols, files, currentLibrary(symbols));
+        index = FolderIndex(files, symbols.SymbolFolder);
+    }
+    for (const std::string& name : symbols.LibraryLines) {
+        if (symbols.UserSymbolCount == LargestCount) return;
+        if (name.empty()) continue;
+        if (auto loaded = loadSymbol(symbols, editor.platform, symbols.SymbolFolder, index, name))
+            appendSymbol(symbols, name, std::move(*loaded));
+        else if (index.hasAll(name))
+            symbols.UnreadSymbols.push_back(name);
+    }
 }
 
 void findLibraryIndex(UserSymbols& symbols) {
@@ -214,22 +215,16 @@ std::optional<LoadedSymbol> loadSymbol(const UserSymbols& symbols, const Platfor
 }
 
 void LoadUserSymbols(UserSymbols& symbols, Editor& editor) {
-    Files& files = *editor.platform.files;
     emptyTables(symbols);
     hideUserButtons(editor);
     UpdateTitle(editor);
-    FolderIndex index(files, symbols.SymbolFolder);
-    if (index.hasStaged()) {
-        finishLibraryWrites(symbols, files, currentLibrary(symbols));
-        index = FolderIndex(files, symbols.SymbolFolder);
-    }
-    for (const std::string& name : symbols.LibraryLines) {
-        if (symbols.UserSymbolCount == LargestCount) return;
-        if (name.empty()) continue;
-        if (auto loaded = loadSymbol(symbols, editor.platform, symbols.SymbolFolder, index, name))
-            appendSymbol(symbols, name, std::move(*loaded));
-        else if (index.hasAll(name))
-            symbols.UnreadSymbols.push_back(name);
+    try {
+        loadListed(symbols, editor);
+    } catch (const Failure&) {
+        // What is not loaded has not been removed: its lines must not look as if they were known.
+        emptyTables(symbols);
+        symbols.LibraryLines.clear();
+        throw;
     }
 }
 
@@ -237,7 +232,10 @@ void WriteLibraryStructure(UserSymbols& symbols, Editor& editor) {
     Files& files = *editor.platform.files;
     const bool someLeft = std::any_of(symbols.UserSymbolName.begin(), symbols.UserSymbolName.end(),
                                       [](const std::string& name) { return !name.empty(); });
-    if (someLeft) writeList(files, currentLibrary(symbols), namesToWrite(symbols, files));
+    if (!someLeft) return;
+    const LibraryPlace library = currentLibrary(symbols);
+    const ListChange change{symbols.UserSymbolName, symbols.LibraryLines, symbols.UnreadSymbols};
+    writeList(files, library, changedList(files, library, change));
 }
 
 // What belonged to another library must not stay when this one cannot be read.

@@ -87,11 +87,16 @@ std::string& nameAt(UserSymbols& symbols, Short row) {
     return symbols.UserSymbolName[static_cast<std::size_t>(row)];
 }
 
+// Before files are written that the list is to name.
+void requireReadableList(const UserSymbols& symbols, const Editor& editor) {
+    readList(*editor.platform.files, currentLibrary(symbols));
+}
+
 // The list without the symbol is written before its files go.
 void removeFromLibrary(UserSymbols& symbols, Editor& editor, Short row) {
     const std::string name = std::exchange(nameAt(symbols, row), {});
     WriteLibraryStructure(symbols, editor);
-    removeSymbol(*editor.platform.files, symbols.SymbolFolder, name);
+    removeSymbols(*editor.platform.files, symbols.SymbolFolder, {name});
     resetTool(editor);
     ReloadLibrary(symbols, editor);
 }
@@ -120,11 +125,12 @@ void renameFiles(UserSymbols& symbols, Editor& editor, Short row, const std::str
     if (index.hasAny(name))
         throw Failure{failure::PathFileAccess,
                       symbols.SymbolFolder + name + ": there are files of this name already."};
+    requireReadableList(symbols, editor);
     writeNewSymbol(files, symbols.SymbolFolder, name,
                    readSymbol(files, symbols.SymbolFolder, index, former));
     nameAt(symbols, row) = name;
     WriteLibraryStructure(symbols, editor);
-    removeSymbol(files, symbols.SymbolFolder, former);
+    removeSymbols(files, symbols.SymbolFolder, {former});
 }
 
 bool transferFits(UserSymbols& symbols, Editor& editor, const LibraryPlace& target,
@@ -166,6 +172,7 @@ bool acceptedAsFileName(const Platform& platform, std::string_view name) {
 void SaveUserSymbol(UserSymbols& symbols, Editor& editor, const std::string& name) {
     const Platform& platform = editor.platform;
     if (symbols.frmUS.picIcon == nullptr || symbols.frmUS.picCyanIcon == nullptr) return;
+    requireReadableList(symbols, editor);
     writeSymbol(*platform.files, symbols.SymbolFolder, name,
                 compiledSymbol(symbols, *platform.images));
     listNewSymbol(symbols, editor, name);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <unordered_set>
 
 #include "platform/Encoding.h"
 #include "usersymbols/Script.h"
@@ -29,7 +30,7 @@ void replaceList(Files& files, const LibraryPlace& library, std::string_view tex
 }
 
 void removeIfThere(Files& files, const std::string& path) {
-    if (files.status(path)) files.remove(path);
+    if (files.isLink(path) || files.status(path)) files.remove(path);
 }
 
 const std::string& contentOf(const SymbolFiles& content, std::string_view ending) {
@@ -206,6 +207,24 @@ void writeList(Files& files, const LibraryPlace& library, const std::vector<std:
     replaceList(files, library, listText(names));
 }
 
+std::vector<std::string> changedList(Files& files, const LibraryPlace& library,
+                                     const ListChange& change) {
+    std::vector<std::string> names;
+    std::unordered_set<std::string> known;
+    const auto add = [&](const std::string& name, bool evenIfKnown) {
+        if (name.empty() || (!known.insert(lowerCase(name)).second && !evenIfKnown)) return;
+        names.push_back(name);
+    };
+    for (const std::string& name : change.names)
+        add(name, true);
+    const std::unordered_set<std::string_view> read(change.read.begin(), change.read.end());
+    for (const std::string& line : readList(files, library))
+        if (!read.contains(line)) add(line, false);
+    for (const std::string& name : change.unread)
+        add(name, false);
+    return names;
+}
+
 void appendToList(Files& files, const LibraryPlace& library,
                   const std::vector<std::string>& names) {
     std::string text;
@@ -260,11 +279,15 @@ void writeSymbol(Files& files, const std::string& symbolFolder, std::string_view
     installStaged(files, symbolFolder, name);
 }
 
-void removeSymbol(Files& files, const std::string& symbolFolder, std::string_view name) {
+void removeSymbols(Files& files, const std::string& symbolFolder,
+                   const std::vector<std::string>& names) {
     const FolderIndex index(files, symbolFolder);
-    for (const std::string_view ending : Endings)
-        if (const auto file = index.find(withEnding(name, ending)))
-            files.remove(symbolFolder + *file);
+    EachStep steps;
+    for (const std::string& name : names)
+        for (const std::string& file : filesOfSymbol(name))
+            if (const auto found = index.find(file))
+                steps.run([&] { removeIfThere(files, symbolFolder + *found); });
+    steps.finish();
 }
 
 void copySymbol(Files& files, const std::string& symbolFolder, const FolderIndex& index,

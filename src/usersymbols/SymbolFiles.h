@@ -72,6 +72,15 @@ void makeMissingFolder(Files& files, const std::string& folder);
 // making the folder if it is missing; empty names are left out.
 std::vector<std::string> readList(Files& files, const LibraryPlace& library);
 void writeList(Files& files, const LibraryPlace& library, const std::vector<std::string>& names);
+// What the list is to say once these names have changed: they in their order, then what only the
+// list on disk knows, and then `unread`. `read` are the lines that the names come from; where they
+// could not be read there are none, and every line on disk stays. Throws a Failure if the list
+// cannot be read now.
+struct ListChange {
+    const std::vector<std::string>&names, &read, &unread;
+};
+std::vector<std::string> changedList(Files& files, const LibraryPlace& library,
+                                     const ListChange& change);
 // Adds names at the end of the list as it stands.
 void appendToList(Files& files, const LibraryPlace& library, const std::vector<std::string>& names);
 // The number of line ends in the list; 0 if it is missing.
@@ -84,8 +93,10 @@ SymbolFiles readSymbol(Files& files, const std::string& symbolFolder, const Fold
 // Makes the folder if it is missing. Writing over a symbol replaces the three files together.
 void writeSymbol(Files& files, const std::string& symbolFolder, std::string_view name,
                  const SymbolFiles& content);
-// Removes those of the three that are there; call it when the list no longer names the symbol.
-void removeSymbol(Files& files, const std::string& symbolFolder, std::string_view name);
+// Removes those of the three that are there; call it when the list no longer names the symbols. A
+// file that cannot be removed keeps none of the others, and is told at the end.
+void removeSymbols(Files& files, const std::string& symbolFolder,
+                   const std::vector<std::string>& names);
 // A symbol that has none of its files there yet.
 void writeNewSymbol(Files& files, const std::string& symbolFolder, std::string_view name,
                     const SymbolFiles& content);

@@ -81,7 +81,7 @@ TEST_F(LibManagerTest, TransfersAskForEachSymbolOfTheSameName) {
         machine.folder.write("documents/User Symbols.lib", "");
         write("User Symbols", {"A", "B", "C"});
         for (const char* name : {"A", "C"})
-            removeSymbol(machine.files, editor.BasePath + "Other Symbols/", name);
+            removeSymbols(machine.files, editor.BasePath + "Other Symbols/", {name});
         write("Other Symbols", {"B", "D"});
         mnuLibManageUserLibraries_Click(manager, symbols, editor);
         select({0, 1, 2});
@@ -116,7 +116,7 @@ TEST_F(LibManagerTest, AMoveThatBreaksOffLosesNothing) {
             SCOPED_TRACE(static_cast<int>(operation) * 10 + passed);
             write("User Symbols", {"A", "B", "C"});
             for (const char* name : {"A", "C"})
-                removeSymbol(machine.files, editor.BasePath + "Other Symbols/", name);
+                removeSymbols(machine.files, editor.BasePath + "Other Symbols/", {name});
             write("Other Symbols", {"D"});
             mnuLibManageUserLibraries_Click(manager, symbols, editor);
             select({0, 2});
@@ -167,6 +167,35 @@ TEST_F(LibManagerTest, TheOrderIsDraggedAndSaved) {
     frmLibManager_cmdSym_DragDrop(manager, 2);
     mnuFileSaveOrder_Click(manager, symbols, editor);
     EXPECT_EQ(list("User Symbols"), "C A B") << "not while the main window has no symbol";
+}
+
+TEST_F(LibManagerTest, AListThatCannotBeReadOrHasGrownIsNotWrittenOver) {
+    const Failure broken{failure::DeviceIO, "Input/output error"};
+    for (const auto& [operation, part] :
+         {std::pair{test::Operation::Read, "Symbols.lib"}, {test::Operation::List, "Symbols/"}}) {
+        SCOPED_TRACE(part);
+        machine.reports.clear();
+        machine.files.fail(operation, broken, part);
+        mnuLibManageUserLibraries_Click(manager, symbols, editor);
+        ASSERT_EQ(machine.reports.size(), 1u);
+        EXPECT_EQ(machine.reports[0].text, broken.text);
+        mnuFileSaveOrder_Click(manager, symbols, editor);
+        machine.files.heal();
+        EXPECT_EQ(list("User Symbols"), "A B C");
+        mnuFileSaveOrder_Click(manager, symbols, editor);
+        EXPECT_EQ(list("User Symbols"), "A B C");
+    }
+    chooseDestination(0);
+    select({0});
+    machine.files.fail(test::Operation::Read, broken, "Other Symbols.lib");
+    cmdMove_Click(manager, symbols, editor);
+    machine.files.heal();
+    EXPECT_EQ(list("User Symbols") + ", " + list("Other Symbols"), "A B C, B D");
+
+    disk.write("documents/User Symbols.lib", "A\r\nB\r\nC\r\nD\r\n");
+    test::writeSymbol(disk, "User Symbols", "D");
+    mnuFileSaveOrder_Click(manager, symbols, editor);
+    EXPECT_EQ(list("User Symbols"), "A B C D") << "another program has added one";
 }
 
 TEST_F(LibManagerTest, LibrariesAreMadeRenamedAndDeleted) {

@@ -8,6 +8,7 @@
 #include "platform/Encoding.h"
 #include "support/FaultyFiles.h"
 #include "usersymbols/RemovedSymbols.h"
+#include "usersymbols/SavingForms.h"
 
 namespace ladrix {
 namespace {
@@ -90,6 +91,45 @@ TEST_F(LibrariesTest, WhatIsIncompleteIsSkippedAndWhatIsDamagedStays) {
     EXPECT_EQ(listText("User Symbols"), "good\r\ndamaged\r\nLAST\r\nhuge\r\n");
     EXPECT_EQ(disk.read("documents/User Symbols/User Symbols.lib"), listText("User Symbols"));
     EXPECT_TRUE(disk.has("documents/User Symbols/gone.uds"));
+}
+
+// A list that could not be read, or the folder beside it, is no empty one.
+TEST_F(LibrariesTest, AfterAFailedReadNothingOfTheListIsLost) {
+    struct {
+        test::Operation operation;
+        const char *part, *afterSaving, *scripts;
+        std::size_t reports;  // of loading and saving
+    } const cases[] = {
+        {test::Operation::Read, "Symbols.lib", "a b c", "a b c", 2},
+        {test::Operation::List, "User Symbols/", "a b c", "a b c", 2},
+        {test::Operation::Read, "/b.uds", "a c new b", "a b c new", 0},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.part);
+        machine.reports.clear();
+        removeSymbols(machine.files, symbols.SymbolFolder, {"new"});
+        write("User Symbols", {"a", "b", "c"});
+        const auto saveNew = [&] {
+            makeIconPictures(symbols, machine.platform);
+            symbols.compiler.SymbolScriptText = "Line:0:0:1:0\r\n";
+            symbols.frmUS.txtSymbolName.Text = "new";
+            frmUS_cmdSave_Click(symbols, editor);
+        };
+        machine.files.fail(c.operation, {failure::DeviceIO, "Input/output error"}, c.part);
+        editor.platform.attempt("Open", [&] { ReloadLibrary(symbols, editor); });
+        saveNew();
+        EXPECT_EQ(machine.reports.size(), c.reports);
+        for (const auto& report : machine.reports)
+            EXPECT_EQ(report.text, "Input/output error");
+        machine.files.heal();
+        EXPECT_EQ(list("User Symbols"), c.afterSaving);
+        EXPECT_EQ(scripts("User Symbols"), c.scripts) << "no symbol that is in no list";
+        saveNew();
+        for (const char* name : {"a", "b", "c", "new"})
+            EXPECT_NE((" " + list("User Symbols") + " ").find(" " + std::string(name) + " "),
+                      std::string::npos)
+                << name;
+    }
 }
 
 TEST_F(LibrariesTest, DeletingTheLastSymbolLeavesTheList) {
