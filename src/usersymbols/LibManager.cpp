@@ -26,16 +26,6 @@ bool isSymbol(const LibManager& manager, int symbol) {
     return symbol >= 0 && symbol < manager.symbolCount();
 }
 
-void rebuildSelection(LibManager& manager) {
-    manager.lstSelected.List.clear();
-    manager.lstSelected.ListIndex = -1;
-    for (const ManagerSymbol& state : manager.ManagerSymbolState)
-        if (state.Selected) manager.lstSelected.List.push_back(state.Name);
-    manager.ManagerSelectedCount = static_cast<Short>(manager.lstSelected.List.size());
-    manager.cmdDelete.Enabled = manager.ManagerSelectedCount > 0;
-    ++manager.ButtonVersion;
-}
-
 void selectAll(LibManager& manager, bool selected) {
     for (ManagerSymbol& state : manager.ManagerSymbolState)
         state.Selected = selected;
@@ -177,6 +167,16 @@ void listManagerLibraries(LibManager& manager, const UserSymbols& symbols) {
         manager.ManagerDestFolder.clear();
         manager.cmdCopy.Enabled = manager.cmdMove.Enabled = false;
     }
+}
+
+void rebuildSelection(LibManager& manager) {
+    manager.lstSelected.List.clear();
+    manager.lstSelected.ListIndex = -1;
+    for (const ManagerSymbol& state : manager.ManagerSymbolState)
+        if (state.Selected) manager.lstSelected.List.push_back(state.Name);
+    manager.ManagerSelectedCount = static_cast<Short>(manager.lstSelected.List.size());
+    manager.cmdDelete.Enabled = manager.ManagerSelectedCount > 0;
+    ++manager.ButtonVersion;
 }
 
 void loadManagerSource(LibManager& manager, const UserSymbols& symbols, Editor& editor) {

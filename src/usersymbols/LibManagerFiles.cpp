@@ -76,6 +76,29 @@ void listOnce(std::vector<std::string>& lines, const std::string& name) {
     lines.push_back(name);
 }
 
+// Symbols that may not have their names there are told and no longer selected, so that a Move
+// leaves them where they are. False if none is left.
+bool leaveOutRefused(LibManager& manager, Editor& editor) {
+    constexpr std::size_t MostTold = 5;
+    const FolderIndex there(*editor.platform.files, manager.ManagerDestFolder);
+    std::size_t refused = 0;
+    std::string told;
+    for (ManagerSymbol& state : manager.ManagerSymbolState) {
+        if (!state.Selected) continue;
+        const std::string reason = nameRefusal(there, state.Name);
+        if (reason.empty()) continue;
+        state.Selected = false;
+        if (refused++ < MostTold) told += (told.empty() ? "" : "\r\n") + reason;
+    }
+    if (refused > MostTold)
+        told += "\r\n" + longText(static_cast<Long>(refused - MostTold)) + " more are left out.";
+    if (refused > 0) {
+        rebuildSelection(manager);
+        editor.platform.tell(told, "Name Rejected");
+    }
+    return manager.ManagerSelectedCount > 0;
+}
+
 // Every symbol whose files are there is in `lines`, even when a later one fails.
 void copySelected(const LibManager& manager, Editor& editor, std::vector<std::string>& lines) {
     Files& files = *editor.platform.files;
@@ -178,14 +201,16 @@ void lstDestinationLibrary_Click(LibManager& manager, Editor& editor, int row) {
 void cmdCopy_Click(LibManager& manager, UserSymbols& symbols, Editor& editor) {
     if (!mayTransfer(manager, editor)) return;
     manager.ManagerCopying = true;
-    changeSource(manager, symbols, editor, "Copy User Symbols",
-                 [&] { transferSelectedSymbols(manager, editor); });
+    changeSource(manager, symbols, editor, "Copy User Symbols", [&] {
+        if (leaveOutRefused(manager, editor)) transferSelectedSymbols(manager, editor);
+    });
     manager.ManagerCopying = false;
 }
 
 void cmdMove_Click(LibManager& manager, UserSymbols& symbols, Editor& editor) {
     if (!mayTransfer(manager, editor)) return;
     changeSource(manager, symbols, editor, "Move User Symbols", [&] {
+        if (!leaveOutRefused(manager, editor)) return;
         transferSelectedSymbols(manager, editor);
         removeSelected(manager, symbols, editor);
         editor.platform.tell("Action Completed.");

@@ -13,6 +13,8 @@ void selectManagerSource(LibManager& manager, Editor& editor, const std::string&
                          std::string_view file);
 // The lists of libraries anew. A destination that is no longer there is given up.
 void listManagerLibraries(LibManager& manager, const UserSymbols& symbols);
+// lstSelected and the count from the symbols' marks.
+void rebuildSelection(LibManager& manager);
 // The list, pictures and scripts, as the main window loads its own; nothing is selected then.
 // Throws a Failure.
 void loadManagerSource(LibManager& manager, const UserSymbols& symbols, Editor& editor);

@@ -61,6 +61,10 @@ void SaveUserSymbol(UserSymbols& symbols, Editor& editor, const std::string& nam
 // True if the name can be a file's; else tells why under "Illegal Filename".
 bool acceptedAsFileName(const Platform& platform, std::string_view name);
 
+// True if a symbol in this folder may have the name, beside those that are there; else tells why
+// not under "Name Rejected". Throws a Failure.
+bool mayBeNamed(const Editor& editor, const std::string& symbolFolder, std::string_view name);
+
 // False if a library of this name, or half of one, is there; tells which.
 bool nameIsFree(const Editor& editor, const LibraryPlace& library);
 // Asks for a name and makes an empty library of it in the data folder. nullopt if the user gives up

@@ -1,4 +1,5 @@
-#include <algorithm>
+#include <unordered_set>
+#include <utility>
 
 #include "platform/Encoding.h"
 #include "platform/Numbers.h"
@@ -56,27 +57,48 @@ bool mergeFits(UserSymbols& symbols, Editor& editor, const LibraryPlace& source)
     return false;
 }
 
+// What of a library could not be merged because of its names.
+struct LeftOut {
+    std::size_t count = 0;
+    std::string firstReason;
+};
+
 // The files first; what is copied is listed even if a later one fails.
-void copyMissingSymbols(UserSymbols& symbols, Files& files, const LibraryPlace& source) {
+LeftOut copyMissingSymbols(UserSymbols& symbols, Files& files, const LibraryPlace& source) {
     const std::string from = source.symbolFolder(files);
     const FolderIndex there(files, from), here(files, symbols.SymbolFolder);
     std::vector<std::string> copied;
-    const auto list = [&] { appendToList(files, currentLibrary(symbols), copied); };
+    std::unordered_set<std::string> seen;
+    LeftOut leftOut;
+    const auto list = [&] {
+        if (!copied.empty()) appendToList(files, currentLibrary(symbols), copied);
+    };
     try {
         for (const std::string& name : readList(files, source)) {
-            if (!there.hasAll(name) || here.hasAny(name)) continue;
-            const bool again = std::any_of(
-                copied.begin(), copied.end(),
-                [&](const std::string& other) { return equalIgnoringCase(other, name); });
-            if (again) continue;
+            if (!there.hasAll(name) || here.has(name + ".uds")) continue;
+            if (!seen.insert(lowerCase(name)).second) continue;
+            if (const std::string reason = nameRefusal(here, name); !reason.empty()) {
+                if (leftOut.count++ == 0) leftOut.firstReason = reason;
+                continue;
+            }
+            if (here.hasAny(name)) continue;
             writeNewSymbol(files, symbols.SymbolFolder, name, readSymbol(files, from, there, name));
             copied.push_back(name);
         }
     } catch (const Failure&) {
-        if (!copied.empty()) list();
+        list();
         throw;
     }
-    if (!copied.empty()) list();
+    list();
+    return leftOut;
+}
+
+void tellLeftOut(Editor& editor, const LeftOut& leftOut) {
+    if (leftOut.count == 0) return;
+    editor.form.lblMessage.Caption =
+        countText(leftOut.count) +
+        (leftOut.count == 1 ? " symbol was left out. " : " symbols were left out. ") +
+        leftOut.firstReason;
 }
 
 Short contextSymbol(const UserSymbols& symbols) {
@@ -141,6 +163,7 @@ bool transferFits(UserSymbols& symbols, Editor& editor, const LibraryPlace& targ
         editor.platform.tell("Symbol library is full. Please select another library.");
         return false;
     }
+    if (!mayBeNamed(editor, target.symbolFolder(files), name)) return false;
     if (FolderIndex(files, target.symbolFolder(files)).hasAny(name)) {
         editor.platform.tell("Symbol transfer failed. Symbol already exists in selected library.");
         return false;
@@ -167,6 +190,13 @@ bool acceptedAsFileName(const Platform& platform, std::string_view name) {
     if (isLegalFileName(name)) return true;
     platform.tell(IllegalName, "Illegal Filename");
     return false;
+}
+
+bool mayBeNamed(const Editor& editor, const std::string& symbolFolder, std::string_view name) {
+    const Platform& platform = editor.platform;
+    const std::string refusal = nameRefusal(FolderIndex(*platform.files, symbolFolder), name);
+    if (!refusal.empty()) platform.tell(refusal, "Name Rejected");
+    return refusal.empty();
 }
 
 void SaveUserSymbol(UserSymbols& symbols, Editor& editor, const std::string& name) {
@@ -201,13 +231,15 @@ void MergeUserLibrary(UserSymbols& symbols, Editor& editor, const std::string& f
         if (!FolderExists(files, symbols.LibraryFolder, symbols.LibraryName))
             files.makeFolder(symbols.LibraryFolder + symbols.LibraryName);
         resetTool(editor);
+        LeftOut leftOut;
         try {
-            copyMissingSymbols(symbols, files, source);
+            leftOut = copyMissingSymbols(symbols, files, source);
         } catch (const Failure&) {
             ReloadLibrary(symbols, editor);
             throw;
         }
         ReloadLibrary(symbols, editor);
+        tellLeftOut(editor, leftOut);
     });
 }
 
@@ -286,6 +318,7 @@ void RenameUserSymbol(UserSymbols& symbols, Editor& editor) {
     if (!name || name->empty() || *name == former) return;
     if (nameIsTaken(symbols, editor, row, *name) || !acceptedAsFileName(platform, *name)) return;
     guarded(editor, "Rename User Button", [&] {
+        if (!mayBeNamed(editor, symbols.SymbolFolder, *name)) return;
         renameFiles(symbols, editor, row, *name);
         resetTool(editor);
         ReloadLibrary(symbols, editor);

@@ -103,7 +103,8 @@ void frmUS_cmdSave_Click(UserSymbols& symbols, Editor& editor) {
     if (!acceptedAsFileName(editor.platform, name)) return;
     try {
         makeDefaultFolder(editor);
-        if (!mayTakeItsPlace(symbols, editor, name)) {
+        if (!mayBeNamed(editor, symbols.SymbolFolder, name) ||
+            !mayTakeItsPlace(symbols, editor, name)) {
             ++form.txtSymbolName.SelectAllRequests;
             return;
         }

@@ -93,6 +93,12 @@ class EachStep {
     std::optional<Failure> first_;
 };
 
+// "A" of "A_Cyan".
+std::optional<std::string> symbolBeforeCyan(std::string_view name) {
+    if (!endsWithIgnoringCase(name, CyanMark)) return std::nullopt;
+    return std::string(name.substr(0, name.size() - CyanMark.size()));
+}
+
 // An image of a set that never became complete; `name` is that of the file without its endings. It
 // is ours only beside the script of the symbol that it was to replace.
 bool isLeftOver(const FolderIndex& index, std::string_view name) {
@@ -100,9 +106,18 @@ bool isLeftOver(const FolderIndex& index, std::string_view name) {
         const std::string script = withEnding(symbol, Endings[0]);
         return index.has(script) && !index.has(stagedName(script));
     };
-    if (awaitsNothing(name)) return true;
-    return endsWithIgnoringCase(name, CyanMark) &&
-           awaitsNothing(name.substr(0, name.size() - CyanMark.size()));
+    const auto before = symbolBeforeCyan(name);
+    return awaitsNothing(name) || (before && awaitsNothing(*before));
+}
+
+// Of "A" and "A_Cyan", which may stand in one folder from before the second name was refused.
+bool isOthersToo(Files& files, const std::string& symbolFolder, const FolderIndex& index,
+                 std::string_view name, std::string_view ending) {
+    std::optional<std::string> other;
+    if (ending == Endings[2]) other = withEnding(name, CyanMark);
+    if (ending == Endings[1]) other = symbolBeforeCyan(name);
+    const auto script = other ? index.find(withEnding(*other, Endings[0])) : std::nullopt;
+    return script && files.status(symbolFolder + *script);
 }
 
 }  // namespace
@@ -166,6 +181,17 @@ std::array<std::string, 3> filesOfSymbol(std::string_view name) {
 
 std::string stagedName(std::string_view file) {
     return withEnding(file, Staged);
+}
+
+std::string nameRefusal(const FolderIndex& index, std::string_view name) {
+    const std::string symbol(name);
+    if (const auto other = symbolBeforeCyan(name))
+        return "A symbol cannot be named \"" + symbol +
+               "\": its picture would be the second one of a symbol \"" + *other + "\".";
+    const std::string other = withEnding(name, CyanMark);
+    if (!index.has(withEnding(other, Endings[0]))) return {};
+    return "A symbol cannot be named \"" + symbol +
+           "\" here: its second picture would be that of the symbol \"" + other + "\".";
 }
 
 std::string listPath(Files& files, const LibraryPlace& library) {
@@ -284,9 +310,11 @@ void removeSymbols(Files& files, const std::string& symbolFolder,
     const FolderIndex index(files, symbolFolder);
     EachStep steps;
     for (const std::string& name : names)
-        for (const std::string& file : filesOfSymbol(name))
-            if (const auto found = index.find(file))
-                steps.run([&] { removeIfThere(files, symbolFolder + *found); });
+        for (const std::string_view ending : Endings) {
+            const auto file = index.find(withEnding(name, ending));
+            if (!file || isOthersToo(files, symbolFolder, index, name, ending)) continue;
+            steps.run([&] { removeIfThere(files, symbolFolder + *file); });
+        }
     steps.finish();
 }
 

@@ -60,6 +60,10 @@ class FolderIndex {
 std::array<std::string, 3> filesOfSymbol(std::string_view name);
 std::string stagedName(std::string_view file);
 
+// Why no symbol may have this name in a folder, as a sentence; "" if it may. The picture of a
+// symbol "A_Cyan" would be the second one of a symbol "A".
+std::string nameRefusal(const FolderIndex& index, std::string_view name);
+
 // The list's path, as its name stands on disk if it is there. Its text, and back to its lines.
 std::string listPath(Files& files, const LibraryPlace& library);
 std::string listText(const std::vector<std::string>& names);
@@ -94,7 +98,8 @@ SymbolFiles readSymbol(Files& files, const std::string& symbolFolder, const Fold
 void writeSymbol(Files& files, const std::string& symbolFolder, std::string_view name,
                  const SymbolFiles& content);
 // Removes those of the three that are there; call it when the list no longer names the symbols. A
-// file that cannot be removed keeps none of the others, and is told at the end.
+// picture that is another symbol's too stays with that one. A file that cannot be removed keeps
+// none of the others, and is told at the end.
 void removeSymbols(Files& files, const std::string& symbolFolder,
                    const std::vector<std::string>& names);
 // A symbol that has none of its files there yet.

@@ -7,6 +7,7 @@
 #include "LibraryBench.h"
 #include "platform/Encoding.h"
 #include "support/FaultyFiles.h"
+#include "usersymbols/LibManager.h"
 #include "usersymbols/RemovedSymbols.h"
 #include "usersymbols/SavingForms.h"
 
@@ -187,6 +188,99 @@ TEST_F(LibrariesTest, RenamingTakesTheFilesAndKeepsTheOrder) {
     EXPECT_EQ(symbols.UserSymbolName[1], "MOTOR");
     EXPECT_FALSE(disk.has("documents/User Symbols/b.uds") ||
                  disk.has("documents/User Symbols/Motor.bmp"));
+}
+
+// "A_Cyan.bmp" would belong to both.
+TEST_F(LibrariesTest, NoSymbolIsNamedLikeTheSecondPictureOfAnother) {
+    const auto saved = [&](const std::string& name) {
+        symbols.compiler.SymbolScriptText = "script";
+        makeIconPictures(symbols, machine.platform);
+        symbols.frmUS.txtSymbolName.Text = name;
+        frmUS_cmdSave_Click(symbols, editor);
+    };
+    const auto renamed = [&](const std::string& name) {
+        choose("other");
+        dialogs.inputAnswers = {name};
+        RenameUserSymbol(symbols, editor);
+    };
+    const auto openSource = [&](const std::string& name) {
+        write("Source Symbols", {name, "fits"});
+        OpenUserLibrary(symbols, editor, editor.BasePath, "Source Symbols.lib");
+    };
+    const auto transferred = [&](const std::string& name) {
+        openSource(name);
+        choose(name);
+        TransferUserSymbol(symbols, editor, Transfer::Move, editor.BasePath, "User Symbols.lib");
+    };
+    const auto merged = [&](const std::string& name) {
+        write("Source Symbols", {name});
+        MergeUserLibrary(symbols, editor, editor.BasePath, "Source Symbols.lib");
+        dialogs.boxes.push_back({editor.form.lblMessage.Caption, "Name Rejected", Buttons::Ok});
+    };
+    const auto moved = [&](const std::string& name) {
+        openSource(name);
+        ListUserLibraries(symbols, editor);
+        LibManager manager;
+        mnuLibManageUserLibraries_Click(manager, symbols, editor);
+        lstDestinationLibrary_Click(manager, editor, 1);
+        frmLibManager_cmdSym_Click(manager, 0);
+        cmdMove_Click(manager, symbols, editor);
+        EXPECT_EQ(list("Source Symbols"), name + " fits") << "it stays where it is";
+    };
+    const std::vector<std::pair<const char*, std::function<void(const std::string&)>>> ways = {
+        {"saved", saved},
+        {"renamed", renamed},
+        {"transferred", transferred},
+        {"merged", merged},
+        {"moved", moved}};
+    struct {
+        const char *there, *name, *reason;
+    } const names[] = {
+        {"A", "A_cyan",
+         "A symbol cannot be named \"A_cyan\": its picture would be the second one of a symbol "
+         "\"A\"."},
+        {"B", "A_Cyan",
+         "A symbol cannot be named \"A_Cyan\": its picture would be the second one of a symbol "
+         "\"A\"."},
+        {"a_cyan", "A",
+         "A symbol cannot be named \"A\" here: its second picture would be that of the symbol "
+         "\"A_Cyan\"."},
+    };
+    for (const auto& [how, way] : ways)
+        for (const auto& c : names) {
+            SCOPED_TRACE(std::string(how) + ": " + c.name + " beside " + c.there);
+            removeSymbols(machine.files, editor.BasePath + "User Symbols/",
+                          {"a_cyan", "A", "B", "other"});
+            write("User Symbols", {c.there, "other"});
+            OpenUserLibrary(symbols, editor, editor.BasePath, "User Symbols.lib");
+            const std::string before = scripts("User Symbols");
+            dialogs.boxes.clear();
+            way(c.name);
+            ASSERT_FALSE(dialogs.boxes.empty());
+            EXPECT_NE(lastBox().find(c.reason), std::string::npos) << lastBox();
+            EXPECT_EQ(dialogs.boxes.back().title, "Name Rejected");
+            EXPECT_EQ(scripts("User Symbols"), before);
+        }
+    EXPECT_TRUE(machine.reports.empty());
+}
+
+TEST_F(LibrariesTest, SymbolsThatShareAPictureFromBeforeCanBeRemovedApart) {
+    for (const bool first : {true, false}) {
+        write("User Symbols", {"A", "A_Cyan", "B"});
+        load();
+        ASSERT_EQ(symbols.UserSymbolCount, 3);
+        choose(first ? "A" : "A_Cyan");
+        dialogs.answers = {Answer::Yes};
+        DeleteUserSymbol(symbols, editor);
+        EXPECT_EQ(list("User Symbols"), first ? "A_Cyan B" : "A B");
+        choose(first ? "A_Cyan" : "A");
+        dialogs.inputAnswers = {"C"};
+        RenameUserSymbol(symbols, editor);
+        EXPECT_EQ(list("User Symbols"), "C B");
+        EXPECT_FALSE(disk.has("documents/User Symbols/A_Cyan.bmp"));
+        removeSymbols(machine.files, symbols.SymbolFolder, {"C"});
+    }
+    EXPECT_TRUE(machine.reports.empty());
 }
 
 TEST_F(LibrariesTest, TransfersStopAtAFullLibraryAndAtASymbolOfTheSameName) {
