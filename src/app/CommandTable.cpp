@@ -90,6 +90,7 @@ constexpr Command Commands[] = {
     {Menu::mnuLibOpen, Menu::mnuLibraries, "mnuLibOpen", "Open User &Library", "", mnuLibOpen_Click, true, false},
     {Menu::mnuLibNewLibrary, Menu::mnuLibraries, "mnuLibNewLibrary", "Create New User Librar&y", "", mnuLibNewLibrary_Click, false, false},
     {Menu::mnuLibMerge, Menu::mnuLibraries, "mnuLibMerge", "&Merge Another Library into This One", "", mnuLibMerge_Click, false, false},
+    {Menu::mnuLibBringBack, Menu::mnuLibraries, "mnuLibBringBack", "&Bring Back a Removed Symbol...", "", mnuLibBringBack_Click, false, false},
     {Menu::mnuLibraryNext, Menu::mnuLibraries, "mnuLibraryNext", "Index to Ne&xt User Library", "", mnuLibraryNext_Click, false, false},
     {Menu::mnuLibraryPrevious, Menu::mnuLibraries, "mnuLibraryPrevious", "Index to &Previous User Library", "", mnuLibraryPrevious_Click, false, false},
     {Menu::mnuLibFind, Menu::mnuLibraries, "mnuLibFind", "&Find Symbol...", "Ctrl+F", mnuLibFind_Click, true, false},

@@ -48,6 +48,7 @@ constexpr HelpContext Contexts[] = {
     {"frmUBRows", "7.3 The User Palette"},
     {"frmLibManager", "7.5 The Library Manager"},
     {"frmFind", "7.6 Finding a Symbol"},
+    {"frmRemoved", "7.8 Bringing Back What Was Removed"},
     {"frmLayout", "3.4 Page Sizes"},
     {"frmPrinter", "6.1 Printing"},
     {"frmPrinters", "6.1 Printing"},

@@ -18,6 +18,7 @@
 #include "platform/ReadState.h"
 #include "simulation/Simulation.h"
 #include "usersymbols/LibManager.h"
+#include "usersymbols/RemovedForm.h"
 #include "usersymbols/SymbolSearch.h"
 #include "usersymbols/UserSymbols.h"
 
@@ -58,6 +59,7 @@ struct Program {
     Simulation simulation;
     LibManager frmLibManager;
     SymbolSearch frmFind;
+    RemovedForm frmRemoved;
     LogViewer frmLog;
     TextProperties frmTextProps;
     RecentFiles recentFiles;

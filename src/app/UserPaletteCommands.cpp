@@ -18,6 +18,10 @@ void mnuLibFind_Click(Program& program) {
     mnuLibFind_Click(program.frmFind, program.usersymbols, program.editor);
 }
 
+void mnuLibBringBack_Click(Program& program) {
+    mnuLibBringBack_Click(program.frmRemoved, program.usersymbols, program.editor);
+}
+
 void mnuLibManageOrder_Click(Program& program) {
     mnuLibManageOrder_Click(program.usersymbols, program.editor);
 }

@@ -8,6 +8,7 @@ namespace ladrix {
 
 void mnuLibManageUserLibraries_Click(Program& program);
 void mnuLibFind_Click(Program& program);
+void mnuLibBringBack_Click(Program& program);
 void mnuLibManageOrder_Click(Program& program);
 void mnuLibManageRows_Click(Program& program);
 

@@ -33,6 +33,7 @@ enum class Form {
     frmUBRows,
     frmLibManager,
     frmFind,
+    frmRemoved,
     frmLayout,
     frmPrinter,
     frmPrinters,

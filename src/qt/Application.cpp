@@ -20,6 +20,7 @@
 #include "qt/PrinterDialog.h"
 #include "qt/PrintersDialog.h"
 #include "qt/QtPlatform.h"
+#include "qt/RemovedDialog.h"
 #include "qt/SymbolDialogs.h"
 #include "qt/TextPropsDialog.h"
 #include "qt/Theme.h"
@@ -84,6 +85,9 @@ void runForm(QtPlatform& machine, Program& program, QWidget* window, Form form) 
             return;
         case Form::frmLibManager:
             LibManagerDialog(program, window).run();
+            return;
+        case Form::frmRemoved:
+            RemovedDialog(program, window).run();
             return;
         case Form::frmUS:
             SaveSymbolDialog(program, window).run();

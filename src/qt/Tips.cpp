@@ -87,6 +87,10 @@ constexpr Tip Tips[] = {
     {"frmLibManager", "cmbScale", "Scale of the preview"},
     {"frmLibManager", "cmdExit", "Close the manager"},
 
+    {"frmRemoved", "lstRemoved", "Removed symbols and libraries, the newest first"},
+    {"frmRemoved", "cmdBringBack", "Put it back (Enter)"},
+    {"frmRemoved", "cmdExit", "Close the list (Esc)"},
+
     {"frmLayout", "optOrient0", "Upright page"},
     {"frmLayout", "optOrient1", "Wide page"},
     {"frmLayout", "cmdOK", "Use this page for the drawing (Enter)"},

@@ -1,6 +1,7 @@
 #include "usersymbols/LibManagerFiles.h"
 
 #include <algorithm>
+#include <set>
 
 #include "platform/Encoding.h"
 #include "platform/Numbers.h"
@@ -54,10 +55,18 @@ void writeSource(const LibManager& manager, Files& files) {
     writeList(files, sourceOf(manager), changedList(files, sourceOf(manager), change));
 }
 
-// The list first, then the files.
-void removeSelected(LibManager& manager, const UserSymbols& symbols, Editor& editor) {
+void keepRemoved(const Editor& editor, const LibraryPlace& library,
+                 const std::vector<std::string>& names) {
+    Files& files = *editor.platform.files;
+    keepSymbols(files, removalsFolder(files, editor.BasePath), library, names);
+}
+
+// The list first, then the files; before both, a copy of those that stand nowhere else.
+void removeSelected(LibManager& manager, const UserSymbols& symbols, Editor& editor,
+                    const std::vector<std::string>& toKeep) {
     Files& files = *editor.platform.files;
     const std::vector<std::string> names = selectedNames(manager);
+    keepRemoved(editor, sourceOf(manager), toKeep);
     for (std::size_t i = 0; i < manager.ManagerSymbolState.size(); ++i)
         if (manager.ManagerSymbolState[i].Selected) manager.ManagerSymbolName[i].clear();
     writeSource(manager, files);
@@ -99,17 +108,31 @@ bool leaveOutRefused(LibManager& manager, Editor& editor) {
     return manager.ManagerSelectedCount > 0;
 }
 
-// Every symbol whose files are there is in `lines`, even when a later one fails.
-void copySelected(const LibManager& manager, Editor& editor, std::vector<std::string>& lines) {
-    Files& files = *editor.platform.files;
-    const FolderIndex here(files, manager.ManagerSourceFolder);
-    const FolderIndex there(files, manager.ManagerDestFolder);
+// The names that are to be transferred, by what the user answers; Cancel ends them.
+struct TransferChoice {
+    std::vector<std::string> names, replaced;
+};
+TransferChoice chooseTransfers(const LibManager& manager, const Editor& editor) {
+    const FolderIndex there(*editor.platform.files, manager.ManagerDestFolder);
+    TransferChoice choice;
     for (const std::string& name : selectedNames(manager)) {
         if (there.has(name + ".uds")) {
             const Answer answer = mayReplace(editor, name);
-            if (answer == Answer::Cancel) return;
+            if (answer == Answer::Cancel) break;
             if (answer == Answer::No) continue;
         }
+        choice.names.push_back(name);
+        if (there.hasAny(name)) choice.replaced.push_back(name);
+    }
+    return choice;
+}
+
+// Every symbol whose files are there is in `lines`, even when a later one fails.
+void copySymbols(const LibManager& manager, Editor& editor, const std::vector<std::string>& names,
+                 std::vector<std::string>& lines) {
+    Files& files = *editor.platform.files;
+    const FolderIndex here(files, manager.ManagerSourceFolder);
+    for (const std::string& name : names) {
         writeSymbol(files, manager.ManagerDestFolder, name,
                     readSymbol(files, manager.ManagerSourceFolder, here, name));
         listOnce(lines, name);
@@ -128,19 +151,32 @@ bool mayTransfer(const LibManager& manager, const Editor& editor) {
     return false;
 }
 
-// Throws a Failure; what has been copied until then is listed.
-void transferSelectedSymbols(LibManager& manager, Editor& editor) {
+// The names of those that were transferred. Throws a Failure; what has been copied until then is
+// listed.
+std::vector<std::string> transferSelectedSymbols(LibManager& manager, Editor& editor) {
     Files& files = *editor.platform.files;
     const LibraryPlace destination = destinationOf(manager, editor);
     manager.ManagerDestLines = readList(files, destination);
+    TransferChoice choice = chooseTransfers(manager, editor);
+    keepRemoved(editor, destination, choice.replaced);
     try {
-        copySelected(manager, editor, manager.ManagerDestLines);
+        copySymbols(manager, editor, choice.names, manager.ManagerDestLines);
     } catch (const Failure&) {
         writeList(files, destination, manager.ManagerDestLines);
         throw;
     }
     writeList(files, destination, manager.ManagerDestLines);
     if (std::exchange(manager.ManagerCopying, false)) editor.platform.tell("Action Complete.");
+    return std::move(choice.names);
+}
+
+// The selected symbols that a Move removes although they were not transferred.
+std::vector<std::string> dropped(const LibManager& manager,
+                                 const std::vector<std::string>& transferred) {
+    const std::set<std::string_view> there(transferred.begin(), transferred.end());
+    std::vector<std::string> names = selectedNames(manager);
+    std::erase_if(names, [&](const std::string& name) { return there.contains(name); });
+    return names;
 }
 
 void relist(LibManager& manager, UserSymbols& symbols, Editor& editor) {
@@ -171,7 +207,7 @@ void cmdDelete_Click(LibManager& manager, UserSymbols& symbols, Editor& editor) 
         "Preparing to Delete Symbols", Buttons::YesNo);
     if (answer != Answer::Yes) return;
     changeSource(manager, symbols, editor, "Delete User Symbols", [&] {
-        removeSelected(manager, symbols, editor);
+        removeSelected(manager, symbols, editor, selectedNames(manager));
         editor.platform.tell("Items deleted.");
     });
 }
@@ -211,8 +247,8 @@ void cmdMove_Click(LibManager& manager, UserSymbols& symbols, Editor& editor) {
     if (!mayTransfer(manager, editor)) return;
     changeSource(manager, symbols, editor, "Move User Symbols", [&] {
         if (!leaveOutRefused(manager, editor)) return;
-        transferSelectedSymbols(manager, editor);
-        removeSelected(manager, symbols, editor);
+        const std::vector<std::string> transferred = transferSelectedSymbols(manager, editor);
+        removeSelected(manager, symbols, editor, dropped(manager, transferred));
         editor.platform.tell("Action Completed.");
     });
 }

@@ -55,7 +55,8 @@ void RunLibraryChain(UserSymbols& symbols, Editor& editor);
 void ReloadLibrary(UserSymbols& symbols, Editor& editor);
 
 // The compiled symbol under this name, which has been checked: three files, the list, "Symbol
-// Saved", the export file, then the library anew. Takes the place of a symbol of that name.
+// Saved", the export file, then the library anew. Takes the place of a symbol of that name, which
+// is kept among the removed ones.
 void SaveUserSymbol(UserSymbols& symbols, Editor& editor, const std::string& name);
 
 // True if the name can be a file's; else tells why under "Illegal Filename".

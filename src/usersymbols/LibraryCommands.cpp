@@ -5,6 +5,7 @@
 #include "platform/Numbers.h"
 #include "usersymbols/Compiler.h"
 #include "usersymbols/Libraries.h"
+#include "usersymbols/RemovedSymbols.h"
 #include "usersymbols/UserPalette.h"
 
 namespace ladrix {
@@ -114,6 +115,12 @@ void requireReadableList(const UserSymbols& symbols, const Editor& editor) {
     readList(*editor.platform.files, currentLibrary(symbols));
 }
 
+// Before a symbol of the current library is removed or replaced. Throws a Failure.
+void keepRemoved(const UserSymbols& symbols, const Editor& editor, const std::string& name) {
+    Files& files = *editor.platform.files;
+    keepSymbols(files, removalsFolder(files, editor.BasePath), currentLibrary(symbols), {name});
+}
+
 // The list without the symbol is written before its files go.
 void removeFromLibrary(UserSymbols& symbols, Editor& editor, Short row) {
     const std::string name = std::exchange(nameAt(symbols, row), {});
@@ -203,6 +210,7 @@ void SaveUserSymbol(UserSymbols& symbols, Editor& editor, const std::string& nam
     const Platform& platform = editor.platform;
     if (symbols.frmUS.picIcon == nullptr || symbols.frmUS.picCyanIcon == nullptr) return;
     requireReadableList(symbols, editor);
+    keepRemoved(symbols, editor, name);
     writeSymbol(*platform.files, symbols.SymbolFolder, name,
                 compiledSymbol(symbols, *platform.images));
     listNewSymbol(symbols, editor, name);
@@ -304,6 +312,7 @@ void DeleteUserSymbol(UserSymbols& symbols, Editor& editor) {
         return;
     guarded(editor, "Delete User Button", [&] {
         const std::string name = nameAt(symbols, row);
+        keepRemoved(symbols, editor, name);
         removeFromLibrary(symbols, editor, row);
         tellDone(editor, name, "deleted");
     });

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <ctime>
+#include <iterator>
 #include <optional>
 #include <set>
 #include <tuple>
@@ -43,6 +44,7 @@ std::string_view nameBehindStamp(std::string_view name) {
 // A removal on disk; the folder ends in the separator.
 struct Removal {
     std::string folder, stamp, list;  // the list's name
+    bool isLibrary = false;
     FileTime modified;
 };
 
@@ -60,10 +62,11 @@ std::optional<Removal> removalOf(Files& files, const std::string& removals,
     const std::string path = removals + entry.name;
     if (!entry.isFolder || !isStamped(entry.name) || files.isLink(path)) return std::nullopt;
     const std::string folder = path + files.separator();
-    std::string list = listIn(files.fileNames(folder), nameBehindStamp(entry.name));
+    const std::string_view library = nameBehindStamp(entry.name);
+    std::string list = listIn(files.fileNames(folder), library);
     if (list.empty()) return std::nullopt;
     return Removal{folder, entry.name.substr(0, StampPattern.size()), std::move(list),
-                   entry.modified};
+                   !library.empty(), entry.modified};
 }
 
 // The oldest first. One that cannot be read hides no other.
@@ -138,9 +141,38 @@ void removeOldest(Files& files, const std::string& removals) {
     try {
         const std::vector<Removal> all = removalsIn(files, removals);
         for (std::size_t i = 0; i + RemovalsKept < all.size(); ++i)
-            discard(files, all[i].folder, linesOf(files.read(all[i].folder + all[i].list)));
+            discard(files, all[i].folder, listLines(files.read(all[i].folder + all[i].list)));
     } catch (const Failure&) {
     }
+}
+
+// "2026-11-23 09:41:07"
+std::string readableTime(std::string stamp) {
+    std::replace(stamp.begin() + static_cast<std::ptrdiff_t>(stamp.find(' ')), stamp.end(), '-',
+                 ':');
+    return stamp;
+}
+
+// What one removal holds, a library before its symbols.
+std::vector<RemovedItem> itemsOf(Files& files, const Removal& removal) {
+    const FolderIndex index(files, removal.folder);
+    const RemovedItem common{removal.folder,
+                             {},
+                             std::string(nameWithoutExtension(removal.list)),
+                             readableTime(removal.stamp)};
+    std::vector<RemovedItem> items;
+    if (removal.isLibrary) items.push_back(common);
+    for (const std::string& name : listLines(files.read(removal.folder + removal.list))) {
+        if (name.empty() || !index.hasAll(name)) continue;
+        items.push_back(common);
+        items.back().Name = name;
+    }
+    if (!removal.isLibrary) return items;
+    RemovedItem& whole = items.front();
+    whole.Name = whole.Library;
+    whole.IsLibrary = true;
+    whole.SymbolCount = items.size() - 1;
+    return items;
 }
 
 // The folder of a new removal, which does not exist yet; those above it do then.
@@ -228,7 +260,7 @@ void LibraryRemoval::takeFolderAway() {
     if (renamed(files_, path_, withoutSeparator(newRemoval(files_, removals_, library_.Name))))
         return;
     keepCopies();
-    discard(files_, folder_, linesOf(listText_));
+    discard(files_, folder_, listLines(listText_));
 }
 
 // The list goes before the folder: until that is gone, the next start makes a library of it again,
@@ -276,6 +308,35 @@ void keepSymbols(Files& files, const std::string& removals, const LibraryPlace& 
 void removeLibrary(Files& files, const std::string& removals, const LibraryPlace& library) {
     LibraryRemoval(files, library, removals).run();
     removeOldest(files, removals);
+}
+
+std::vector<RemovedItem> removedItems(Files& files, const std::string& removals) {
+    std::vector<RemovedItem> items;
+    if (!files.status(withoutSeparator(removals))) return items;
+    std::vector<Removal> all = removalsIn(files, removals);
+    std::reverse(all.begin(), all.end());
+    for (const Removal& removal : all) {
+        try {
+            std::ranges::move(itemsOf(files, removal), std::back_inserter(items));
+        } catch (const Failure&) {
+            continue;
+        }
+    }
+    return items;
+}
+
+// The list inside comes first: whatever breaks off then, a start makes the library's list from it.
+void restoreLibrary(Files& files, const RemovedItem& item, const LibraryPlace& library) {
+    const std::string text = files.read(item.Folder + item.Library + std::string(ListEnding));
+    files.replace(item.Folder + library.file(), text);
+    if (!renamed(files, withoutSeparator(item.Folder), library.Folder + library.Name)) {
+        const std::string to = library.symbolFolder(files);
+        makeMissingFolder(files, to);
+        const FolderIndex index(files, item.Folder);
+        for (const std::string& name : index.scripts())
+            copySymbol(files, item.Folder, index, name, to);
+    }
+    files.replace(library.path(), text);
 }
 
 }  // namespace ladrix

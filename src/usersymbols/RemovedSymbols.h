@@ -36,4 +36,22 @@ void keepSymbols(Files& files, const std::string& removals, const LibraryPlace& 
 // as before, unless the text tells what has stayed.
 void removeLibrary(Files& files, const std::string& removals, const LibraryPlace& library);
 
+// What can be brought back: a symbol with its three files, or a library as a whole.
+struct RemovedItem {
+    std::string Folder;   // of the removal, ends in the separator
+    std::string Name;     // the symbol's, or the library's
+    std::string Library;  // that it came from; its list stands in Folder under this name
+    std::string When;     // "2026-11-23 09:41:07", local time
+    bool IsLibrary = false;
+    std::size_t SymbolCount = 1;  // of a library
+};
+
+// The newest first, a library before its symbols. Nothing where the folder is missing; a removal
+// that cannot be read is left out.
+std::vector<RemovedItem> removedItems(Files& files, const std::string& removals);
+
+// Puts a removed library back under a name that is free. Throws a Failure; what is there then is a
+// library at the next start.
+void restoreLibrary(Files& files, const RemovedItem& item, const LibraryPlace& library);
+
 }  // namespace ladrix

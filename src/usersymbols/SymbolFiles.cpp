@@ -206,7 +206,7 @@ std::string listText(const std::vector<std::string>& names) {
     return text;
 }
 
-std::vector<std::string> linesOf(std::string_view text) {
+std::vector<std::string> listLines(std::string_view text) {
     std::vector<std::string> lines;
     while (!text.empty()) {
         const std::size_t end = text.find('\n');
@@ -226,7 +226,7 @@ void makeMissingFolder(Files& files, const std::string& folder) {
 std::vector<std::string> readList(Files& files, const LibraryPlace& library) {
     const auto name = FolderIndex(files, library.Folder).find(library.file());
     if (!name) return {};
-    return linesOf(files.read(library.Folder + *name));
+    return listLines(files.read(library.Folder + *name));
 }
 
 void writeList(Files& files, const LibraryPlace& library, const std::vector<std::string>& names) {
@@ -288,6 +288,10 @@ SymbolFiles readSymbol(Files& files, const std::string& symbolFolder, const Fold
     const auto script = [&](const std::string& path) { return readScript(files, path); };
     const auto icon = [&](const std::string& path) { return files.read(path, LargestIcon); };
     return {content(Endings[0], script), content(Endings[1], icon), content(Endings[2], icon)};
+}
+
+std::string readIcon(Files& files, const std::string& symbolFolder, std::string_view name) {
+    return files.read(symbolFolder + withEnding(name, Endings[1]), LargestIcon);
 }
 
 void writeNewSymbol(Files& files, const std::string& symbolFolder, std::string_view name,

@@ -67,7 +67,7 @@ std::string nameRefusal(const FolderIndex& index, std::string_view name);
 // The list's path, as its name stands on disk if it is there. Its text, and back to its lines.
 std::string listPath(Files& files, const LibraryPlace& library);
 std::string listText(const std::vector<std::string>& names);
-std::vector<std::string> linesOf(std::string_view text);
+std::vector<std::string> listLines(std::string_view text);
 
 // One level, if it is missing. `folder` ends in the separator.
 void makeMissingFolder(Files& files, const std::string& folder);
@@ -94,6 +94,8 @@ std::size_t CountLibraryLines(Files& files, const std::string& folder, std::stri
 // case of a name differs. A script beyond 1 MiB is refused.
 SymbolFiles readSymbol(Files& files, const std::string& symbolFolder, const FolderIndex& index,
                        std::string_view name);
+// The picture alone; its name must stand on disk as it is told.
+std::string readIcon(Files& files, const std::string& symbolFolder, std::string_view name);
 // Makes the folder if it is missing. Writing over a symbol replaces the three files together.
 void writeSymbol(Files& files, const std::string& symbolFolder, std::string_view name,
                  const SymbolFiles& content);

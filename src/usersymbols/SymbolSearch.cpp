@@ -200,11 +200,11 @@ void frmFind_Close(SymbolSearch& search) {
 }
 
 std::shared_ptr<const Picture> pictureOfEntry(const SearchEntry& entry, const Platform& platform) {
-    constexpr std::uintmax_t LargestPicture = 4 * 1024 * 1024;  // bytes
     const LibraryPlace library = libraryPlace(entry.LibraryFolder, entry.LibraryFile);
-    const std::string path = library.symbolFolder(*platform.files) + entry.Name + ".bmp";
+    Files& files = *platform.files;
     try {
-        return platform.images->fromBitmap(platform.files->read(path, LargestPicture));
+        return platform.images->fromBitmap(
+            readIcon(files, library.symbolFolder(files), entry.Name));
     } catch (const Failure&) {
         return nullptr;  // the row stands without a picture
     }

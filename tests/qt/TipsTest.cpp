@@ -21,6 +21,7 @@
 #include "qt/PreviewDialog.h"
 #include "qt/PrinterDialog.h"
 #include "qt/PrintersDialog.h"
+#include "qt/RemovedDialog.h"
 #include "qt/SymbolDialogs.h"
 #include "qt/TextPropsDialog.h"
 
@@ -96,7 +97,7 @@ TEST_F(TipsTest, EveryControlOfADialogTellsWhatItDoes) {
     frmLayout_Load(program->frmLayout, program->editor);
     expectTips<FileDialog, DescriptionDialog, LogDialog, TextPropsDialog, FavoritesDialog,
                LayoutDialog, PreviewDialog, PaletteRowsDialog, PrinterDialog, PrintersDialog,
-               ButtonColorDialog, SaveSymbolDialog, LibManagerDialog>(*program);
+               ButtonColorDialog, SaveSymbolDialog, LibManagerDialog, RemovedDialog>(*program);
 }
 
 }  // namespace

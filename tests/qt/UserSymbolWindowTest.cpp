@@ -6,12 +6,14 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QTreeView>
 
 #include "ProgramOnQt.h"
 #include "app/CommandTable.h"
 #include "qt/ColorPanel.h"
 #include "qt/LibManagerDialog.h"
 #include "qt/QtImages.h"
+#include "qt/RemovedDialog.h"
 #include "qt/SymbolDialogs.h"
 #include "qt/Theme.h"
 
@@ -139,6 +141,35 @@ TEST_F(UserSymbolWindowTest, CapturedPlacedArrangedTransferredAndFoundAfterARest
     search("zener");
     EXPECT_EQ(toolTag(), "Zener Diode");
     EXPECT_FALSE(window->palette().buttonRect(editor().gesture.CurrentTool).isEmpty());
+}
+
+TEST_F(UserSymbolWindowTest, ADeletedSymbolIsSeenAndBroughtBack) {
+    draw(3, {{2, 2}, {3, 2}});
+    for (const char* name : {"Alpha", "Beta"})
+        capture(name);
+    for (int i = 0; i < 2; ++i) {
+        program->usersymbols.ContextButton = 92;
+        machine.dialogs.answers = {Answer::Yes};
+        run(Menu::mnuLibManageDelete);
+    }
+    ASSERT_EQ(names(), QStringList());
+    machine.dialogs.duringForm = [&](Form) {
+        test::drive<RemovedDialog>(*program, [&](RemovedDialog& dialog) {
+            auto& shown = named<QTreeView>(dialog, "lstRemoved");
+            const QAbstractItemModel& rows = *shown.model();
+            ASSERT_EQ(rows.rowCount(), 2);
+            EXPECT_EQ(rows.index(1, 0).data(), "Alpha");
+            EXPECT_EQ(rows.index(1, 1).data(), "User Symbols");
+            const auto picture = rows.index(1, 0).data(Qt::DecorationRole).value<QPixmap>();
+            EXPECT_EQ(picture.toImage().pixelColor(0, 0).alpha(), 255) << "it has been read";
+            test::press(Qt::Key_Down);
+            test::press(Qt::Key_Return);
+        });
+    };
+    run(Menu::mnuLibBringBack);
+    EXPECT_EQ(names(), QStringList{"Alpha"});
+    EXPECT_EQ(editor().form.lblMessage.Caption, "Alpha is back in User Symbols.");
+    EXPECT_TRUE(machine.reports.empty());
 }
 
 TEST_F(UserSymbolWindowTest, ColumnsLeaveThePageItsRoomAndEverySymbolCanBeReached) {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <map>
+#include <set>
 
 #include "LibraryBench.h"
 #include "platform/Encoding.h"
@@ -359,6 +360,11 @@ struct Killed {};
 // Each symbol of each library as a fresh start finds it: "library/name" to its three files.
 using Shelf = std::map<std::string, std::string>;
 
+std::string contentOf(Files& files, const std::string& folder, const std::string& name) {
+    const SymbolFiles content = readSymbol(files, folder, FolderIndex(files, folder), name);
+    return content.script + "|" + content.picture + "|" + content.cyanPicture;
+}
+
 Shelf shelfAfterStart(const TemporaryFolder& disk, Platform& platform) {
     DiskFiles files;
     platform.files = &files;
@@ -372,14 +378,20 @@ Shelf shelfAfterStart(const TemporaryFolder& disk, Platform& platform) {
     for (const std::string& library : symbols.LibraryList) {
         selectLibrary(symbols, editor, editor.BasePath, library);
         ReloadLibrary(symbols, editor);
-        const FolderIndex index(files, symbols.SymbolFolder);
-        for (const std::string& name : symbols.UserSymbolName) {
-            const SymbolFiles content = readSymbol(files, symbols.SymbolFolder, index, name);
+        for (const std::string& name : symbols.UserSymbolName)
             shelf[symbols.LibraryName + "/" + lowerCase(name)] =
-                content.script + "|" + content.picture + "|" + content.cyanPicture;
-        }
+                contentOf(files, symbols.SymbolFolder, name);
     }
     return shelf;
+}
+
+// What is kept of removed symbols.
+std::set<std::string> keptContents(const TemporaryFolder& disk) {
+    DiskFiles files;
+    std::set<std::string> contents;
+    for (const RemovedItem& item : removedItems(files, removalsFolder(files, disk / "documents/")))
+        if (!item.IsLibrary) contents.insert(contentOf(files, item.Folder, item.Name));
+    return contents;
 }
 
 struct Change {
@@ -458,6 +470,7 @@ struct Outcome {
     bool finished = false;
     std::size_t reports = 0;
     Shelf shelf;
+    std::set<std::string> kept;
     std::vector<std::string> leftovers;
 };
 
@@ -471,7 +484,7 @@ Outcome runBroken(const Change& change, int at, bool kill) {
     ListUserLibraries(bench.symbols, bench.editor);
     ReloadLibrary(bench.symbols, bench.editor);
     int calls = 0;
-    Outcome outcome{true, 0, {}, {}};
+    Outcome outcome{true, 0, {}, {}, {}};
     test::FaultyFiles files;
     files.beforeChange = [&] {
         if (calls++ != at) return;
@@ -487,6 +500,7 @@ Outcome runBroken(const Change& change, int at, bool kill) {
     }
     outcome.reports = bench.machine.reports.size();
     outcome.shelf = shelfAfterStart(disk, bench.machine.platform);
+    outcome.kept = keptContents(disk);
     for (const std::string& name : disk.entries("documents/User Symbols"))
         if (name.ends_with(".new")) outcome.leftovers.push_back(name);
     return outcome;
@@ -511,6 +525,15 @@ void expectEachWhole(const Shelf& shelf, const Shelf& before, const Shelf& after
     }
 }
 
+// What is no longer on the shelf, under whatever name, has been kept.
+void expectNoneLost(const Outcome& outcome, const Shelf& before, const std::string& where) {
+    std::set<std::string> there = outcome.kept;
+    for (const auto& [name, content] : outcome.shelf)
+        there.insert(content);
+    for (const auto& [name, content] : before)
+        EXPECT_TRUE(there.contains(content)) << where << ": nothing is left of " << name;
+}
+
 TEST(LibraryChangesTest, AKillOrAFailureAtAnyMomentLeavesEverySymbolWhole) {
     for (const Change& change : changes()) {
         const Shelf before = runBroken({"nothing", [](SymbolBench&) {}}, -1, true).shelf;
@@ -524,6 +547,7 @@ TEST(LibraryChangesTest, AKillOrAFailureAtAnyMomentLeavesEverySymbolWhole) {
                 const std::string where =
                     change.name + (kill ? " killed at " : " failing at ") + std::to_string(at);
                 expectEachWhole(outcome.shelf, before, whole.shelf, change.moves, where);
+                expectNoneLost(outcome, before, where);
                 EXPECT_EQ(outcome.leftovers, std::vector<std::string>{}) << where;
                 if (outcome.finished) break;
                 // What went another way in spite of it needs no report.

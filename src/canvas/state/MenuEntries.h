@@ -19,7 +19,7 @@ enum class Menu : unsigned char {
     mnuLayoutMore,
     mnuLibraries, mnuLibManage, mnuLibManageUserLibraries, mnuLibManageRename, mnuLibManageDelete,
     mnuLibManageMove, mnuLibManageCopy, mnuLibManageOrder, mnuLibManageRows, mnuLibElectrical, mnuLibElectronic, mnuLibIEC, mnuLibHyd, mnuLibOpen,
-    mnuLibNewLibrary, mnuLibMerge, mnuLibraryNext, mnuLibraryPrevious, mnuLibFind,
+    mnuLibNewLibrary, mnuLibMerge, mnuLibBringBack, mnuLibraryNext, mnuLibraryPrevious, mnuLibFind,
     mnuInsert, mnuInsertPicture,
     mnuEdit, mnuEditFileDescription, mnuEditText, mnuEditTextCaption, mnuEditTextProps,
     mnuEditTextAlignLeft, mnuEditTextAlignRight, mnuEditTextAlignTop, mnuEditDrawing,
