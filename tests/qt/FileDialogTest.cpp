@@ -274,7 +274,9 @@ TEST_F(FileDialogTest, NothingIsCutOffInLargeType) {
 TEST_F(FileDialogTest, TheSheetMakesThePreviewsInSightAndAClickChooses) {
     for (int i = 1; i <= 1000; ++i)
         write("d" + std::to_string(i) + ".els", std::to_string(i));
-    fake.folder.write("drawings/a damaged.els", std::string(2000, '\x90'));
+    fake.folder.write("drawings/a damaged.els",
+                      "8.5x11Portrait\r\n\r\nInsertLamp\xFFtwo\xFF"
+                      "2\r\n\r\n");
     open([&](FileDialog& dialog) {
         named<QPushButton>(dialog, "cmdPreviewAll").click();
         PreviewSheet& sheet = named<PreviewSheet>(dialog, "previewSheet");

@@ -72,16 +72,19 @@ std::string nameInFolder(const Editor& editor, const PictureRow& row, const std:
 }
 
 void makeMissingFolder(Files& files, const std::string& parent, std::string_view name) {
-    if (!FolderExists(files, parent, name)) files.makeFolder(parent + std::string(name));
+    const std::string folder = parent + std::string(name);
+    const auto present = files.status(folder);
+    if (!present || !present->isFolder) files.makeFolder(folder);
 }
 
+// What was kept stands in for a file that cannot be read any more.
 void writeFile(const Editor& editor, const std::string& from, const std::string& to) {
     Files& files = *editor.platform.files;
     try {
         files.copy(from, to);
     } catch (const Failure&) {
         const auto kept = editor.KeptPictureFiles.find(from);
-        if (kept == editor.KeptPictureFiles.end()) throw;
+        if (kept == editor.KeptPictureFiles.end() || contentOf(files, from)) throw;
         files.replace(to, *kept->second);
     }
 }
