@@ -247,6 +247,23 @@ class FaultyCalls : public testing::TestWithParam<const char*> {
         EXPECT_FALSE(survivable && outcome.pending) << outcome.said;
     }
 
+    // A folder that is made is flushed, and its parent, before anything else is changed.
+    static void expectFoldersFlushed(const std::vector<Call>& calls) {
+        for (std::size_t i = 0; i < calls.size(); ++i) {
+            if (calls[i].name != "mkdir") continue;
+            std::set<std::string> flushed;
+            for (std::size_t j = i + 1; j < calls.size(); ++j) {
+                if (calls[j].name == "fsync") flushed.insert(calls[j].path);
+                if (calls[j].changes && calls[j].name != "open" && calls[j].name != "fsync" &&
+                    calls[j].name != "close")
+                    break;
+            }
+            const std::string& path = calls[i].path;
+            EXPECT_THAT(flushed, testing::IsSupersetOf(
+                                     {path + "/", path.substr(0, path.rfind('/') + 1)}));
+        }
+    }
+
     const std::string operation = GetParam();
     TemporaryFolder disk;
     Tree before, after;  // `after` of a run without a fault
@@ -261,6 +278,7 @@ TEST_P(FaultyCalls, LeaveTheOldOrTheNewFileAndAreToldOf) {
     ASSERT_TRUE(faultless.hasEnded() && !faultless.pending) << faultless.said;
     ASSERT_NE(after, before);
     ASSERT_FALSE(hasTemporary(after));
+    expectFoldersFlushed(faultless.calls);
     std::set<std::string> names;
     for (const Call& call : faultless.calls)
         names.insert(call.name);

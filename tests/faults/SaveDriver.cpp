@@ -35,7 +35,6 @@ void tell(std::string line) {
 // The whole program on the real files; a person who answers every question with No.
 struct Desk {
     explicit Desk(const std::string& folder) {
-        machine.platform.files = &disk;
         Paths& paths = program.paths;
         paths.AppFilePath = program.editor.AppFilePath = folder + "program/";
         paths.BasePath = program.editor.BasePath = folder + "base/";
@@ -57,9 +56,14 @@ struct Desk {
     }
     Drawing& drawing() { return program.editor.drawing; }
 
+    Platform& onDisk() {
+        machine.platform.files = &disk;
+        return machine.platform;
+    }
+
     FakePlatform machine;
     DiskFiles disk;
-    Program program{machine.platform};
+    Program program{onDisk()};
 };
 
 // ---- The operations; each returns whether something is still to be saved
