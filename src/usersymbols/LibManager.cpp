@@ -60,9 +60,12 @@ void clearSource(LibManager& manager) {
 
 void loadManagerSymbols(LibManager& manager, const UserSymbols& symbols, const Platform& platform) {
     const FolderIndex index(*platform.files, manager.ManagerSourceFolder);
+    LoadNotes notes(symbols, platform, manager.ManagerSourceFile);
     for (const std::string& name : manager.ManagerSourceLines) {
-        if (!index.hasAll(name) || manager.symbolCount() == LargestCount) continue;
-        auto loaded = loadSymbol(symbols, platform, manager.ManagerSourceFolder, index, name);
+        if (!index.hasAll(name)) continue;
+        std::optional<LoadedSymbol> loaded;
+        if (manager.symbolCount() < LargestCount)
+            loaded = loadSymbol(platform, manager.ManagerSourceFolder, index, name, notes);
         if (!loaded) {
             manager.ManagerUnread.push_back(name);
             continue;
@@ -76,6 +79,7 @@ void loadManagerSymbols(LibManager& manager, const UserSymbols& symbols, const P
         state.Name = name;
         manager.ManagerSymbolState.push_back(std::move(state));
     }
+    notes.finish();
 }
 
 void readSource(LibManager& manager, const UserSymbols& symbols, const Platform& platform) {

@@ -5,6 +5,7 @@
 #include "canvas/file/DrawingCommands.h"
 #include "canvas/file/Title.h"
 #include "platform/Encoding.h"
+#include "platform/Numbers.h"
 #include "usersymbols/Script.h"
 #include "usersymbols/UserPalette.h"
 
@@ -14,7 +15,8 @@ namespace {
 
 constexpr std::string_view OldListName = "User Symbol Structure.txt";
 constexpr std::string_view ShippedListName = "Default User Symbols.lib";
-constexpr int IconSide = 25;  // pixels, of the picture that stands in for a damaged one
+constexpr std::size_t LinesNoted = 20;  // of one library
+constexpr int IconSide = 25;            // pixels, of the picture that stands in for a damaged one
 
 void note(const UserSymbols& symbols, std::string_view line) {
     if (symbols.NoteRepair) symbols.NoteRepair(line);
@@ -96,13 +98,12 @@ void appendSymbol(UserSymbols& symbols, const std::string& name, LoadedSymbol lo
 }
 
 // A damaged picture takes no symbol away: a blank one stands in.
-std::shared_ptr<const Picture> pictureOf(const UserSymbols& symbols, Images& images,
-                                         std::string_view bytes, std::string_view what,
-                                         Long blank) {
+std::shared_ptr<const Picture> pictureOf(Images& images, std::string_view bytes,
+                                         std::string_view what, Long blank, LoadNotes& notes) {
     try {
         return images.fromBitmap(bytes);
     } catch (const Failure& failure) {
-        note(symbols, std::string(what) + ": damaged, shown blank. " + failure.text);
+        notes.add(std::string(what) + ": damaged, shown blank. " + failure.text);
         const auto empty = images.makePicture(IconSide, IconSide);
         empty->BackColor = blank;
         empty->Cls();
@@ -117,14 +118,18 @@ void loadListed(UserSymbols& symbols, Editor& editor) {
         finishLibraryWrites(symbols, files, currentLibrary(symbols));
         index = FolderIndex(files, symbols.SymbolFolder);
     }
+    LoadNotes notes(symbols, editor.platform, symbols.LibraryFile);
     for (const std::string& name : symbols.LibraryLines) {
-        if (symbols.UserSymbolCount == LargestCount) return;
         if (name.empty()) continue;
-        if (auto loaded = loadSymbol(symbols, editor.platform, symbols.SymbolFolder, index, name))
+        std::optional<LoadedSymbol> loaded;
+        if (symbols.UserSymbolCount < LargestCount)
+            loaded = loadSymbol(editor.platform, symbols.SymbolFolder, index, name, notes);
+        if (loaded)
             appendSymbol(symbols, name, std::move(*loaded));
         else if (index.hasAll(name))
             symbols.UnreadSymbols.push_back(name);
     }
+    notes.finish();
 }
 
 void findLibraryIndex(UserSymbols& symbols) {
@@ -191,25 +196,39 @@ void ReadLibraryStructure(UserSymbols& symbols, Editor& editor) {
     if (!symbols.LibraryMissing) symbols.LibraryLines = readList(files, currentLibrary(symbols));
 }
 
-std::optional<LoadedSymbol> loadSymbol(const UserSymbols& symbols, const Platform& platform,
-                                       const std::string& symbolFolder, const FolderIndex& index,
-                                       const std::string& name) {
+LoadNotes::LoadNotes(const UserSymbols& symbols, const Platform& platform, std::string library)
+    : symbols_(symbols), platform_(platform), library_(std::move(library)) {}
+
+void LoadNotes::add(std::string_view line) {
+    if (lines_++ < LinesNoted) note(symbols_, line);
+}
+
+void LoadNotes::report(const Failure& failure) {
+    if (!std::exchange(reported_, true)) platform_.ReportError("Load User Symbols", failure);
+}
+
+void LoadNotes::finish() const {
+    if (lines_ > LinesNoted)
+        note(symbols_, library_ + ": " + longText(static_cast<Long>(lines_ - LinesNoted)) +
+                           " more symbols like these.");
+}
+
+std::optional<LoadedSymbol> loadSymbol(const Platform& platform, const std::string& symbolFolder,
+                                       const FolderIndex& index, const std::string& name,
+                                       LoadNotes& notes) {
     const std::string path = symbolFolder + name;
     try {
         SymbolFiles content = readSymbol(*platform.files, symbolFolder, index, name);
         requireScriptWithinLimits(content.script);
         Images& images = *platform.images;
-        auto picture = pictureOf(symbols, images, content.picture, path + ".bmp", White);
-        auto cyan = pictureOf(symbols, images, content.cyanPicture, path + "_Cyan.bmp", Cyan);
+        auto picture = pictureOf(images, content.picture, path + ".bmp", White, notes);
+        auto cyan = pictureOf(images, content.cyanPicture, path + "_Cyan.bmp", Cyan, notes);
         return LoadedSymbol{std::move(content.script), std::move(picture), std::move(cyan)};
     } catch (const Failure& failure) {
-        if (!index.hasAll(name)) {
-            note(symbols, path + ": left out, a file is missing.");
-            return std::nullopt;
-        }
-        note(symbols, path + ": left out. " + failure.text);
-        if (failure.number == failure::Overflow)
-            platform.ReportError("Load User Symbols", {failure.number, name + ": " + failure.text});
+        const bool missing = !index.hasAll(name);
+        notes.add(path + ": left out" + (missing ? ", a file is missing." : ". " + failure.text));
+        if (!missing && failure.number == failure::Overflow)
+            notes.report({failure.number, name + ": " + failure.text});
         return std::nullopt;
     }
 }

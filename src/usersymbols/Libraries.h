@@ -32,18 +32,36 @@ void UpdateOldUserSymbols(UserSymbols& symbols, Editor& editor);
 // The current list into LibraryLines. Without its file or folder: LibraryMissing, no lines.
 void ReadLibraryStructure(UserSymbols& symbols, Editor& editor);
 
+// What is noted while one library is loaded: the first lines go to NoteRepair as they are, of the
+// others their number. The first script that is too large is reported.
+class LoadNotes {
+  public:
+    LoadNotes(const UserSymbols& symbols, const Platform& platform, std::string library);
+    void add(std::string_view line);
+    void report(const Failure& failure);
+    void finish() const;  // once, at the end
+
+  private:
+    const UserSymbols& symbols_;
+    const Platform& platform_;
+    std::string library_;
+    std::size_t lines_ = 0;
+    bool reported_ = false;
+};
+
 // One symbol of a symbol folder, the index of which is at hand. A damaged picture is replaced by a
-// blank one, a symbol that cannot be read is nullopt: with a line to NoteRepair for both.
+// blank one, a symbol that cannot be read is nullopt: with a note for both.
 struct LoadedSymbol {
     std::string script;
     std::shared_ptr<const Picture> picture, cyanPicture;
 };
-std::optional<LoadedSymbol> loadSymbol(const UserSymbols& symbols, const Platform& platform,
-                                       const std::string& symbolFolder, const FolderIndex& index,
-                                       const std::string& name);
+std::optional<LoadedSymbol> loadSymbol(const Platform& platform, const std::string& symbolFolder,
+                                       const FolderIndex& index, const std::string& name,
+                                       LoadNotes& notes);
 
 // Pictures and scripts of the listed symbols; those with a file missing or damaged are skipped,
-// with a line to NoteRepair. Hides the user buttons and renews the window's title.
+// with a note. Those beyond the largest count stay in the list and are not loaded. Hides the user
+// buttons and renews the window's title.
 void LoadUserSymbols(UserSymbols& symbols, Editor& editor);
 
 // UserSymbolName into the list and its safety copy. With no symbol left it leaves both alone.

@@ -134,6 +134,41 @@ TEST_F(LibrariesTest, AfterAFailedReadNothingOfTheListIsLost) {
     }
 }
 
+TEST_F(LibrariesTest, AListOfManyIsReadOnceAndItsFaultsAreCounted) {
+    const auto callsFor = [&](int names) {
+        std::string missing;
+        for (int i = 0; i < names; ++i)
+            missing += "Gone " + std::to_string(i) + "\r\n";
+        write("User Symbols", {"A"});
+        disk.write("documents/User Symbols.lib", "A\r\n" + missing);
+        notes.clear();
+        machine.files.calls.clear();
+        ReloadLibrary(symbols, editor);
+        return machine.files.calls.size();
+    };
+    const std::size_t calls = callsFor(100), more = callsFor(400);
+    EXPECT_LE(more, 4 * calls);
+    ASSERT_EQ(notes.size(), 21u);
+    EXPECT_TRUE(notes[19].ends_with("Gone 19: left out, a file is missing."));
+    EXPECT_EQ(notes[20], "User Symbols.lib: 380 more symbols like these.");
+}
+
+TEST_F(LibrariesTest, NamesBeyondTheLargestCountStayInTheList) {
+    write("User Symbols", {"A", "last"});
+    std::string text;
+    for (int i = 0; i < LargestCount; ++i)
+        text += "A\r\n";
+    disk.write("documents/User Symbols.lib", text + "last\r\n");
+    ReloadLibrary(symbols, editor);
+    EXPECT_EQ(symbols.UserSymbolCount, LargestCount);
+    WriteLibraryStructure(symbols, editor);
+    EXPECT_EQ(listText("User Symbols"), text + "last\r\n");
+    LibManager manager;
+    mnuLibManageUserLibraries_Click(manager, symbols, editor);
+    mnuFileSaveOrder_Click(manager, symbols, editor);
+    EXPECT_EQ(listText("User Symbols"), text + "last\r\n");
+}
+
 TEST_F(LibrariesTest, DeletingTheLastSymbolLeavesTheList) {
     write("User Symbols", {"a", "b"});
     load();
