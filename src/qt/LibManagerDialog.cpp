@@ -111,6 +111,26 @@ class PreviewPane final : public QWidget {
     unsigned shown_ = 0;
 };
 
+// A row acts when it becomes the marked one, and again with each click while it is.
+class ChoiceList final : public QListWidget {
+  public:
+    ChoiceList(QWidget* parent, std::function<void(int row)> chosen)
+        : QListWidget(parent), chosen_(std::move(chosen)) {
+        connect(this, &QListWidget::currentRowChanged, this, chosen_);
+    }
+
+  protected:
+    void mousePressEvent(QMouseEvent* event) override {
+        const int marked = currentRow();
+        QListWidget::mousePressEvent(event);
+        const QListWidgetItem* const pressed = itemAt(event->position().toPoint());
+        if (event->button() == Qt::LeftButton && pressed && row(pressed) == marked) chosen_(marked);
+    }
+
+  private:
+    std::function<void(int row)> chosen_;
+};
+
 template <class Handler>
 QPushButton* LibManagerDialog::makeButton(const char* name, const Control& state, Handler handler) {
     auto* const button = new QPushButton(toQString(state.Caption), this);
@@ -255,23 +275,18 @@ QWidget* LibManagerDialog::makeSymbols() {
 }
 
 QVBoxLayout* LibManagerDialog::makeLists() {
-    const auto makeList = [this](const char* name) {
-        auto* const list = new QListWidget(this);
+    const auto makeList = [this](const char* name, void (*choose)(LibManager&, Editor&, int)) {
+        auto* const list = new ChoiceList(this, [this, choose](int row) {
+            choose(form_, program_.editor, row);
+            showState();
+        });
         list->setObjectName(QString::fromLatin1(name));
         list->setFixedWidth(ListWidth);
         list->setTextElideMode(Qt::ElideMiddle);
         return list;
     };
-    lstSelected_ = makeList("lstSelected");
-    lstDestinationLibrary_ = makeList("lstDestinationLibrary");
-    connect(lstSelected_, &QListWidget::currentRowChanged, this, [this](int row) {
-        lstSelected_Click(form_, program_.editor, row);
-        showState();
-    });
-    connect(lstDestinationLibrary_, &QListWidget::currentRowChanged, this, [this](int row) {
-        lstDestinationLibrary_Click(form_, program_.editor, row);
-        showState();
-    });
+    lstSelected_ = makeList("lstSelected", lstSelected_Click);
+    lstDestinationLibrary_ = makeList("lstDestinationLibrary", lstDestinationLibrary_Click);
     const auto handler = [this](void (*press)(LibManager&, UserSymbols&, Editor&)) {
         return [this, press] { press(form_, program_.usersymbols, program_.editor); };
     };

@@ -140,6 +140,20 @@ void findLibraryIndex(UserSymbols& symbols) {
     if (found != list.end()) symbols.LibraryIndex = static_cast<Short>(found - list.begin());
 }
 
+// A library that has been made since the libraries were listed.
+void listCurrentLibrary(UserSymbols& symbols, const Editor& editor) {
+    auto& list = symbols.LibraryList;
+    const bool listed = std::any_of(list.begin(), list.end(), [&](const std::string& file) {
+        return equalIgnoringCase(file, symbols.LibraryFile);
+    });
+    if (listed || symbols.LibraryMissing || symbols.LibraryFolder != editor.BasePath ||
+        !endsInSuffix(symbols.LibraryName))
+        return;
+    list.push_back(symbols.LibraryFile);
+    sortAlphabetically(list);
+    findLibraryIndex(symbols);
+}
+
 }  // namespace
 
 void finishLibraryWrites(const UserSymbols& symbols, Files& files, const LibraryPlace& library) {
@@ -263,6 +277,7 @@ void ReloadLibrary(UserSymbols& symbols, Editor& editor) {
     ReadLibraryStructure(symbols, editor);
     LoadUserSymbols(symbols, editor);
     LayOutUserButtons(symbols, editor);
+    listCurrentLibrary(symbols, editor);
 }
 
 void RunLibraryChain(UserSymbols& symbols, Editor& editor) {

@@ -69,7 +69,8 @@ void WriteLibraryStructure(UserSymbols& symbols, Editor& editor);
 
 // What every change ends with: the list is written, read, loaded and laid out.
 void RunLibraryChain(UserSymbols& symbols, Editor& editor);
-// The same without writing: what follows when another library has become the current one.
+// The same without writing: what follows when another library has become the current one. One that
+// is new in the data folder is in LibraryList then.
 void ReloadLibrary(UserSymbols& symbols, Editor& editor);
 
 // The compiled symbol under this name, which has been checked: three files, the list, "Symbol

@@ -31,6 +31,13 @@ void relabelButtons(UserSymbols& symbols, Editor& editor) {
     ++editor.form.PaletteVersion;
 }
 
+void endMode(UserSymbols& symbols, Editor& editor) {
+    editor.Arranging = false;
+    symbols.drag = {};
+    symbols.cmdSaveSymbolOrder.Visible = false;
+    ++editor.form.PaletteVersion;
+}
+
 }  // namespace
 
 void mnuLibManageOrder_Click(UserSymbols& symbols, Editor& editor) {
@@ -58,12 +65,18 @@ void cmdSym_DragDrop(UserSymbols& symbols, Editor& editor, Short button) {
     relabelButtons(symbols, editor);
 }
 
+void leaveButtonOrder(UserSymbols& symbols, Editor& editor) {
+    if (!editor.Arranging) return;
+    endMode(symbols, editor);
+    editor.platform.attempt("Change Order of User Buttons",
+                            [&] { ReloadLibrary(symbols, editor); });
+}
+
 void cmdSaveSymbolOrder_Click(UserSymbols& symbols, Editor& editor) {
     symbols.drag = {};
     editor.platform.attempt("Save User Symbol Order", [&] {
         WriteLibraryStructure(symbols, editor);
-        editor.Arranging = false;
-        symbols.cmdSaveSymbolOrder.Visible = false;
+        endMode(symbols, editor);
         resetTool(editor);
         ReloadLibrary(symbols, editor);
     });

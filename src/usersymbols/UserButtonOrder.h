@@ -1,6 +1,6 @@
 // The order of the user buttons, changed by drag and drop. From the command on, buttons are dragged
 // and place nothing (Editor::Arranging); the list on disk changes when the order is saved, and the
-// mode lasts until then.
+// mode lasts until then, or until a simulation starts.
 #pragma once
 
 #include <algorithm>
@@ -36,6 +36,10 @@ bool beginButtonDrag(UserSymbols& symbols, Editor& editor, Short button);
 // The pointer has let go over this button; -1: over none. The drag ends; only a drop on a user
 // button changes the order.
 void cmdSym_DragDrop(UserSymbols& symbols, Editor& editor, Short button);
+
+// Leaves the mode without saving: the buttons stand as the list has them. Nothing happens outside
+// the mode.
+void leaveButtonOrder(UserSymbols& symbols, Editor& editor);
 
 // Writes the order. A failure is reported and leaves the mode on, with the order as it was dragged.
 void cmdSaveSymbolOrder_Click(UserSymbols& symbols, Editor& editor);

@@ -56,7 +56,7 @@ void LayOutUserButtons(UserSymbols& symbols, Editor& editor) {
         button = {};
         if (i >= count) continue;
         button.Tag = symbols.UserSymbolName[i];
-        button.Visible = true;
+        button.Visible = !editor.SimulationMode;
         button.Pressed = editor.gesture.CurrentTool == static_cast<Short>(first + i);
         button.UpPicture = symbols.UserSymbolPicture[i];
         button.CyanPicture = symbols.UserSymbolCyanPicture[i];

@@ -7,7 +7,8 @@
 namespace ladrix {
 
 // Gives each symbol of the current library its button: picture, tag, tip and place, in columns of
-// PaletteRows filled from the top. Runs after each change of the library.
+// PaletteRows filled from the top. Runs after each change of the library. While a circuit is
+// simulated the buttons stay hidden; they are shown when that ends.
 void LayOutUserButtons(UserSymbols& symbols, Editor& editor);
 
 // The columns go one step to the left or to the right; nothing happens without user symbols.

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "app/CommandTable.h"
 #include "app/Startup.h"
 #include "canvas/gestures/Pointer.h"
 #include "canvas/tools/Tools.h"
@@ -75,6 +76,17 @@ TEST_F(LibraryCommandsTest, TheSampleLibraryIsOfferedOnce) {
     mnuLibOpen_Click(program);
     EXPECT_FALSE(fake.folder.has("documents/Ladrix/Sample Symbols.lib"));
     EXPECT_TRUE(fake.dialogs.boxes.empty());
+}
+
+TEST_F(LibraryCommandsTest, AStartedSimulationHidesTheButtonsThatWereArranged) {
+    write("documents/Ladrix/User Symbols", {"a", "b"});
+    ASSERT_TRUE(startProgram(program));
+    runCommand(program, Menu::mnuLibManageOrder);
+    ASSERT_TRUE(program.editor.Arranging);
+    runCommand(program, Menu::mnuSimCircuit0);
+    EXPECT_TRUE(program.editor.SimulationMode);
+    EXPECT_FALSE(program.editor.Arranging || program.usersymbols.cmdSaveSymbolOrder.Visible);
+    EXPECT_FALSE(program.editor.form.cmdSym[92].Visible);
 }
 
 TEST_F(LibraryCommandsTest, ATransferAsksForItsTargetAndCanBeCancelled) {

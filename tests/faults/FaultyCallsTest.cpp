@@ -259,8 +259,8 @@ class FaultyCalls : public testing::TestWithParam<const char*> {
                     break;
             }
             const std::string& path = calls[i].path;
-            EXPECT_THAT(flushed, testing::IsSupersetOf(
-                                     {path + "/", path.substr(0, path.rfind('/') + 1)}));
+            EXPECT_THAT(flushed,
+                        testing::IsSupersetOf({path + "/", path.substr(0, path.rfind('/') + 1)}));
         }
     }
 

@@ -172,6 +172,33 @@ TEST_F(UserSymbolWindowTest, ADeletedSymbolIsSeenAndBroughtBack) {
     EXPECT_TRUE(machine.reports.empty());
 }
 
+TEST_F(UserSymbolWindowTest, AClickOnAMarkedRowOfTheManagerActsAgain) {
+    draw(3, {{2, 2}, {3, 2}});
+    for (const char* name : {"Alpha", "Beta"})
+        capture(name);
+    machine.dialogs.duringForm = [&](Form) {
+        test::drive<LibManagerDialog>(*program, [&](LibManagerDialog& dialog) {
+            auto& shown = named<SymbolButtons>(dialog, "picSymbols");
+            for (const int symbol : {0, 1})
+                click(shown, shown.rectOf(symbol).center());
+            const LibManager& form = program->frmLibManager;
+            for (const char* name : {"lstSelected", "lstDestinationLibrary"}) {
+                auto& list = named<QListWidget>(dialog, name);
+                const auto acted = [&, at = list.visualItemRect(list.item(0)).center()] {
+                    program->frmLibManager.ManagerCurrent = -1;
+                    program->frmLibManager.ManagerDestLines = {"stale"};
+                    click(*list.viewport(), at);
+                    return form.ManagerCurrent == 0 ||
+                           form.ManagerDestLines == std::vector<std::string>{"Alpha", "Beta"};
+                };
+                EXPECT_TRUE(acted()) << name;
+                EXPECT_TRUE(acted()) << name << ", marked";
+            }
+        });
+    };
+    run(Menu::mnuLibManageUserLibraries);
+}
+
 TEST_F(UserSymbolWindowTest, ColumnsLeaveThePageItsRoomAndEverySymbolCanBeReached) {
     std::string list;
     const auto picture = images.makePicture(25, 25);

@@ -2,6 +2,8 @@
 
 #include "LibraryBench.h"
 #include "usersymbols/Compiler.h"
+#include "usersymbols/LibManager.h"
+#include "usersymbols/RemovedSymbols.h"
 #include "usersymbols/SavingForms.h"
 #include "usersymbols/UserButtonOrder.h"
 
@@ -103,6 +105,24 @@ TEST_F(UserPaletteTest, DraggedButtonsTakeTheirPlacesAndAreSavedInOneGo) {
     EXPECT_EQ(editor.gesture.CurrentTool, -1);
 }
 
+TEST_F(UserPaletteTest, ASimulationEndsTheOrderModeAndNoButtonComesBackMeanwhile) {
+    write("User Symbols", {"A", "B"});
+    load();
+    leaveButtonOrder(symbols, editor);
+    EXPECT_EQ(machine.files.count(test::Operation::Replace), 0) << "nothing outside the mode";
+    mnuLibManageOrder_Click(symbols, editor);
+    drag(0, 1);
+    EXPECT_EQ(tags(), "B A");
+    leaveButtonOrder(symbols, editor);
+    EXPECT_FALSE(editor.Arranging || symbols.cmdSaveSymbolOrder.Visible);
+    EXPECT_EQ(tags(), "A B") << "it was not saved";
+    EXPECT_EQ(list("User Symbols"), "A B");
+    editor.SimulationMode = true;
+    ReloadLibrary(symbols, editor);
+    EXPECT_FALSE(editor.form.cmdSym[92].Visible);
+    EXPECT_EQ(editor.form.cmdSym[92].Tag, "A") << "shown when it ends";
+}
+
 struct SavingFormsTest : UserPaletteTest {
     SavingFormsTest() {
         write("User Symbols", {"A", "B"});
@@ -132,6 +152,20 @@ TEST_F(SavingFormsTest, ASymbolIsSavedUnderAFreeName) {
     symbols.compiler.SymbolScriptLines = {"Line", ""};
     compileAndName("D");
     EXPECT_NE(editor.form.lblMessage.Caption.find("it will draw nothing"), std::string::npos);
+}
+
+TEST_F(SavingFormsTest, TheFirstSymbolsLibraryIsKnownAtOnce) {
+    removeLibrary(machine.files, removalsFolder(machine.files, editor.BasePath),
+                  {editor.BasePath, "User Symbols"});
+    load();
+    ASSERT_TRUE(symbols.LibraryList.empty());
+    compileAndName("first");
+    EXPECT_EQ(symbols.LibraryList, std::vector<std::string>{"User Symbols.lib"});
+    StepUserLibrary(symbols, editor, 1);
+    EXPECT_EQ(tags(), "first");
+    LibManager manager;
+    mnuLibManageUserLibraries_Click(manager, symbols, editor);
+    EXPECT_EQ(manager.lstDestinationLibrary.List, symbols.LibraryList);
 }
 
 TEST_F(SavingFormsTest, ATakenNameIsAskedAbout) {
