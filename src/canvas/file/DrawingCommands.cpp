@@ -287,6 +287,7 @@ std::optional<PreviewOfFile> ReadPreview(Editor& editor, const std::string& fold
     ParseDeviceString(drawing, editor.platform);
     ParseLabelString(drawing, editor.platform);
     editor.PreviewedFile = file;
+    editor.UndoShown = -1;
     try {
         DrawingParts parts = readDevices(drawing, editor.platform, folder + file);
         drawing.DrawingChanged = false;

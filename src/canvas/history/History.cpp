@@ -1,5 +1,7 @@
 #include "canvas/history/History.h"
 
+#include <utility>
+
 #include "document/Records.h"
 
 namespace ladrix {
@@ -30,27 +32,39 @@ void rememberPictures(Editor& editor) {
                                                 KnownPicture{rows[i].FullPath, editor.img[i]});
 }
 
-void reportFullHistory(const Editor& editor) {
+void keepTexts(Editor& editor, Short slot, std::string_view texts) {
+    rememberPictures(editor);
+    editor.history.set(slot, texts);
+    editor.UndoShown = slot;
+}
+
+// From here on each new step makes the oldest one fall off.
+void tellFullHistory(Editor& editor) {
+    if (std::exchange(editor.HistoryFull, true)) return;
     editor.platform.ReportError(
         "Take Undo Snapshot",
         {failure::Subscript,
-         "The undo history is full: further changes cannot be undone one by one."});
+         "The undo history is full: each further change drops the oldest step."});
 }
 
 }  // namespace
 
 void TakeUndoSnapshot(Editor& editor) {
-    editor.form.menu[Menu::mnuEditUndo].Enabled = true;
-    const bool wasFull = editor.UndoTop == UndoHistory::Slots;
-    if (!wasFull) ++editor.UndoTop;
-    editor.UndoPosition = editor.UndoTop;
-    if (editor.UndoTop == UndoHistory::Slots) {
-        if (!wasFull) reportFullHistory(editor);
-        return;
-    }
+    const bool beyond = editor.UndoTop == UndoHistory::Slots - 1;
+    if (!beyond) ++editor.UndoTop;
     if (editor.UndoTop >= FirstShift) editor.history.shiftDown();
-    rememberPictures(editor);
-    editor.history.set(editor.UndoTop, snapshotText(editor.drawing));
+    editor.UndoPosition = editor.UndoTop;
+    keepTexts(editor, editor.UndoTop, snapshotText(editor.drawing));
+    editor.form.menu[Menu::mnuEditUndo].Enabled = true;
+    editor.form.menu[Menu::mnuEditRedo].Enabled = false;
+    if (beyond) tellFullHistory(editor);
+}
+
+void keepShownTexts(Editor& editor) {
+    if (editor.UndoShown < 0) return;
+    const std::string present = snapshotText(editor.drawing);
+    if (editor.history.text(editor.UndoShown) != present)
+        keepTexts(editor, editor.UndoShown, present);
 }
 
 void recordStep(Editor& editor) {
@@ -59,7 +73,6 @@ void recordStep(Editor& editor) {
     RebuildLabelString(drawing, editor.platform);
     RebuildPictureString(drawing, editor.platform);
     drawing.DrawingChanged = true;
-    editor.form.menu[Menu::mnuEditUndo].Enabled = true;
     drawing.TakeUndoSnapshot();
 }
 
@@ -67,8 +80,10 @@ void ClearHistory(Editor& editor) {
     editor.history.clear();
     editor.HistoryPictures.clear();
     editor.UndoTop = editor.UndoPosition = 0;
-    rememberPictures(editor);
-    editor.history.set(0, snapshotText(editor.drawing));
+    editor.HistoryFull = false;
+    keepTexts(editor, 0, snapshotText(editor.drawing));
+    editor.form.menu[Menu::mnuEditUndo].Enabled = false;
+    editor.form.menu[Menu::mnuEditRedo].Enabled = false;
 }
 
 }  // namespace ladrix

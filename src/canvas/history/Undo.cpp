@@ -81,6 +81,13 @@ void parseSections(Editor& editor, const Sections& sections) {
     parsePictures(editor, sections.pictures);
 }
 
+void goBy(Editor& editor, int steps) {
+    keepLabelEdit(editor);
+    keepShownTexts(editor);
+    editor.UndoPosition = static_cast<Short>(editor.UndoPosition + steps);
+    RestoreSnapshot(editor);
+}
+
 }  // namespace
 
 void RestoreSnapshot(Editor& editor) {
@@ -92,12 +99,13 @@ void RestoreSnapshot(Editor& editor) {
         editor.UndoPosition = editor.UndoTop;
         return editor.platform.tell("Nothing more can be re-done.");
     }
-    if (editor.UndoPosition == UndoHistory::Slots) return;
+    editor.form.menu[Menu::mnuEditRedo].Enabled = editor.UndoPosition < editor.UndoTop;
+    endGesture(editor, Keep::Tool);
     const std::string snapshot = editor.history.text(editor.UndoPosition);
     const auto sections = sectionsOf(snapshot);
     if (!sections) return;
+    editor.UndoShown = editor.UndoPosition;
     editor.SnapshotPending = false;
-    endGesture(editor, Keep::Tool);
     ClearSelection(editor);
     if (editor.gesture.CurrentTool == -1) showPanel(editor, Panel::None);
     parseSections(editor, *sections);
@@ -107,16 +115,20 @@ void RestoreSnapshot(Editor& editor) {
     editor.form.lblMessage.Caption = "Action has been undone.";
 }
 
+void ParseShownDevices(Editor& editor) {
+    endGesture(editor, Keep::Tool);
+    ParseDeviceString(editor.drawing, editor.platform);
+    restoreWidthTags(editor.drawing);
+    RecountSelection(editor);
+    RedrawDrawing(editor);
+}
+
 void mnuEditUndo_Click(Editor& editor) {
-    keepLabelEdit(editor);
-    --editor.UndoPosition;
-    RestoreSnapshot(editor);
+    goBy(editor, -1);
 }
 
 void mnuEditRedo_Click(Editor& editor) {
-    keepLabelEdit(editor);
-    ++editor.UndoPosition;
-    RestoreSnapshot(editor);
+    goBy(editor, 1);
 }
 
 }  // namespace ladrix

@@ -11,6 +11,9 @@ namespace ladrix {
 // held.
 void RestoreSnapshot(Editor& editor);
 
+// Reads the devices anew from their master text: none of them is selected any more.
+void ParseShownDevices(Editor& editor);
+
 // A label being edited is finished first, as a step of its own.
 void mnuEditUndo_Click(Editor& editor);
 void mnuEditRedo_Click(Editor& editor);

@@ -132,6 +132,7 @@ struct Editor {
 
     // The palette. -1: no button.
     Short PreviousTool = -1, RepeatTool = -1;
+    std::string RepeatName;  // the tool that was pressed last, as ToolName; "" before
     Short LastBuiltInButton = BuiltInButtonCount;
     bool Arranging = false;  // the palette is being arranged
     Library OpenLibrary = Library::NEMA;
@@ -203,6 +204,10 @@ struct Editor {
     // Undo and redo.
     UndoHistory history;
     Short UndoTop = 0, UndoPosition = 0;  // the newest snapshot, the one shown
+    // The slot whose texts are shown: not UndoPosition where that one is empty; -1: none, a
+    // preview.
+    Short UndoShown = 0;
+    bool HistoryFull = false;  // the box that tells it has been shown
     std::map<std::string, KnownPicture, std::less<>> HistoryPictures;  // by file name
 
     // The drawing has been read from its file or written to it. Set once by the layer above.
