@@ -3,10 +3,10 @@
 #include "app/FailureLog.h"
 #include "canvas/file/DrawingCommands.h"
 #include "canvas/gestures/Gesture.h"
+#include "canvas/history/Undo.h"
 #include "canvas/labels/LabelEdit.h"
 #include "canvas/view/Painting.h"
 #include "canvas/view/View.h"
-#include "document/Records.h"
 #include "help/HelpCommands.h"
 
 namespace ladrix {
@@ -51,8 +51,7 @@ void openDemo(Program& program, int number) {
 }
 
 void parseDevices(Program& program) {
-    ParseDeviceString(program.editor.drawing, program.platform);
-    RedrawDrawing(program.editor);
+    ParseShownDevices(program.editor);
 }
 
 void chooseNormalMode(Program& program) {

@@ -10,6 +10,9 @@
 
 namespace ladrix {
 
+// How an entry stands before anything has happened.
+enum class Start : unsigned char { Enabled, Disabled, Invisible, Checked };
+
 struct Command {
     Menu entry;
     Menu menu;              // the menu it stands in; itself for a menu of the bar
@@ -21,10 +24,15 @@ struct Command {
     void (*handler)(Program& program) = nullptr;  // nullptr: no action, shown disabled
     bool separatorBefore = false;
     bool checkable = false;
+    Start start = Start::Enabled;
 };
 
 std::span<const Command> commandTable();
 const Command& command(Menu entry);
+
+// Puts all entries as the table says that they start. Called once, before anything that follows the
+// state of the program.
+void applyStartStates(MenuStates& menu);
 
 // Shown enabled: it has a handler (or entries below it), and its state and its menu's say so.
 bool isEnabled(const Program& program, const Command& command);

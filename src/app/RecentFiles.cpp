@@ -111,9 +111,6 @@ std::string withoutMnemonics(std::string_view text) {
 }  // namespace
 
 void ReadRecentFiles(Program& program) {
-    for (auto entry = Menu::mnuFileRecent0; entry <= Menu::mnuFileRecent8;
-         entry = static_cast<Menu>(static_cast<int>(entry) + 1))
-        program.editor.form.menu[entry].Visible = false;
     program.recentFiles.paths.clear();
     if (!program.paths.DataFilesPath.empty()) readList(program);
 }

@@ -211,11 +211,8 @@ void setDefaults(Program& program) {
                                           ? "Left Click to Change, Right Click for Default (0,25)"
                                           : "Left Click to Change, Right Click for Default (0.25)";
     editor.drawing.AttachLabels = true;
-    editor.form.menu[Menu::mnuOptionAttachLabels].Checked = true;
     editor.GridColor = 0xE0E0E0;
     editor.drawing.PageLayoutKey = "8.5x11Portrait";
-    editor.form.menu[Menu::mnuAdmin].Visible = false;
-    editor.form.menu[Menu::mnuModeNormal].Checked = true;
     cmdDrawWidth_Click(editor, 1);
     UpdateTitle(editor);
 }
@@ -269,6 +266,7 @@ bool startProgram(Program& program) {
         program.platform.tell("Another instance of this application is currently running.");
         return false;
     }
+    applyStartStates(program.editor.form.menu);
     try {
         settleFolders(program);
     } catch (const Failure& failure) {

@@ -5,6 +5,7 @@
 
 #include "canvas/gestures/Gesture.h"
 #include "canvas/state/Editor.h"
+#include "canvas/tools/Tools.h"
 
 namespace ladrix {
 
@@ -40,6 +41,12 @@ void scrollColumns(UserSymbols& symbols, Editor& editor, int columns) {
     RestoreUserButtonPlaces(symbols, editor);
 }
 
+void enableButtonCommands(Editor& editor, bool enabled) {
+    for (const Menu entry : {Menu::mnuLibManageRename, Menu::mnuLibManageDelete,
+                             Menu::mnuLibManageMove, Menu::mnuLibManageCopy})
+        editor.form.menu[entry].Enabled = enabled;
+}
+
 }  // namespace
 
 void LayOutUserButtons(UserSymbols& symbols, Editor& editor) {
@@ -64,6 +71,8 @@ void LayOutUserButtons(UserSymbols& symbols, Editor& editor) {
         button.Top = symbols.UserButtonPlace[i].Top;
     }
     ++editor.form.PaletteVersion;
+    findRepeatTool(editor);
+    enableButtonCommands(editor, symbolOfButton(symbols, symbols.ContextButton) >= 0);
 }
 
 void RestoreUserButtonPlaces(UserSymbols& symbols, Editor& editor) {
@@ -108,15 +117,13 @@ void showUserButton(UserSymbols& symbols, Editor& editor, Short button, int colu
 void openUserButtonMenu(UserSymbols& symbols, Editor& editor, Short button) {
     if (button <= editor.LastBuiltInButton) return;
     symbols.ContextButton = button;
-    editor.form.menu[Menu::mnuLibManageDelete].Enabled = true;
-    editor.form.menu[Menu::mnuLibManageRename].Enabled = true;
+    enableButtonCommands(editor, true);
     editor.platform.dialogs->popUp("mnuLibManage");
 }
 
 void resetTool(Editor& editor) {
     if (editor.gesture.CurrentTool != -1) ResetEditor(editor);
     editor.gesture.CurrentTool = editor.PreviousTool = -1;
-    if (editor.RepeatTool > editor.LastBuiltInButton) editor.RepeatTool = -1;
 }
 
 Short symbolOfButton(const UserSymbols& symbols, Short button) {

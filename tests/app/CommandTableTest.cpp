@@ -6,8 +6,10 @@
 #include <set>
 
 #include "app/Startup.h"
+#include "canvas/gestures/Pointer.h"
 #include "canvas/labels/LabelEdit.h"
 #include "canvas/labels/Labels.h"
+#include "canvas/tools/Tools.h"
 #include "support/FakePlatform.h"
 
 namespace ladrix {
@@ -72,6 +74,56 @@ TEST_F(CommandTableTest, WhatIsBeingTypedBelongsToTheDrawingForAllCommandsButRes
     type("M2");
     runCommand(program, Menu::mnuOptionReset);
     EXPECT_EQ(editor.drawing.labels.LabelText.back(), "M");
+}
+
+TEST_F(CommandTableTest, EntriesAreEnabledWhileThereIsSomethingForThem) {
+    using enum Menu;
+    Editor& editor = program.editor;
+    const auto enabled = [&] {
+        std::set<Menu> entries;
+        for (const Menu entry : {mnuEditUndo, mnuEditRedo, mnuEditRepeat, mnuEditSaveUserSymbol,
+                                 mnuEditCopy, mnuEditPaste, mnuEditText, mnuLibManageRename,
+                                 mnuLibManageDelete, mnuLibManageMove, mnuLibManageCopy})
+            if (isEnabled(program, command(entry))) entries.insert(entry);
+        return entries;
+    };
+    using Entries = std::set<Menu>;
+    const auto press = [&](std::string_view tag) {
+        for (std::size_t i = 0; i < editor.form.cmdSym.size(); ++i)
+            if (editor.form.cmdSym[i].Tag == tag)
+                return cmdSym_Click(editor, static_cast<Short>(i));
+        FAIL() << tag;
+    };
+    EXPECT_EQ(enabled(), Entries{});
+    EXPECT_FALSE(editor.form.menu[mnuFileRecent0].Visible);
+    EXPECT_TRUE(editor.form.menu[mnuOptionAttachLabels].Checked);
+    press("Ground");
+    picLX_MouseMove(editor, 0, 0, 1, 1);
+    picLX_MouseDown(editor, LeftButton, 0, 1, 1);
+    EXPECT_EQ(enabled(), (Entries{mnuEditUndo, mnuEditRepeat}));
+    runCommand(program, mnuEditUndo);
+    EXPECT_EQ(enabled(), (Entries{mnuEditUndo, mnuEditRedo, mnuEditRepeat}));
+    runCommand(program, mnuEditRedo);
+    runCommand(program, mnuEditSelectAll);
+    EXPECT_EQ(enabled(), (Entries{mnuEditUndo, mnuEditRepeat, mnuEditSaveUserSymbol, mnuEditCopy}));
+    runCommand(program, mnuToolsParseDeviceString);
+    EXPECT_EQ(editor.SelectedCount, 0);
+    EXPECT_EQ(enabled(), (Entries{mnuEditUndo, mnuEditRepeat, mnuEditSaveUserSymbol}));
+    runCommand(program, mnuLibHyd);
+    runCommand(program, mnuLibElectrical);
+    EXPECT_TRUE(enabled().contains(mnuEditRepeat)) << "the symbol is there again";
+    fake.dialogs.answers = {Answer::No};
+    runCommand(program, mnuFileNew);
+    EXPECT_EQ(enabled(), Entries{mnuEditRepeat});
+
+    press("Lamp");
+    runCommand(program, mnuLibHyd);
+    EXPECT_EQ(enabled(), Entries{}) << "this library has no lamp";
+    press("Line");
+    runCommand(program, mnuLibIEC);
+    EXPECT_EQ(enabled(), Entries{mnuEditRepeat});
+    runCommand(program, mnuEditRepeat);
+    EXPECT_EQ(editor.gesture.ToolName, "Line");
 }
 
 TEST_F(CommandTableTest, OnlyTheRightPasswordShowsTheAdminMenu) {

@@ -109,6 +109,7 @@ void resetMenus(Editor& editor, bool copyStood) {
           Menu::mnuEditTextAlignTop, Menu::mnuEditCopy, Menu::mnuEditMove, Menu::mnuEditDelete})
         menu[entry].Enabled = false;
     menu[Menu::mnuEditPaste].Enabled = copyStood;
+    if (editor.drawing.devices.DeviceCount == 0) menu[Menu::mnuEditSaveUserSymbol].Enabled = false;
     editor.form.cmbScale.Enabled = editor.form.cmdScaleOK.Enabled = true;
 }
 

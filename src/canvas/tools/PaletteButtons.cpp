@@ -4,6 +4,7 @@
 #include <span>
 
 #include "canvas/gestures/Gesture.h"
+#include "canvas/tools/Tools.h"
 #include "symbols/DeviceNames.h"
 #include "symbols/Shapes.h"
 
@@ -108,7 +109,8 @@ void LoadLibraryButtons(Editor& editor, Library library) {
         editor.form.cmdSym[i].Visible = !editor.form.cmdSym[i].Tag.empty();
     editor.OpenLibrary = library;
     checkLibrary(editor.form.menu, library);
-    editor.PreviousTool = editor.RepeatTool = -1;
+    editor.PreviousTool = -1;
+    findRepeatTool(editor);
     ++editor.form.PaletteVersion;
 }
 

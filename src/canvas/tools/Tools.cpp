@@ -62,9 +62,12 @@ void cmdSym_Click(Editor& editor, Short index) {
     keepLabelEdit(editor);
     endGesture(editor);
     releaseButton(editor, editor.PreviousTool);
-    editor.RepeatTool = editor.PreviousTool = editor.gesture.CurrentTool = index;
+    editor.PreviousTool = editor.gesture.CurrentTool = index;
     editor.gesture.ToolActive = editor.gesture.ToolCursor = editor.gesture.ToolBlocksBand = true;
     refreshToolName(editor);
+    editor.RepeatTool = index;
+    editor.RepeatName = editor.gesture.ToolName;
+    editor.form.menu[Menu::mnuEditRepeat].Enabled = true;
 
     PaletteButton& pressed = button(editor, index);
     const Tool& tool = toolInHand(editor);
@@ -93,6 +96,14 @@ void cmdMoreSym_Click(Editor& editor, Short orientation) {
 
 void mnuEditRepeat_Click(Editor& editor) {
     if (editor.RepeatTool != -1) cmdSym_Click(editor, editor.RepeatTool);
+}
+
+void findRepeatTool(Editor& editor) {
+    editor.RepeatTool = -1;
+    for (Short i = 0; i < static_cast<Short>(editor.form.cmdSym.size()); ++i)
+        if (!button(editor, i).Tag.empty() && toolTag(editor, i) == editor.RepeatName)
+            editor.RepeatTool = i;
+    editor.form.menu[Menu::mnuEditRepeat].Enabled = editor.RepeatTool != -1;
 }
 
 void refreshToolName(Editor& editor) {

@@ -19,6 +19,10 @@ void cmdMoreSym_Click(Editor& editor, Short orientation);
 // Presses the last tool again; it survives a reset.
 void mnuEditRepeat_Click(Editor& editor);
 
+// The tool that was pressed last may have another button by now, or none: then there is nothing to
+// repeat. Called when the buttons have changed.
+void findRepeatTool(Editor& editor);
+
 // Puts the tool's device, place, colour and figures in the dispatcher's block, with the canvas as
 // its surface.
 void fillToolBlock(Editor& editor, Single x, Single y, Long color);
