@@ -89,6 +89,30 @@ TEST_F(UndoTest, UndoRestoresAnEmptySectionAsEmpty) {
     EXPECT_THAT(drawing.labels.LabelText, ElementsAre("///PICTURES///"));
 }
 
+// Such a device can come from a file alone.
+TEST_F(UndoTest, UndoIsNotDeceivedByTextsThatReadLikeItsMarkers) {
+    drawing.devices.append({.name = "x///LABELS///", .x = 1, .widthTag = "///LABELS///"});
+    RebuildDeviceString(drawing, machine.platform);
+    ClearHistory(editor);
+    std::vector<std::string> states = {text()};
+    for (const char* label : {"///LABELS///", "///PICTURES///", "///DEVICES///", "x///LABELS///",
+                              "x///PICTURES///", "///LABELS//////PICTURES///"}) {
+        RecordLabel(drawing, machine.platform, {.text = label, .fontName = "Arial", .fontSize = 8});
+        states.push_back(text());
+    }
+    addPicture({1, 1, 2, 2, "a.png", "/far/a.png", false});
+    states.push_back(text());
+    for (std::size_t i = states.size() - 1; i-- > 0;) {
+        undo();
+        EXPECT_EQ(rebuilt(), states[i]) << i;
+    }
+    for (std::size_t i = 1; i < states.size(); ++i) {
+        redo();
+        EXPECT_EQ(rebuilt(), states[i]) << i;
+    }
+    EXPECT_TRUE(boxes().empty() && reports().empty());
+}
+
 TEST_F(UndoTest, UndoTakesADeviceWithItsLabelInOneStepAndAFinishedEditInTheNext) {
     drawing.AttachLabels = true;
     play("tool Relay/Timer Coil; click 2 3");

@@ -21,16 +21,20 @@ struct Sections {
     std::string_view devices, labels, pictures;
 };
 
-// A label may read like the marker of the pictures, the name of a picture file cannot.
+// A label may read like any marker. That of the labels comes before all of them and begins a line,
+// as no field of a device but its name does; that of the pictures comes behind all labels, and no
+// name of a picture file can read like it.
 std::optional<Sections> sectionsOf(std::string_view text) {
-    const auto devices = text.find(DevicesMark);
-    const auto labels = text.find(LabelsMark);
-    const auto pictures = text.rfind(PicturesMark);
     constexpr auto None = std::string_view::npos;
-    if (devices == None || labels == None || pictures == None) return std::nullopt;
-    const auto devicesStart = devices + DevicesMark.size(),
-               labelsStart = labels + LabelsMark.size();
-    if (labels < devicesStart || pictures < labelsStart) return std::nullopt;
+    if (!text.starts_with(DevicesMark)) return std::nullopt;
+    const auto devicesStart = DevicesMark.size();
+    auto labels = text.find(LabelsMark, devicesStart);
+    while (labels != None && labels != devicesStart && !text.substr(0, labels).ends_with(LineEnd))
+        labels = text.find(LabelsMark, labels + 1);
+    const auto pictures = text.rfind(PicturesMark);
+    if (labels == None || pictures == None) return std::nullopt;
+    const auto labelsStart = labels + LabelsMark.size();
+    if (pictures < labelsStart) return std::nullopt;
     return Sections{text.substr(devicesStart, labels - devicesStart),
                     text.substr(labelsStart, pictures - labelsStart),
                     text.substr(pictures + PicturesMark.size())};
