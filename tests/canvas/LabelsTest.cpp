@@ -171,8 +171,31 @@ TEST_F(LabelsTest, TextToolGivesAnEmptyTextOneEnterPlacesItAndEscapeDropsIt) {
 
 TEST_F(LabelsTest, AutoIncrementAdvancesNumbersAndSingleLetters) {
     const std::pair<const char*, const char*> cases[] = {
-        {"9", "10"}, {"1.5", "2.5"}, {"-1", "0"}, {"A", "B"},     {"Y", "Z"}, {"Z", "Z"},
-        {"y", "z"},  {"z", "z"},     {"@", "@"},  {"PB1", "PB1"}, {"`", "`"}, {"", ""}};
+        {"9", "10"},
+        {"1.5", "2.5"},
+        {"-1", "0"},
+        {"A", "B"},
+        {"Y", "Z"},
+        {"Z", "Z"},
+        {"y", "z"},
+        {"z", "z"},
+        {"@", "@"},
+        {"PB1", "PB1"},
+        {"`", "`"},
+        {"", ""},
+        // Whole numbers of any length.
+        {"16777216", "16777217"},
+        {"99999999", "100000000"},
+        {"-100", "-99"},
+        {"-10000000000000000", "-9999999999999999"},
+        {"9999999999999999999999999999999999999999", "10000000000000000000000000000000000000000"},
+        {"099", "100"},
+        {"007", "8"},
+        {"-0", "1"},
+        {" 41 ", "42"},
+        {"-", "-"},
+        {"--1", "--1"},
+        {"1-2", "1-2"}};
     for (const auto& [text, next] : cases)
         EXPECT_EQ(incrementedText(text, '.'), next) << text;
     EXPECT_EQ(incrementedText("1,5", ','), "2,5");

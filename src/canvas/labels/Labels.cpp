@@ -1,5 +1,7 @@
 #include "canvas/labels/Labels.h"
 
+#include <algorithm>
+#include <optional>
 #include <utility>
 
 #include "canvas/gestures/Gesture.h"
@@ -63,6 +65,27 @@ void printGhost(Editor& editor, Long color) {
     const Corner corner =
         cornerOfCentred(editor, font, gesture.TextBuffer, gesture.TextGhostX, gesture.TextGhostY);
     editor.platform.picLX->Text(corner.x, corner.y, font, gesture.TextBuffer, color);
+}
+
+// A whole number plus one, of any length; nullopt for any other text. Leading zeros go.
+std::optional<std::string> nextWholeNumber(std::string_view text) {
+    constexpr std::string_view Blanks = " \t", Zeros = "0";
+    text.remove_prefix(std::min(text.find_first_not_of(Blanks), text.size()));
+    text = text.substr(0, text.find_last_not_of(Blanks) + 1);
+    bool negative = text.starts_with('-');
+    std::string digits{text.substr(negative ? 1 : 0)};
+    if (digits.empty() || digits.find_first_not_of("0123456789") != std::string::npos)
+        return std::nullopt;
+    digits.erase(0, digits.find_first_not_of(Zeros));
+    negative = negative && !digits.empty();
+    // The digits that carry on, from the last one up to the first that does not.
+    const char carrying = negative ? '0' : '9', carried = negative ? '9' : '0';
+    auto at = digits.find_last_not_of(carrying);
+    if (at == std::string::npos) digits.insert(at = 0, Zeros);
+    std::fill(digits.begin() + static_cast<std::ptrdiff_t>(at) + 1, digits.end(), carried);
+    digits[at] = static_cast<char>(digits[at] + (negative ? -1 : 1));
+    digits.erase(0, std::min(digits.find_first_not_of(Zeros), digits.size() - 1));
+    return negative && digits != Zeros ? '-' + digits : digits;
 }
 
 }  // namespace
@@ -133,6 +156,7 @@ void openTextToolByKey(Editor& editor) {
 }
 
 std::string incrementedText(std::string_view text, char decimalMark) {
+    if (auto next = nextWholeNumber(text)) return *std::move(next);
     if (const auto number = typedNumber(text)) return singleText(*number + 1, decimalMark);
     if (text.size() != 1) return std::string{text};
     const char letter = text[0];

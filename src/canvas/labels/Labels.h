@@ -24,7 +24,7 @@ void placeTextLabel(Editor& editor, Single x, Single y);
 // A character is typed that belongs in the Text tool's box: opens it, if no pointer move has yet.
 void openTextToolByKey(Editor& editor);
 
-// 9 becomes 10, A becomes B; Z and longer texts stay.
+// 9 becomes 10, A becomes B; Z and longer texts stay. A whole number may have any length.
 std::string incrementedText(std::string_view text, char decimalMark);
 
 void txtEdit_LostFocus(Editor& editor);
