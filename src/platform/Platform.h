@@ -94,6 +94,9 @@ class Shell {
     // The folder of the running program, of the user's documents (5), of the virtual documents (12)
     // and of the user's pictures (39); "" where the platform has none.
     virtual std::string programFolder() = 0;
+    // Where the files were installed that the program's folder was filled from; "" where that
+    // folder is the only one.
+    virtual std::string shippedFolder() = 0;
     virtual std::string specialFolder(int number) = 0;
     virtual std::string computerName() = 0;
     // False if another instance of the program is running.

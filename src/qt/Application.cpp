@@ -126,6 +126,14 @@ int takeScreenshot(const QString& file, QtPlatform& machine, Program& program, M
     return 1;
 }
 
+// What a person reads who was not asked anything: once for all files, and the run goes on.
+void tellNotPut(const QtPlatform& machine) {
+    if (machine.shell.notPut.empty()) return;
+    machine.platform.ReportError(
+        "Some files that come with Ladrix could not be put in place. The next start tries again.",
+        asOneFailure(machine.shell.notPut));
+}
+
 }  // namespace
 
 void connectPlatform(QtPlatform& machine, Program& program, MainWindow& window) {
@@ -170,6 +178,7 @@ int runEditor(int argc, char** argv) {
     Program program(machine.platform);
     machine.picLX.showPageOf(program.editor);
     if (!startProgram(program)) return options.screenshot.isEmpty() ? 0 : 1;
+    tellNotPut(machine);
 
     MainWindow window(program, machine.picLX);
     connectPlatform(machine, program, window);

@@ -16,7 +16,6 @@
 
 #include "app/Program.h"
 #include "qt/KeyCodes.h"
-#include "qt/ProgramFolder.h"
 #include "qt/QtText.h"
 
 namespace ladrix {
@@ -24,10 +23,6 @@ namespace ladrix {
 namespace {
 
 constexpr int DocumentsFolder = 5, PicturesFolder = 39;
-
-QString version() {
-    return toQString(ProgramVersion);
-}
 
 // Newer locales separate the hour from "PM" by a blank that the core's text does not have.
 std::string generalDate() {
@@ -49,7 +44,13 @@ void QtClipboard::SetText(std::string_view text) {
 std::string QtShell::programFolder() {
     const QString own = QCoreApplication::applicationDirPath();
     const QString data = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
-    return fromQString(settleProgramFolder(own, data, version()) + '/');
+    folders_ = shippedFolders(files_, fromQString(own), fromQString(data));
+    notPut = renewShippedFiles(files_, folders_, ProgramVersion);
+    return folders_.work;
+}
+
+std::string QtShell::shippedFolder() {
+    return folders_.share;
 }
 
 std::string QtShell::specialFolder(int number) {

@@ -6,6 +6,7 @@
 #include <map>
 #include <memory>
 
+#include "app/ShippedFiles.h"
 #include "platform/DiskFiles.h"
 #include "platform/Platform.h"
 #include "qt/PageFile.h"
@@ -26,8 +27,12 @@ class QtClipboard final : public Clipboard {
 class QtShell final : public Shell {
   public:
     std::function<void()> ended;  // the core ends the run
+    std::vector<NotPut> notPut;   // of the shipped files, when the program's folder was asked for
 
+    explicit QtShell(Files& files) : files_(files) {}
+    // Fills the folder from the installed files where there are such.
     std::string programFolder() override;
+    std::string shippedFolder() override;
     std::string specialFolder(int number) override;
     std::string computerName() override;
     // By a lock file in the user's runtime folder, held as long as this lives.
@@ -37,6 +42,8 @@ class QtShell final : public Shell {
     void endProgram() override;
 
   private:
+    Files& files_;
+    ShippedFolders folders_;
     std::unique_ptr<QLockFile> lock_;
 };
 
@@ -69,7 +76,7 @@ struct QtPlatform {
     QtClipboard clipboard;
     QtImages images;
     QtFonts fonts;
-    QtShell shell;
+    QtShell shell{files};
     QtTimers timers;
     QtPageFiles pageFiles;
     std::function<void()> showForm;  // the form that is up shows the present state

@@ -45,6 +45,7 @@ class HomeShell final : public Shell {
         : real_(real), programFolder_(std::move(programFolder)) {}
 
     std::string programFolder() override { return programFolder_; }
+    std::string shippedFolder() override { return ""; }
     std::string specialFolder(int number) override { return real_.specialFolder(number); }
     std::string computerName() override { return real_.computerName(); }
     bool onlyInstance() override { return real_.onlyInstance(); }

@@ -62,7 +62,7 @@ class FakeFonts final : public Fonts {
 
 class FakeShell final : public Shell {
   public:
-    std::string program;                 // with the separator at its end
+    std::string program, shipped;        // with the separator at their end
     std::map<int, std::string> folders;  // without it, as a system gives them
     std::string computer = "TESTBENCH";
     bool isOnlyInstance = true;
@@ -73,6 +73,7 @@ class FakeShell final : public Shell {
     bool ended = false;
 
     std::string programFolder() override { return program; }
+    std::string shippedFolder() override { return shipped; }
     std::string specialFolder(int number) override;
     std::string computerName() override { return computer; }
     bool onlyInstance() override { return isOnlyInstance; }
