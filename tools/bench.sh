@@ -8,7 +8,7 @@ need "${build_packages[@]}" "${test_packages[@]}"
 configure release
 names=("$@")
 [[ $# -gt 0 ]] ||
-    names=(RedrawBench RecordBench FileBench PointerBench EditBench UserSymbolBench SearchBench
+    names=(RedrawBench FarBench RecordBench FileBench PointerBench EditBench UserSymbolBench SearchBench
         PrintBench
         StartBench)
 build release "${names[@]/#/bench_}"

@@ -1,5 +1,9 @@
 #include "output/PageReplay.h"
 
+#include <memory>
+#include <utility>
+#include <vector>
+
 #include "output/KeepToolState.h"
 
 namespace ladrix {
@@ -14,16 +18,20 @@ void replayDevices(Page& page, Symbols& symbols, Drawing& drawing, const Platfor
 
 std::string replayPictures(Page& page, const Drawing& drawing, const Platform& platform) {
     std::string leftOut;
+    std::vector<std::shared_ptr<const Picture>> kept;  // so that none is read twice
     for (const PictureRow& row : drawing.PictureTable) {
         std::shared_ptr<const Picture> picture;
         try {
             picture = platform.images->load(row.FullPath);
         } catch (const Failure& failure) {
+            const std::string told = row.FileName + " is left out: " + failure.text;
+            if (leftOut.find(told) != std::string::npos) continue;
             if (!leftOut.empty()) leftOut += '\n';
-            leftOut += row.FileName + " is left out: " + failure.text;
+            leftOut += told;
             continue;
         }
         page.PaintPicture(*picture, row.Left, row.Top, row.Width, row.Height);
+        kept.push_back(std::move(picture));
     }
     return leftOut;
 }

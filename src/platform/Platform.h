@@ -68,7 +68,8 @@ class Clipboard {
 class Images {
   public:
     virtual ~Images() = default;
-    // Throws a Failure if the file is missing, damaged or larger than 100 million pixels.
+    // Throws a Failure if the file is missing, damaged or larger than 100 million pixels. Where
+    // pictures in use take too much memory it gives one that is shown as an empty frame.
     virtual std::shared_ptr<const Picture> load(const std::string& path) = 0;
     // The same from a Windows bitmap's bytes, the size held to 1 million pixels.
     virtual std::shared_ptr<const Picture> fromBitmap(std::string_view bytes) = 0;

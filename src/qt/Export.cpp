@@ -151,6 +151,7 @@ struct ExportMachine {
         platform.dialogs = &dialogs;
         platform.files = &files;
         platform.images = &images;
+        images.tell = [this](std::string_view text) { dialogs.told.emplace_back(text); };
         platform.fonts = &fonts;
         platform.pageFiles = &pageFiles;
         platform.ReportError = [this](std::string_view, const Failure& failure) {

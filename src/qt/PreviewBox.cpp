@@ -78,6 +78,11 @@ void PreviewBox::paintPicture(QPainter& painter, const QtPicture& picture) const
     place.moveCenter(room.center());
     theme::paintPageShadow(painter, place);
     painter.fillRect(place, Qt::white);
+    if (picture.isFrame()) {
+        painter.drawRect(place);
+        painter.drawText(place, Qt::AlignCenter | Qt::TextWordWrap, toQString(picture.frameName()));
+        return;
+    }
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.drawImage(place, picture.shrunkTo(place.size() * devicePixelRatioF()));
 }

@@ -192,8 +192,12 @@ void PrinterPage::PaintPicture(const Picture& picture, Single x, Single y, Singl
                                Single height, Long rasterMode) {
     const auto* known = dynamic_cast<const QtPicture*>(&picture);
     if (!known) throw Failure{failure::InvalidCall, "Not a picture of this toolkit"};
-    if (rasterMode != SourceAnd) return ready().PaintPicture(picture, x, y, width, height);
-    ready().PaintPicture(onlyDarkness(*known), x, y, width, height);
+    if (rasterMode != SourceAnd || known->isFrame())
+        return ready().PaintPicture(picture, x, y, width, height);
+    // One image, however often it stands on the pages: a document holds each image once.
+    std::shared_ptr<const QtPicture>& dark = dark_[known->image().cacheKey()];
+    if (!dark) dark = std::make_shared<QtPicture>(onlyDarkness(*known));
+    ready().PaintPicture(*dark, x, y, width, height);
 }
 
 }  // namespace ladrix

@@ -4,6 +4,8 @@
 
 #include <QRectF>
 #include <QSizeF>
+#include <map>
+#include <memory>
 
 #include "platform/Printer.h"
 #include "qt/QtFonts.h"
@@ -19,6 +21,8 @@ struct PaperArea {
 
 // The portrait size of a paper code in inches; empty for an unknown one.
 QSizeF paperSizeOf(Short code);
+
+class QtPicture;
 
 class PrinterPage : public Printer {
   public:
@@ -59,6 +63,7 @@ class PrinterPage : public Printer {
     double unitsPerInch_ = 72;
     double leastDot_ = 0;  // painter units of a dot where lines would else be too fine to see
     void flush() { page_.flush(); }
+    void forgetPictures() { dark_.clear(); }  // at the end of a document
     void pageHasChanged() { stale_ = true; }  // the painter has a new page, or none
     bool hasUserScale() const { return scaleMode_ == UserScale; }
     QSizeF userScale() const { return {scaleWidth_, scaleHeight_}; }
@@ -77,6 +82,7 @@ class PrinterPage : public Printer {
     Single scaleWidth_ = 0, scaleHeight_ = 0;  // of the user scale
     FontSpec font_{"Arial", 8, false, false};
     bool stale_ = true;
+    std::map<qint64, std::shared_ptr<const QtPicture>> dark_;  // of the document, by their images
 };
 
 }  // namespace ladrix

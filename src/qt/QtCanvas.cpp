@@ -234,9 +234,8 @@ void QtCanvas::PaintPicture(const Picture& picture, Single x, Single y, Single w
             page.PaintPicture(*known, x, y, width, height);
         });
     // The temporary layer may outlive the picture; the image's pixels are shared, not copied.
-    draw(bounds, [=, kept = QtPicture(known->image())](QtPainterPage& page) {
-        page.PaintPicture(kept, x, y, width, height);
-    });
+    draw(bounds,
+         [=, kept = *known](QtPainterPage& page) { page.PaintPicture(kept, x, y, width, height); });
 }
 
 void QtCanvas::Cls() {

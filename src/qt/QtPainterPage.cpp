@@ -15,13 +15,16 @@ namespace ladrix {
 namespace {
 
 constexpr std::size_t LargestBatch = 4096;
-constexpr double ChordError = 0.15;          // device pixels, of small curves
-constexpr double LongChordError = 0.05;      // of large ones, whose long chords show their corners
-constexpr double MostCurveSegments = 8192;   // of a full turn
-constexpr double LargestPathRadius = 20000;  // device pixels; a larger curve goes out as lines
-constexpr double FarOut = 1e7;               // painter units; beyond them lines are clipped
-constexpr double ShortestDashPeriod = 2;     // device pixels; a finer pattern is drawn solid
-constexpr int VisiblePenUnits = 16;          // room for the widest pen at the view's edges
+constexpr double ChordError = 0.15;         // device pixels, of small curves
+constexpr double LongChordError = 0.05;     // of large ones, whose long chords show their corners
+constexpr double MostCurveSegments = 1e9;   // of a full turn
+constexpr double LargestPathRadius = 2000;  // device pixels; of a larger curve only parts go out
+constexpr double Reach = 1024;              // device pixels that a line may leave the view
+constexpr double FarOut = 1e7;              // painter units; beyond them dashes are drawn solid
+constexpr double ShortestDashPeriod = 2;    // device pixels; a finer pattern is drawn solid
+constexpr int VisiblePenUnits = 16;         // room for the widest pen at the view's edges
+constexpr Single FrameMargin = 0.05f;       // inches, of the name in a picture's frame
+constexpr Single FrameNamePoints = 8;
 
 // Lengths drawn and left out in turn, in inches.
 std::span<const double> dashPattern(Short style) {
@@ -180,16 +183,24 @@ void QtPainterPage::usePen(Long color) {
     penShift_ = medium_ == Medium::Raster && odd ? 0.5 / deviceScale_ : 0;
     const double room = penWidth_ + 2 / deviceScale_;
     seen_ = view_.target.adjusted(-room, -room, room, room);
-    if (medium_ == Medium::Raster) return;
+    const double reach = Reach / deviceScale_;
+    reach_ = seen_.adjusted(-reach, -reach, reach, reach);
+    if (medium_ == Medium::Vector) setVectorPen(0);
+}
 
-    QPen vectorPen = qtPen(style == 0 ? Qt::RoundCap : Qt::FlatCap);
-    if (style != 0) {
+// With the dashes `phase` painter units into their pattern.
+void QtPainterPage::setVectorPen(double phase) {
+    QPen pen = qtPen(pen_.style == 0 ? Qt::RoundCap : Qt::FlatCap);
+    if (pen_.style != 0) {
+        const std::span<const double> lengths = dashPattern(pen_.style);
         QList<qreal> pattern;  // in pen widths
-        for (const double length : dashPattern(style))
+        for (const double length : lengths)
             pattern.append(length * view_.unitsPerInch / penWidth_);
-        vectorPen.setDashPattern(pattern);
+        pen.setDashPattern(pattern);
+        const double period = patternLength(lengths) * view_.unitsPerInch;
+        pen.setDashOffset(std::fmod(phase, period) / penWidth_);
     }
-    painter_->setPen(vectorPen);
+    painter_->setPen(pen);
 }
 
 void QtPainterPage::addToBatch(std::vector<QLineF>& batch, const QLineF& line) {
@@ -216,18 +227,17 @@ void QtPainterPage::segment(const QLineF& line) {
         dashes(line, phase);
         return;
     }
-    QLineF part = line;
-    if (isFarOut(line)) {
-        const std::optional<Span> span =
-            isFinite(line) ? inside(line, seen_) : std::optional<Span>();
-        if (!span) return;
-        part = QLineF(line.pointAt(span->from), line.pointAt(span->to));
-    }
-    if (medium_ == Medium::Raster) {
-        addToBatch(straight_, onPixels(part));
-    } else {
-        painter_->drawLine(part);
-    }
+    if (reach_.contains(line.p1()) && reach_.contains(line.p2()))
+        return medium_ == Medium::Raster ? addToBatch(straight_, onPixels(line))
+                                         : painter_->drawLine(line);
+    const std::optional<Span> span = isFinite(line) ? inside(line, reach_) : std::optional<Span>();
+    if (!span) return;
+    const QLineF part(line.pointAt(span->from), line.pointAt(span->to));
+    if (medium_ == Medium::Raster) return addToBatch(straight_, onPixels(part));
+    const bool shifted = pen_.style != 0 && span->from > 0;
+    if (shifted) setVectorPen(span->from * line.length());
+    painter_->drawLine(part);
+    if (shifted) setVectorPen(0);
 }
 
 // Cuts a line by the pen's pattern, beginning `phase` inches into it; moves the phase on. What
@@ -261,7 +271,8 @@ void QtPainterPage::dashes(const QLineF& line, double& phase) {
 }
 
 void QtPainterPage::box(const QLineF& diagonal) {
-    if (medium_ == Medium::Vector && !isFarOut(diagonal)) {
+    if (medium_ == Medium::Vector && reach_.contains(diagonal.p1()) &&
+        reach_.contains(diagonal.p2())) {
         if (!isOutside(diagonal, seen_))
             painter_->drawRect(QRectF(diagonal.p1(), diagonal.p2()).normalized());
         return;
@@ -308,31 +319,71 @@ std::optional<QtPainterPage::Curve> QtPainterPage::visibleCurve(Single x, Single
     const double longer = std::abs(radius) * view_.scale;
     const double ratio = aspect > 0 ? static_cast<double>(aspect) : 1.0;
     Curve curve;
-    curve.centre = penPoint(x, y);
-    curve.radiusX = ratio > 1 ? longer / ratio : longer;
-    curve.radiusY = ratio > 1 ? longer : longer * ratio;
-    const QLineF bounds(curve.centre.x() - curve.radiusX, curve.centre.y() - curve.radiusY,
-                        curve.centre.x() + curve.radiusX, curve.centre.y() + curve.radiusY);
+    Ellipse& ellipse = curve.ellipse;
+    ellipse.centre = penPoint(x, y);
+    ellipse.radiusX = ratio > 1 ? longer / ratio : longer;
+    ellipse.radiusY = ratio > 1 ? longer : longer * ratio;
+    curve.radius = longer * deviceScale_;
+    const QLineF bounds(ellipse.centre.x() - ellipse.radiusX, ellipse.centre.y() - ellipse.radiusY,
+                        ellipse.centre.x() + ellipse.radiusX, ellipse.centre.y() + ellipse.radiusY);
     if (!isFinite(bounds) || isOutside(bounds, seen_)) return std::nullopt;
     curve.whollySeen = seen_.contains(bounds.p1()) && seen_.contains(bounds.p2());
     return curve;
 }
 
-void QtPainterPage::stroke(const Curve& curve) {
-    const double radius = std::max(curve.radiusX, curve.radiusY) * deviceScale_;
-    const bool asLines = medium_ == Medium::Raster && (hairline_ || pen_.style != 0);
-    if (asLines || radius > LargestPathRadius) {
-        flatten(curve);
-        return;
+// The number of chords follows from the size on the device alone: where the view ends must not
+// change what is seen.
+QtPainterPage::Chords QtPainterPage::chordsOf(const Curve& curve) {
+    const double error = std::clamp(10 * ChordError / curve.radius, LongChordError, ChordError);
+    const double perTurn =
+        std::clamp(Pi * std::sqrt(curve.radius / (2 * error)), 6.0, MostCurveSegments);
+    Chords chords;
+    chords.count = std::max(1.0, std::ceil(perTurn * curve.sweep.sweep / (2 * Pi)));
+    chords.step = curve.sweep.sweep / chords.count;
+    return chords;
+}
+
+// The ends of all chords that a part of the curve touches; each point is the former one turned.
+template <class Take>
+void QtPainterPage::eachPoint(const Curve& curve, const Sweep& part, const Take& take) const {
+    const Chords chords = chordsOf(curve);
+    const double offset = part.start - curve.sweep.start;
+    const double first = std::max(0.0, std::floor(offset / chords.step));
+    const double last = std::min(chords.count, std::ceil((offset + part.sweep) / chords.step));
+    const double cosine = std::cos(chords.step);
+    const double sine = std::sin(chords.step);
+    double x = std::cos(curve.sweep.start + first * chords.step);
+    double y = std::sin(curve.sweep.start + first * chords.step);
+    const Ellipse& ellipse = curve.ellipse;
+    for (double i = first; i <= last; ++i) {
+        take(QPointF(ellipse.centre.x() + ellipse.radiusX * x,
+                     ellipse.centre.y() - ellipse.radiusY * y));
+        const double turnedX = x * cosine - y * sine;
+        y = x * sine + y * cosine;
+        x = turnedX;
     }
-    const QRectF bounds(curve.centre.x() - curve.radiusX, curve.centre.y() - curve.radiusY,
-                        2 * curve.radiusX, 2 * curve.radiusY);
+}
+
+std::vector<Sweep> QtPainterPage::visibleParts(const Curve& curve) const {
+    if (curve.whollySeen) return {curve.sweep};
+    return partsInside(curve.ellipse, curve.sweep, seen_);
+}
+
+void QtPainterPage::stroke(const Curve& curve) {
+    if (medium_ == Medium::Raster && (hairline_ || pen_.style != 0)) return flatten(curve);
+    const bool whole =
+        medium_ == Medium::Raster ? curve.radius <= LargestPathRadius : curve.whollySeen;
+    if (!whole) return strokeParts(curve);
+    const Ellipse& ellipse = curve.ellipse;
+    const QRectF bounds(ellipse.centre.x() - ellipse.radiusX, ellipse.centre.y() - ellipse.radiusY,
+                        2 * ellipse.radiusX, 2 * ellipse.radiusY);
+    const Sweep& sweep = curve.sweep;
     QPainterPath path;
-    if (curve.sweep >= 2 * Pi) {
+    if (sweep.sweep >= 2 * Pi) {
         path.addEllipse(bounds);
     } else {
-        path.arcMoveTo(bounds, curve.start * 180 / Pi);
-        path.arcTo(bounds, curve.start * 180 / Pi, curve.sweep * 180 / Pi);
+        path.arcMoveTo(bounds, sweep.start * 180 / Pi);
+        path.arcTo(bounds, sweep.start * 180 / Pi, sweep.sweep * 180 / Pi);
     }
     if (medium_ == Medium::Vector) {
         painter_->drawPath(path);
@@ -341,36 +392,49 @@ void QtPainterPage::stroke(const Curve& curve) {
     }
 }
 
-// The number of chords follows from the size on the device; each point is the former one turned.
-void QtPainterPage::flatten(const Curve& curve) {
-    const double radius = std::max(curve.radiusX, curve.radiusY) * deviceScale_;
-    const double error = std::clamp(10 * ChordError / radius, LongChordError, ChordError);
-    const double perTurn = std::clamp(Pi * std::sqrt(radius / (2 * error)), 6.0, MostCurveSegments);
-    const int count = std::max(1, static_cast<int>(std::ceil(perTurn * curve.sweep / (2 * Pi))));
-    const double cosine = std::cos(curve.sweep / count);
-    const double sine = std::sin(curve.sweep / count);
-    double x = std::cos(curve.start);
-    double y = std::sin(curve.start);
-    const bool plain = hairline_ && pen_.style == 0;
-    double phase = 0;
-    const auto point = [&] {
-        return QPointF(curve.centre.x() + curve.radiusX * x, curve.centre.y() - curve.radiusY * y);
-    };
-    QPointF from = point();
-    for (int i = 0; i < count; ++i) {
-        const double turnedX = x * cosine - y * sine;
-        y = x * sine + y * cosine;
-        x = turnedX;
-        const QPointF to = point();
-        const QLineF chord(from, to);
-        if (plain && (curve.whollySeen || !isFarOut(chord))) {
-            if (curve.whollySeen || !isOutside(chord, seen_)) curved_.push_back(chord);
-        } else if (pen_.style != 0 && medium_ == Medium::Raster) {
-            dashes(chord, phase);
-        } else {
-            segment(chord);
+// Curves on paper. On a raster the chords that any other view would show too.
+void QtPainterPage::strokeParts(const Curve& curve) {
+    for (const Sweep& part : visibleParts(curve)) {
+        if (medium_ == Medium::Vector) {
+            const Sweep before{curve.sweep.start, part.start - curve.sweep.start};
+            if (pen_.style != 0) setVectorPen(lengthOf(curve.ellipse, before));
+            painter_->drawPath(curvePath(curve.ellipse, part));
+            continue;
         }
-        from = to;
+        QPainterPath path;
+        eachPoint(curve, part, [&path](const QPointF& point) {
+            if (path.elementCount() == 0) {
+                path.moveTo(point);
+            } else {
+                path.lineTo(point);
+            }
+        });
+        painter_->strokePath(path, qtPen(Qt::RoundCap));
+    }
+    if (medium_ == Medium::Vector && pen_.style != 0) setVectorPen(0);
+}
+
+void QtPainterPage::flatten(const Curve& curve) {
+    for (const Sweep& part : visibleParts(curve)) {
+        double phase = 0;
+        if (pen_.style != 0 && !curve.whollySeen) {
+            const double step = chordsOf(curve).step;
+            const double first = std::floor((part.start - curve.sweep.start) / step);
+            phase = lengthOf(curve.ellipse, {curve.sweep.start, std::max(0.0, first) * step}) /
+                    view_.unitsPerInch;
+        }
+        std::optional<QPointF> from;
+        eachPoint(curve, part, [&](const QPointF& to) {
+            const QLineF chord(from.value_or(to), to);
+            if (pen_.style != 0) {
+                if (from) dashes(chord, phase);
+            } else if (from && isFarOut(chord)) {
+                segment(chord);
+            } else if (from) {
+                curved_.push_back(chord);
+            }
+            from = to;
+        });
     }
     if (curved_.size() >= LargestBatch) flush();
 }
@@ -379,9 +443,40 @@ void QtPainterPage::flatten(const Curve& curve) {
 void QtPainterPage::fill(const Curve& curve) {
     const double half = (FillColor & 0xFFFFFF) == pen_.color ? penWidth_ / 2 : 0;
     if (half == 0) flush();
-    if (std::max(curve.radiusX, curve.radiusY) * deviceScale_ > LargestPathRadius) return;
+    Curve outer = curve;
+    outer.ellipse.radiusX += half;
+    outer.ellipse.radiusY += half;
+    if (!curve.whollySeen && curve.radius > LargestPathRadius) return fillPart(outer);
     QPainterPath path;
-    path.addEllipse(curve.centre, curve.radiusX + half, curve.radiusY + half);
+    path.addEllipse(outer.ellipse.centre, outer.ellipse.radiusX, outer.ellipse.radiusY);
+    painter_->fillPath(path, toQColor(FillColor));
+}
+
+// What is seen of a large filled curve: the points of its rim and the view's corners inside it,
+// in their order around the middle.
+void QtPainterPage::fillPart(const Curve& curve) {
+    const Ellipse& ellipse = curve.ellipse;
+    std::vector<QPointF> points;
+    for (const QPointF& corner :
+         {seen_.topLeft(), seen_.topRight(), seen_.bottomRight(), seen_.bottomLeft()}) {
+        const QPointF offset = corner - ellipse.centre;
+        if (std::hypot(offset.x() / ellipse.radiusX, offset.y() / ellipse.radiusY) < 1)
+            points.push_back(corner);
+    }
+    for (const Sweep& part : visibleParts(curve))
+        eachPoint(curve, part, [&points](const QPointF& point) { points.push_back(point); });
+    if (points.empty()) return;
+    QPointF middle;
+    for (const QPointF& point : points)
+        middle += point / static_cast<double>(points.size());
+    const auto around = [&middle](const QPointF& point) {
+        return std::atan2(point.y() - middle.y(), point.x() - middle.x());
+    };
+    std::sort(points.begin(), points.end(),
+              [&](const QPointF& a, const QPointF& b) { return around(a) < around(b); });
+    QPainterPath path;
+    path.addPolygon(QPolygonF(QList<QPointF>(points.begin(), points.end())));
+    path.closeSubpath();
     painter_->fillPath(path, toQColor(FillColor));
 }
 
@@ -389,7 +484,7 @@ void QtPainterPage::Circle(Single x, Single y, Single radius, Long color, Single
     usePen(color);
     std::optional<Curve> curve = visibleCurve(x, y, radius, aspect);
     if (!curve) return;
-    curve->sweep = 2 * Pi;
+    curve->sweep = {0, 2 * Pi};
     if (FillStyle == 0) fill(*curve);
     if (FillStyle != 0 || (FillColor & 0xFFFFFF) != pen_.color) stroke(*curve);
 }
@@ -399,8 +494,7 @@ void QtPainterPage::Arc(Single x, Single y, Single radius, Long color, double st
     usePen(color);
     std::optional<Curve> curve = visibleCurve(x, y, radius, aspect);
     if (!curve || !std::isfinite(start) || !std::isfinite(end)) return;
-    curve->start = start;
-    curve->sweep = fullTurn(start, end);
+    curve->sweep = {start, fullTurn(start, end)};
     stroke(*curve);
 }
 
@@ -425,6 +519,16 @@ void QtPainterPage::Text(Single x, Single y, const FontSpec& font, std::string_v
     painter_->restore();
 }
 
+// In the place of a picture that is not shown.
+void QtPainterPage::paintFrame(const QtPicture& picture, Single x, Single y, Single width,
+                               Single height) {
+    Line(x, y, x + width, y + height, Black, LineForm::Box);
+    Line(x, y, x + width, y + height, Black, LineForm::Plain);
+    Line(x, y + height, x + width, y, Black, LineForm::Plain);
+    Text(x + FrameMargin, y + FrameMargin, {"Arial", FrameNamePoints, false, false},
+         picture.frameName(), Black);
+}
+
 void QtPainterPage::PaintPicture(const Picture& picture, Single x, Single y, Single width,
                                  Single height) {
     const auto* qtPicture = dynamic_cast<const QtPicture*>(&picture);
@@ -433,6 +537,7 @@ void QtPainterPage::PaintPicture(const Picture& picture, Single x, Single y, Sin
     if (isFarOut(diagonal) || !(width > 0 && height > 0)) return;
     const QRectF rect(diagonal.p1(), diagonal.p2());
     if (!rect.intersects(view_.target)) return;
+    if (qtPicture->isFrame()) return paintFrame(*qtPicture, x, y, width, height);
     flush();
     const bool shrink = medium_ == Medium::Raster;
     const QSize pixels = (rect.size() * deviceScale_).toSize();

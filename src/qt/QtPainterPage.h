@@ -12,11 +12,14 @@
 #include <vector>
 
 #include "platform/Surface.h"
+#include "qt/CurveParts.h"
 #include "qt/QtFonts.h"
 
 class QPainter;
 
 namespace ladrix {
+
+class QtPicture;
 
 // How inches of the page map to the painter's own coordinates.
 struct PageView {
@@ -58,10 +61,14 @@ class QtPainterPage final : public Page {
         friend bool operator==(const Pen&, const Pen&) = default;
     };
     struct Curve {
-        QPointF centre;
-        double radiusX = 0, radiusY = 0;
-        double start = 0, sweep = 0;  // radians, counter-clockwise
+        Ellipse ellipse;
+        Sweep sweep;
+        double radius = 0;  // the longer one, in device pixels
         bool whollySeen = false;
+    };
+    // A curve as chords of equal angles that leave it by less than can be seen, whatever its size.
+    struct Chords {
+        double count = 1, step = 0;  // of the whole sweep
     };
 
     QPointF toPainter(Single x, Single y) const;
@@ -74,9 +81,17 @@ class QtPainterPage final : public Page {
     void box(const QLineF& diagonal);
     void fillBox(const QLineF& diagonal);
     std::optional<Curve> visibleCurve(Single x, Single y, Single radius, Single aspect) const;
+    static Chords chordsOf(const Curve& curve);
+    template <class Take>
+    void eachPoint(const Curve& curve, const Sweep& part, const Take& take) const;
+    std::vector<Sweep> visibleParts(const Curve& curve) const;
     void stroke(const Curve& curve);
+    void strokeParts(const Curve& curve);
     void flatten(const Curve& curve);
     void fill(const Curve& curve);
+    void fillPart(const Curve& curve);
+    void setVectorPen(double phase);
+    void paintFrame(const QtPicture& picture, Single x, Single y, Single width, Single height);
     void addToBatch(std::vector<QLineF>& batch, const QLineF& line);
 
     std::string name_;
@@ -92,6 +107,7 @@ class QtPainterPage final : public Page {
     bool hairline_ = true;  // at most a device pixel wide
     double penShift_ = 0;   // onto the pixels' centres, for a pen of an odd number of pixels
     QRectF seen_;           // the target with room for the pen
+    QRectF reach_;          // beyond which a line is cut
     std::vector<QLineF> straight_, curved_;
 };
 

@@ -126,6 +126,7 @@ QtPlatform::QtPlatform() {
     platform.files = &files;
     platform.clipboard = &clipboard;
     platform.images = &images;
+    images.tell = [this](std::string_view text) { platform.tell(text); };
     platform.fonts = &fonts;
     platform.shell = &shell;
     platform.timers = &timers;

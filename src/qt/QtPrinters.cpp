@@ -154,6 +154,7 @@ void QtPrinter::drop() {
     writer_.reset();
     buffer_.close();
     buffer_.setData({});
+    forgetPictures();
     pageHasChanged();
     underWay_ = false;
 }

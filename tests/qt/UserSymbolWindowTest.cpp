@@ -148,7 +148,7 @@ TEST_F(UserSymbolWindowTest, ADeletedSymbolIsSeenAndBroughtBack) {
     for (const char* name : {"Alpha", "Beta"})
         capture(name);
     for (int i = 0; i < 2; ++i) {
-        program->usersymbols.ContextButton = 92;
+        openUserButtonMenu(program->usersymbols, editor(), 92);
         machine.dialogs.answers = {Answer::Yes};
         run(Menu::mnuLibManageDelete);
     }
