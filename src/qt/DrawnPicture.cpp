@@ -1,5 +1,6 @@
 #include "qt/DrawnPicture.h"
 
+#include <sched.h>
 #include <sys/resource.h>
 
 #include <QCoreApplication>
@@ -42,6 +43,7 @@ void limitChild(QProcess& child, const DrawnLimits& limits) {
         limit(RLIMIT_FSIZE, limits.svgBytes);
         limit(RLIMIT_CPU, limits.milliseconds / 1000 + 1);
         limit(RLIMIT_CORE, 0);
+        unshare(CLONE_NEWUSER | CLONE_NEWNET);  // no network, where the system lets us
     });
 }
 

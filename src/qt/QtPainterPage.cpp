@@ -19,7 +19,7 @@ constexpr double ChordError = 0.15;         // device pixels, of small curves
 constexpr double LongChordError = 0.05;     // of large ones, whose long chords show their corners
 constexpr double MostCurveSegments = 1e9;   // of a full turn
 constexpr double LargestPathRadius = 2000;  // device pixels; of a larger curve only parts go out
-constexpr double Reach = 1024;              // device pixels that a line may leave the view
+constexpr double Reach = 32;                // device pixels that a line may leave the view
 constexpr double FarOut = 1e7;              // painter units; beyond them dashes are drawn solid
 constexpr double ShortestDashPeriod = 2;    // device pixels; a finer pattern is drawn solid
 constexpr int VisiblePenUnits = 16;         // room for the widest pen at the view's edges
@@ -349,7 +349,9 @@ void QtPainterPage::eachPoint(const Curve& curve, const Sweep& part, const Take&
     const Chords chords = chordsOf(curve);
     const double offset = part.start - curve.sweep.start;
     const double first = std::max(0.0, std::floor(offset / chords.step));
-    const double last = std::min(chords.count, std::ceil((offset + part.sweep) / chords.step));
+    const bool closed = curve.sweep.sweep >= 2 * Pi;
+    const double end = std::ceil((offset + part.sweep) / chords.step);
+    const double last = closed ? end : std::min(chords.count, end);
     const double cosine = std::cos(chords.step);
     const double sine = std::sin(chords.step);
     double x = std::cos(curve.sweep.start + first * chords.step);
@@ -366,7 +368,16 @@ void QtPainterPage::eachPoint(const Curve& curve, const Sweep& part, const Take&
 
 std::vector<Sweep> QtPainterPage::visibleParts(const Curve& curve) const {
     if (curve.whollySeen) return {curve.sweep};
-    return partsInside(curve.ellipse, curve.sweep, seen_);
+    std::vector<Sweep> parts = partsInside(curve.ellipse, curve.sweep, seen_);
+    // Where a full turn begins is seen only in its dashes.
+    const double turn = curve.sweep.sweep, end = curve.sweep.start + turn;
+    if (pen_.style == 0 && turn >= 2 * Pi && parts.size() > 1 &&
+        parts.front().start == curve.sweep.start &&
+        parts.back().start + parts.back().sweep >= end - turn * 1e-15) {
+        parts.back().sweep += parts.front().sweep;
+        parts.erase(parts.begin());
+    }
+    return parts;
 }
 
 void QtPainterPage::stroke(const Curve& curve) {

@@ -48,8 +48,13 @@ std::string uses() {
     return svg(levels + "</defs><use xlink:href='#u11'/>");
 }
 
+// Takes minutes, if it is let.
+std::string strokes() {
+    return svg("<path d='M0 0" + repeated("L1e6 1e6L0 99L1e6 0L0 0", 300) +
+               "' stroke='red' stroke-width='50000' stroke-linejoin='round'/>");
+}
+
 constexpr auto Refers = "refers to other files";
-constexpr auto Large = "larger than 100 million pixels";
 constexpr auto Metafile = "not a metafile that can be read";
 
 std::vector<HostilePicture> drawn(const std::string& neighbour) {
@@ -63,11 +68,13 @@ std::vector<HostilePicture> drawn(const std::string& neighbour) {
         {"blur.svg",
          svg("<filter id='f'><feGaussianBlur stdDeviation='99999'/></filter>"
              "<rect width='1e7' height='1e7' filter='url(#f)'/>"),
-         ""},
-        {"dashes.svg", svg("<path d='M0 0H1e9' stroke='red' stroke-dasharray='0.001'/>"), "too"},
-        {"uses.svg", uses(), "too"},
-        {"circular.svg", svg("<g id='a'><use xlink:href='#a'/></g>"), ""},
-        {"wide.svg", "<svg xmlns='http://www.w3.org/2000/svg' width='2e9' height='2e9'/>", ""},
+         "", true},
+        {"dashes.svg", svg("<path d='M0 0H1e9' stroke='red' stroke-dasharray='0.001'/>"), "", true},
+        {"uses.svg", uses(), "", true},
+        {"circular.svg", svg("<g id='a'><use xlink:href='#a'/></g>"), "", true},
+        {"strokes.svg", strokes(), "too"},
+        {"wide.svg", "<svg xmlns='http://www.w3.org/2000/svg' width='2e9' height='2e9'/>", "",
+         true},
         {"image.png", svg(image + neighbour + "'/>"), Refers},
         {"relative.svg", svg(image + neighbour.substr(neighbour.rfind('/') + 1) + "'/>"), Refers},
         {"scheme.svg", svg(image + "file://" + neighbour + "'/>"), Refers},
@@ -93,7 +100,7 @@ std::vector<HostilePicture> dotted() {
         {"size.bmp",
          "BM"s + words({54, 0, 0, 0, 54, 0, 40, 0, 0, 0x4000, 0, 0x4000, 1, 24}) +
              std::string(24, '\0'),
-         Large},
+         ""},
         {"size.png",
          "\x89PNG\r\n\x1A\n\0\0\0\rIHDR\x7F\xFF\xFF\xFF\x7F\xFF\xFF\xFF\x08\x02\0\0\0\0\0\0\0"s,
          ""},

@@ -9,7 +9,8 @@ namespace ladrix::test {
 struct HostilePicture {
     std::string name;     // of a file; not always of its kind
     std::string content;  // a few kilobytes at most, but for the deeply nested one
-    std::string reason;   // part of what is told; "" where it may as well be shown
+    std::string reason;   // part of what is told
+    bool mayShow = false;
 };
 
 // `neighbour`: a file that they name, which must not be opened.
