@@ -115,4 +115,19 @@ inline void checkLabelRewriting(Drawing& drawing, const Platform& platform) {
                                        ParseLabelString, checkLabels});
 }
 
+// One record more leaves all others readable. A full table refuses it.
+inline void checkAdding(Drawing& drawing, const Platform& platform) {
+    ParseDeviceString(drawing, platform);
+    ParseLabelString(drawing, platform);
+    Device device{.name = "InsertFuse", .x = 1.5f, .scaleX = 1};
+    RecordDevice(drawing, platform, device);
+    RecordLabel(drawing, platform, {.text = "new", .x = 1.5f, .fontName = "Arial"});
+    const DeviceTable devices = drawing.devices;
+    const LabelTable labels = drawing.labels;
+    ParseDeviceString(drawing, platform);
+    ParseLabelString(drawing, platform);
+    require(sameBesidesNumbers(drawing.devices, devices));
+    require(sameBesidesNumbers(drawing.labels, labels));
+}
+
 }  // namespace ladrix::fuzz

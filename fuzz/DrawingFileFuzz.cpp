@@ -1,4 +1,6 @@
-// Any bytes as a drawing file; the first one chooses its age, the locale and a template in force.
+// Any bytes as a drawing file; the first one chooses its age, the locale and a template in force,
+// and that one's form.
+#include <array>
 #include <cstdint>
 
 #include "CheckedDrawing.h"
@@ -7,17 +9,8 @@
 namespace ladrix {
 namespace {
 
-bool holdsMarker(std::string_view text) {
-    return text.find("///") != std::string_view::npos;
-}
-
-// What was split joins to a file that splits to the same parts, unless a marker stands where no
-// writer puts one.
+// What was split joins to a file that splits to the same parts, whatever their texts read like.
 void checkDivision(const Drawing& drawing, FileTime modified) {
-    if (holdsMarker(drawing.FileDescription) || holdsMarker(drawing.PageLayoutKey) ||
-        holdsMarker(drawing.DeviceString) || holdsMarker(drawing.LabelString)) {
-        return;
-    }
     if (drawing.devices.DeviceCount == 0 || drawing.labels.LabelCount == 0) return;
     const DrawingParts parts = splitFile(fileText(drawing), modified);
     fuzz::require(parts.description == drawing.FileDescription);
@@ -25,6 +18,16 @@ void checkDivision(const Drawing& drawing, FileTime modified) {
     fuzz::require(parts.devices == drawing.DeviceString);
     fuzz::require(parts.labels == drawing.LabelString);
     fuzz::require(parts.pictures == drawing.PictureString);
+}
+
+// Whatever it was joined with. A table that would be too full is refused as a whole.
+void checkTemplate(const Drawing& drawing) {
+    const auto& names = drawing.devices.DeviceName;
+    const auto& texts = drawing.labels.LabelText;
+    fuzz::require(names.empty() || names[0] == "InsertCoil");
+    fuzz::require(texts.empty() || texts[0] == "M1");
+    const bool small = drawing.DeviceString.size() + drawing.LabelString.size() < LargestCount;
+    fuzz::require(!small || (!names.empty() && !texts.empty()));
 }
 
 void readFile(Drawing& drawing, const fuzz::Input& input, const Platform& platform) {
@@ -36,6 +39,7 @@ void readFile(Drawing& drawing, const fuzz::Input& input, const Platform& platfo
     drawing.PictureParentFolder.clear();
     drawing.PictureFolderName.clear();
     drawing.TemplateActive = input.chosen(2);
+    const bool joining = drawing.TemplateActive;
     takeParts(drawing, splitFile(input.text, input.chosen(1) ? longAgo : today));
     ParseDeviceString(drawing, platform);
     ParseLabelString(drawing, platform);
@@ -43,8 +47,10 @@ void readFile(Drawing& drawing, const fuzz::Input& input, const Platform& platfo
     fuzz::checkDevices(drawing);
     fuzz::checkLabels(drawing);
     fuzz::checkPictures(drawing);
+    if (joining) checkTemplate(drawing);
     fuzz::checkDeviceRewriting(drawing, platform);
     fuzz::checkLabelRewriting(drawing, platform);
+    fuzz::checkAdding(drawing, platform);
     RebuildPictureString(drawing, platform);
     if (!drawing.PageLayoutKey.starts_with("Insert")) checkDivision(drawing, today);
 }
@@ -58,16 +64,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     static ladrix::Drawing drawing;
     const ladrix::fuzz::Input input(data, size);
     machine.begin(input);
-    drawing.TemplateDevices =
-        "InsertCoil\xFF"
-        "1\xFF"
-        "1\xFF"
-        "0\xFF\r\n";
-    drawing.TemplateLabels =
-        "M1\xFF"
-        "1\xFF"
-        "1\xFF"
-        "0\r\n";
+    static constexpr std::array<std::string_view, 3> Separators = {"\xFF", "=FF", ", "};
+    const std::string separator{Separators[(input.choice >> 3 & 3) % Separators.size()]};
+    const std::string at = separator + "1.5" + separator + "2,5" + separator + "0";
+    drawing.TemplateDevices = "InsertCoil" + at + separator + "\r\n";
+    drawing.TemplateLabels = "M1" + at + "\r\n";
     ladrix::readFile(drawing, input, machine.platform);
     return 0;
 }

@@ -14,6 +14,9 @@ void readDevices(Drawing& drawing, const Platform& platform, const std::string& 
     fuzz::checkDevices(drawing);
     fuzz::require(drawing.DeviceString == (text == "\r\n" ? "" : text));
     fuzz::checkDeviceRewriting(drawing, platform);
+    drawing.DeviceString = text;
+    drawing.LabelString.clear();
+    fuzz::checkAdding(drawing, platform);
 }
 
 void readLabels(Drawing& drawing, const Platform& platform, const std::string& text) {
@@ -22,6 +25,9 @@ void readLabels(Drawing& drawing, const Platform& platform, const std::string& t
     fuzz::checkLabels(drawing);
     fuzz::require(drawing.LabelString == text);
     fuzz::checkLabelRewriting(drawing, platform);
+    drawing.LabelString = text;
+    drawing.DeviceString.clear();
+    fuzz::checkAdding(drawing, platform);
 }
 
 }  // namespace

@@ -186,13 +186,6 @@ TEST_F(DrawingTest, ANumberThatCannotBeWrittenLeavesTableAndTextAsTheyWere) {
     EXPECT_EQ(drawing.DeviceString, before);
 }
 
-TEST_F(DrawingTest, ARecordNeverJoinsALineThatWasCutOff) {
-    drawing.DeviceString = "InsertCo";
-    record({.name = "InsertCoil", .x = 1, .scaleX = 1, .scaleY = 1});
-    EXPECT_EQ(readable(drawing.DeviceString), "InsertCoil|1|0|0||1|1|0|False\n");
-    EXPECT_EQ(readable(drawing.DeviceRecord(0)), "InsertCoil|1|0|0||1|1|0|False");
-}
-
 TEST_F(DrawingTest, LabelsAreRecordedWithTheFixedColourWhenThatIsOn) {
     drawing.AfterSave = After::New;
     label({.text = "M1", .x = 1, .y = 2, .color = Red, .fontName = "Arial", .fontSize = 8});
