@@ -15,6 +15,7 @@
 #include "canvas/labels/Labels.h"
 #include "canvas/tools/Colors.h"
 #include "canvas/tools/RadiusFields.h"
+#include "canvas/view/Zoom.h"
 #include "document/DrawingFile.h"
 #include "document/Records.h"
 
@@ -318,6 +319,59 @@ TEST_F(UndoTest, UndoBeyondTheLastSlotIsToldOnceAndGoesOnStepByStep) {
     EXPECT_THAT(reports(), SizeIs(1));
     NewDrawing(editor);
     EXPECT_FALSE(editor.HistoryFull);
+}
+
+// Whatever takes the tables' items away takes the activity that waits for a point with it.
+TEST_F(UndoTest, WhatReplacesTheItemsEndsWhatIsUnderWay) {
+    struct Begin {
+        const char* what;
+        void (*begin)(UndoBench& bench);
+    };
+    const Begin begins[] = {
+        {"copy", [](UndoBench& bench) { mnuEditCopy_Click(bench.editor); }},
+        {"copy with its first point",
+         [](UndoBench& bench) {
+             mnuEditCopy_Click(bench.editor);
+             bench.play("click 1 1");
+         }},
+        {"move with its first point",
+         [](UndoBench& bench) {
+             mnuEditMove_Click(bench.editor);
+             bench.play("click 1 1");
+         }},
+        {"alignment", [](UndoBench& bench) { mnuEditTextAlignLeft_Click(bench.editor); }},
+        {"zoom", [](UndoBench& bench) { cmdZoomIn_Click(bench.editor); }},
+        {"line", [](UndoBench& bench) { bench.play("tool Line; click 6 6"); }},
+    };
+    const struct {
+        const char* what;
+        void (*replace)(Editor& editor);
+    } ends[] = {{"undo", mnuEditUndo_Click},
+                {"redo", mnuEditRedo_Click},
+                {"parse", ParseShownDevices},
+                {"delete", [](Editor& e) {
+                     if (e.SelectedCount == 0) mnuEditSelectAll_Click(e);
+                     mnuEditDelete_Click(e);
+                 }}};
+    for (const Begin& begin : begins)
+        for (const auto& end : ends) {
+            SCOPED_TRACE(std::string(begin.what) + ", " + end.what);
+            NewDrawing(editor);
+            play("tool Text; click 5 5; click 5 6; key 27 0; tool Ground; click 1 1; click 2 2");
+            mnuEditUndo_Click(editor);
+            play("key 27 0");
+            mnuEditSelectAll_Click(editor);
+            begin.begin(*this);
+            end.replace(editor);
+            EXPECT_EQ(editor.form.cmdReset.BackColor == Cyan, editor.SelectedCount > 0);
+            const Short steps = editor.UndoTop;
+            play("click 6.5 6.5");
+            EXPECT_EQ(editor.UndoTop, steps) << "nothing was left to end with a point";
+            const Short before = drawing.devices.DeviceCount;
+            play("tool Lamp; click 3 3; key 27 0");
+            EXPECT_EQ(drawing.devices.DeviceCount, before + 1);
+            EXPECT_EQ(editor.ZoomFactor, 1);
+        }
 }
 
 // Only the first dash of the first dashed line takes a step; a dragged picture takes none.
