@@ -40,9 +40,10 @@ bool mayReplaceChanged(const Editor& editor) {
 bool mayReplaceWithPreview(const Editor& editor) {
     return yes(editor,
                "The preview of " + editor.PreviewedFile + " stands in the place of " +
-                   editor.drawing.CurrentFileName + ".\r\nDo you want to replace " +
                    editor.drawing.CurrentFileName +
-                   " with what is shown now?\r\nA backup copy of it will be kept.",
+                   ".\r\nThe page may still show the former drawing. Do you want to replace " +
+                   editor.drawing.CurrentFileName +
+                   " with the preview?\r\nA backup copy of it will be kept.",
                "Drawing Replaced by a Preview", Buttons::YesNoDefaultNo);
 }
 
