@@ -16,6 +16,7 @@
 #include "qt/RemovedDialog.h"
 #include "qt/SymbolDialogs.h"
 #include "qt/Theme.h"
+#include "usersymbols/UserPalette.h"
 
 namespace ladrix {
 namespace {
