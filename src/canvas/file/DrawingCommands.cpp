@@ -286,6 +286,8 @@ std::optional<PreviewOfFile> ReadPreview(Editor& editor, const std::string& fold
     drawing.LabelString.clear();
     ParseDeviceString(drawing, editor.platform);
     ParseLabelString(drawing, editor.platform);
+    endGesture(editor);
+    RecountSelection(editor);
     editor.PreviewedFile = file;
     editor.UndoShown = -1;
     try {
