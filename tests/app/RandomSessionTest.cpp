@@ -83,8 +83,9 @@ struct Session {
     Short pressedLabel = -1, held = 0;
 
     std::map<std::string, std::string> files;  // contents by path
-    bool previewed = false;                    // since the drawing got its name
-    bool agreed = false;                       // a question has been answered Yes in this step
+    bool previewed = false;                    // a preview stands in the place of the drawing named
+    bool previewing = false;                   // it came in this step
+    bool agreed = false;                       // to replace a file, in this step
 };
 
 constexpr const char* Names[] = {"A.els", "B.els", "C.els"};
@@ -99,13 +100,15 @@ Session::Session(unsigned seed) : random(seed) {
     const std::string key = "8.5x11Portrait\r\n\r\n";
     fake.folder.write("documents/Ladrix/Drawings/A.els",
                       key + record("InsertLamp|1|2|0||1|1|0|False") +
-                          record("InsertCircle|2|2|0.25|0|DrawWidth=2|1") + "\r\n" +
+                          record("InsertCircle|2|2|0.25|0||1") + "\r\n" +
                           record("A1|2|1|0|Arial|8|False|False") +
                           record("A2|3|1|0|Arial|8|False|False") + std::string(PictureMarker) +
                           "\r\n" + record("a.png|3|3|1|1"));
     fake.folder.write("documents/Ladrix/Drawings/B.els",
                       key + record("InsertGround|1|2|0||1|1|0|False") + "\r\n" +
                           record("B1|2|1|0|Arial|8|False|False"));
+    fake.folder.write("documents/Ladrix/Drawings/T.tpl",
+                      key + record("InsertLamp|4|4|0||1|1|0|False") + "\r\n");
     if (!startProgram(program)) throw std::logic_error("The program does not start.");
     drawing.AttachLabels = oneIn(2);
     fake.dialogs.duringBox = [this](const auto& box) { answerBox(box); };
@@ -122,11 +125,12 @@ std::string Session::script() const {
 
 void Session::answerBox(const test::FakeDialogs::Box& box) {
     if (box.buttons == Buttons::Ok) return;
-    const Answer refusal = box.buttons == Buttons::YesNo ? Answer::No : Answer::Cancel;
+    const bool cancels = box.buttons == Buttons::OkCancel || box.buttons == Buttons::YesNoCancel;
+    const Answer refusal = cancels ? Answer::Cancel : Answer::No;
     const Answer consent = box.buttons == Buttons::OkCancel ? Answer::Ok : Answer::Yes;
     const Answer other = box.buttons == Buttons::YesNoCancel ? Answer::No : refusal;
     const Answer answer = oneIn(2) ? consent : oneIn(2) ? refusal : other;
-    agreed = agreed || answer == consent;
+    if (answer == consent && box.text.find("replace") != std::string::npos) agreed = true;
     fake.dialogs.answers = {answer};
     done.push_back("    \"" + box.text + "\": " + (answer == consent ? "yes" : "no or cancel"));
 }
@@ -155,10 +159,12 @@ void Session::useBrowser() {
         const int index = choose();
         if (index < 0) break;
         FileList1_Click(browser, editor, index);
-        previewed = previewed || browser.PreviewShown;
+        const bool shown = browser.PreviewShown;
+        previewing = previewing || shown;
         if (oneIn(3)) break;
         done.push_back("    OK");
         cmdOpenOK_Click(browser, editor);
+        if (shown && browser.Chosen) previewing = false;
     }
     if (browser.Visible) {
         done.push_back("    cancel");
@@ -324,7 +330,7 @@ void Session::runFileCommand() {
 void Session::step() {
     const std::string titleBefore = title();
     const bool templateBefore = drawing.TemplateActive;
-    agreed = false;
+    agreed = previewing = false;
     fake.dialogs.boxes.clear();
     fake.dialogs.inputAnswers = {std::to_string(1 + below(3))};
     const std::size_t doneBefore = done.size();
@@ -405,13 +411,18 @@ void Session::checkFiles(const std::string& titleBefore, bool templateBefore) {
                 path + " was replaced without a question.");
     }
     files = now;
-    if (name == titleBefore) return;
-    previewed = false;
+    if (previewing) {
+        previewed = true;
+        return;
+    }
     const auto file = files.find(name);
-    if (file == files.end() || templateBefore || !editor.backups.shown.empty()) return;
-    require(
-        file->second.find(drawing.DeviceString + "\r\n" + drawing.LabelString) != std::string::npos,
-        "The title names " + name + ", but the drawing is another.");
+    const bool same =
+        file != files.end() &&
+        file->second.find(drawing.DeviceString + "\r\n" + drawing.LabelString) != std::string::npos;
+    if (same || name != titleBefore) previewed = false;
+    if (name == titleBefore || file == files.end() || templateBefore) return;
+    require(same || !editor.backups.shown.empty(),
+            "The title names " + name + ", but the drawing is another.");
 }
 
 // Presses on until the box says that there is no more.
