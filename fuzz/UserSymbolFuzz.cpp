@@ -20,6 +20,7 @@ class UnseenCanvas final : public Canvas {
     void PaintPicture(const Picture&, Single, Single, Single, Single) override {}
     void Cls() override {}
     void SetScale(Single, Single, Single) override {}
+    void repaint(const Extent&, const std::function<void()>&) override {}
     std::string Image(Single, Single, const std::function<void()>&) override { return {}; }
     std::string_view Name() const override { return "picLX"; }
 };

@@ -93,6 +93,11 @@ class Canvas : public Page {
   public:
     virtual void Cls() = 0;
 
+    // Runs `paint` so that what it draws, Cls included, changes nothing but this place of the page,
+    // with room for a pen around it: its pixels become those of a whole painting by the same calls.
+    // visible() is the place meanwhile. Outside the view nothing is run.
+    virtual void repaint(const Extent& place, const std::function<void()>& paint) = 0;
+
     // The view, in inches of the page: its upper left corner and its size.
     virtual void SetScale(Single left, Single top, Single zoom) = 0;
 

@@ -51,6 +51,11 @@ struct Extent {
         if (y < top) top = y;
         if (y > bottom) bottom = y;
     }
+    constexpr void add(const Extent& other) {
+        if (other.empty()) return;
+        add(other.left, other.top);
+        add(other.right, other.bottom);
+    }
     constexpr bool meets(const Extent& other) const {
         return left <= other.right && right >= other.left && top <= other.bottom &&
                bottom >= other.top;

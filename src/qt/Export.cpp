@@ -133,6 +133,7 @@ class AbsentCanvas final : public Canvas {
     void PaintPicture(const Picture&, Single, Single, Single, Single) override {}
     void Cls() override {}
     void SetScale(Single, Single, Single) override {}
+    void repaint(const Extent&, const std::function<void()>&) override {}
     std::string Image(Single, Single, const std::function<void()>&) override { return {}; }
 };
 

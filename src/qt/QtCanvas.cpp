@@ -113,9 +113,14 @@ PageView QtCanvas::viewFor(const QRect& clip) const {
 QtPainterPage* QtCanvas::persistentPage() {
     if (painter_.isActive()) return &page_;
     if (image_.isNull()) return nullptr;
-    painter_.begin(&image_);
+    beginPainting(painter_);
     page_.reset(&painter_, view_);
     return &page_;
+}
+
+void QtCanvas::beginPainting(QPainter& painter) {
+    painter.begin(&image_);
+    if (place_) painter.setClipRect(*place_);
 }
 
 void QtCanvas::endPainting() {
@@ -180,7 +185,7 @@ void QtCanvas::draw(const Bounds& boundsOf, Draw primitive) {
         return;
     }
     wipeTemporaryLayer();
-    if (!allDamaged_) persistentDamage_ |= boundsOf() & view_.target;
+    if (!allDamaged_ && !place_) persistentDamage_ |= boundsOf() & view_.target;
     if (QtPainterPage* page = persistentPage()) paint(*page);
 }
 
@@ -241,11 +246,47 @@ void QtCanvas::PaintPicture(const Picture& picture, Single x, Single y, Single w
 void QtCanvas::Cls() {
     wipeTemporaryLayer();
     if (!AutoRedraw) return;
-    allDamaged_ = true;
+    if (place_)
+        persistentDamage_ |= *place_;
+    else
+        allDamaged_ = true;
     endPainting();
     if (image_.isNull()) return;
-    QPainter painter(&image_);
+    QPainter painter;
+    beginPainting(painter);
     paintDesk(painter);
+}
+
+// The smallest rectangle on the edges of device pixels: a clip there cuts no pixel in two.
+QRectF QtCanvas::wholePixels(const QRectF& rect) const {
+    const auto low = [this](double at) { return std::floor(at * pixelRatio_) / pixelRatio_; };
+    const auto high = [this](double at) { return std::ceil(at * pixelRatio_) / pixelRatio_; };
+    return {QPointF(low(rect.left()), low(rect.top())),
+            QPointF(high(rect.right()), high(rect.bottom()))};
+}
+
+void QtCanvas::repaint(const Extent& place, const std::function<void()>& paint) {
+    const QRectF seen =
+        pixelBounds(place.left, place.top, place.right, place.bottom) & view_.target;
+    if (seen.isEmpty()) return;
+    endPainting();
+    place_ = wholePixels(seen);
+    const QRectF around = place_->adjusted(-PenRoom, -PenRoom, PenRoom, PenRoom);
+    const Extent formerly =
+        std::exchange(visible_, {inchesX(around.left()), inchesY(around.top()),
+                                 inchesX(around.right()), inchesY(around.bottom())});
+    const auto restore = [&] {
+        endPainting();
+        place_.reset();
+        visible_ = formerly;
+    };
+    try {
+        paint();
+    } catch (...) {
+        restore();
+        throw;
+    }
+    restore();
 }
 
 std::string QtCanvas::Image(Single width, Single height, const std::function<void()>& paint) {

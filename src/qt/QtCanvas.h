@@ -10,6 +10,7 @@
 #include <QPainter>
 #include <QRegion>
 #include <functional>
+#include <optional>
 #include <vector>
 
 #include "canvas/state/Editor.h"
@@ -58,6 +59,7 @@ class QtCanvas final : public Canvas {
     void PaintPicture(const Picture& picture, Single x, Single y, Single width,
                       Single height) override;
     void Cls() override;
+    void repaint(const Extent& place, const std::function<void()>& paint) override;
     void SetScale(Single left, Single top, Single zoom) override;
     std::string Image(Single width, Single height, const std::function<void()>& paint) override;
 
@@ -72,6 +74,8 @@ class QtCanvas final : public Canvas {
     void endPainting();
     void wipeTemporaryLayer();
     void arrange();
+    void beginPainting(QPainter& painter);
+    QRectF wholePixels(const QRectF& rect) const;
     void paintDesk(QPainter& painter) const;
 
     const Editor* editor_ = nullptr;
@@ -81,6 +85,7 @@ class QtCanvas final : public Canvas {
     Single scaleLeft_ = 0, scaleTop_ = 0, zoom_ = 1;
     PageView view_;
     Extent visible_ = Extent::everything();
+    std::optional<QRectF> place_;  // the persistent layer changes nowhere else; logical pixels
 
     QImage image_;
     QPainter painter_;

@@ -58,7 +58,7 @@ TEST(LinePick, ReachesASixteenthOfAnInchOnTheScreenFromALineOnAnAxis) {
     }
 }
 
-TEST_F(SelectionTest, LinePickTogglesAndPaintsOnlyTheLineOverItself) {
+TEST_F(SelectionTest, LinePickTogglesAndPaintsOnlyTheLinesPlace) {
     load(Vertical + Horizontal + line("InsertGround|2.03|2|0||1|1|0|False"));
     const std::string records = drawing.DeviceString;
     play("press 2.03 2; release");
@@ -70,8 +70,12 @@ TEST_F(SelectionTest, LinePickTogglesAndPaintsOnlyTheLineOverItself) {
     EXPECT_EQ(message(), "2 devices have been selected for Move, Copy or Delete.");
     play("press 2.03 2; release");
     EXPECT_THAT(marks(), ElementsAre(0, 1, 0));
-    ASSERT_EQ(canvas.persistent.size(), 3u);
+    ASSERT_GT(canvas.persistent.size(), 3u);
     EXPECT_EQ(canvas.persistent[2].color, 255) << "back to its own colour";
+    EXPECT_EQ(canvas.persistent[3].color, editor.SelectionColor) << "what crosses it lies above";
+    ASSERT_THAT(canvas.repainted, SizeIs(1));
+    EXPECT_EQ(canvas.repainted[0].left, 2);
+    EXPECT_EQ(canvas.repainted[0].bottom, 4);
     EXPECT_EQ(canvas.persistentCls, 0);
     EXPECT_EQ(drawing.DeviceString, records);
     EXPECT_FALSE(drawing.NoRecord);
@@ -156,7 +160,8 @@ TEST_F(SelectionTest, BandPickTogglesWhatLiesStrictlyInside) {
     EXPECT_FALSE(drawing.PictureTable[1].Selected);
     EXPECT_EQ(editor.SelectedCount, 3);
     EXPECT_EQ(canvas.persistentCls, 0);
-    EXPECT_EQ(canvas.persistent.size(), 8u) << "a lamp of seven parts and a square";
+    EXPECT_THAT(canvas.repainted, SizeIs(1)) << "the lamp's place";
+    EXPECT_EQ(canvas.persistent.back().color, editor.SelectionColor) << "the square over itself";
 
     play("press 4 4; drag 1 1; release");
     EXPECT_EQ(editor.SelectedCount, 3) << "towards the upper left nothing is picked";

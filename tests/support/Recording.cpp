@@ -74,9 +74,19 @@ std::shared_ptr<const Picture> RecordingPicture::Image() {
 }
 
 void RecordingCanvas::Cls() {
+    if (repainting_) return temporary.clear();
     ++(AutoRedraw ? persistentCls : temporaryCls);
     temporary.clear();
     if (AutoRedraw) persistent.clear();
+}
+
+void RecordingCanvas::repaint(const Extent& place, const std::function<void()>& paint) {
+    repainted.push_back(place);
+    const Extent formerly = std::exchange(view, place);
+    repainting_ = true;
+    paint();
+    repainting_ = false;
+    view = formerly;
 }
 
 void RecordingCanvas::SetScale(Single left, Single top, Single zoom) {

@@ -168,14 +168,19 @@ class RecordingCanvas final : public Recording<Canvas> {
     // As last set.
     Single scaleLeft = 0, scaleTop = 0, scaleZoom = 1;
     int scaleChanges = 0;
+    std::vector<Extent> repainted;  // the places
 
     void Cls() override;
+    // Cls within `paint` takes nothing away.
+    void repaint(const Extent& place, const std::function<void()>& paint) override;
     void SetScale(Single left, Single top, Single zoom) override;
     // "8.5x11" and the description of each primitive that `paint` drew, a line each.
     std::string Image(Single width, Single height, const std::function<void()>& paint) override;
 
   private:
     void keep(const Primitive& primitive) override;
+
+    bool repainting_ = false;
 };
 
 }  // namespace ladrix::test

@@ -1,8 +1,8 @@
 #include "canvas/gestures/Selection.h"
 
 #include <algorithm>
-#include <optional>
 #include <string>
+#include <vector>
 
 #include "canvas/gestures/Gesture.h"
 #include "canvas/history/History.h"
@@ -22,21 +22,24 @@ bool between(Single value, Single a, Single b) {
     return value >= std::min(a, b) && value <= std::max(a, b);
 }
 
-Long colorOfDevice(const Editor& editor, std::size_t i) {
-    const DeviceTable& devices = editor.drawing.devices;
-    return devices.DeviceSelected[i] != 0 ? editor.SelectionColor : devices.DeviceColor[i];
-}
-
-void paintDevice(Editor& editor, std::size_t i, Long color) {
-    editor.platform.picLX->AutoRedraw = true;
-    drawRow(editor.symbols, editor.drawing, editor.platform, *editor.platform.picLX,
-            editor.drawing.devices, static_cast<Short>(i), color);
-}
-
-void toggleDevice(Editor& editor, std::size_t i) {
-    Short& mark = editor.drawing.devices.DeviceSelected[i];
+void toggle(Short& mark) {
     mark = mark != 0 ? Short{0} : Short{1};
-    paintDevice(editor, i, colorOfDevice(editor, i));
+}
+
+// Once for all items of a pick: those that lost their marks by painting their places anew, in one
+// piece, those that got one over themselves.
+void paintToggled(Editor& editor, const std::vector<std::size_t>& toggled) {
+    const DeviceTable& devices = editor.drawing.devices;
+    const auto isMarked = [&](std::size_t i) { return devices.DeviceSelected[i] != 0; };
+    Extent unmarked;
+    for (const std::size_t i : toggled)
+        if (!isMarked(i)) unmarked.add(deviceExtent(devices, static_cast<Short>(i)));
+    if (!unmarked.empty()) paintPlace(editor, unmarked);
+    editor.platform.picLX->AutoRedraw = true;
+    for (const std::size_t i : toggled)
+        if (isMarked(i))
+            drawRow(editor.symbols, editor.drawing, editor.platform, *editor.platform.picLX,
+                    devices, static_cast<Short>(i), editor.SelectionColor);
 }
 
 // The panel of the tool strip, by the devices selected. `picked` is preferred for its figures.
@@ -67,23 +70,32 @@ void showFiguresOfSelection(Editor& editor, std::size_t picked) {
     showPanel(editor, Panel::Radius);
 }
 
-void toggleLine(Editor& editor, std::size_t i) {
-    toggleDevice(editor, i);
-    showFiguresOfSelection(editor, i);
+// Whether there was anything to show.
+bool showToggled(Editor& editor, const std::vector<std::size_t>& toggled) {
+    if (toggled.empty()) return false;
+    paintToggled(editor, toggled);
+    showFiguresOfSelection(editor, toggled.back());
+    return true;
+}
+
+template <class IsHit>
+bool pickDevices(Editor& editor, const IsHit& isHit) {
+    DeviceTable& devices = editor.drawing.devices;
+    std::vector<std::size_t> toggled;
+    for (std::size_t i = 0; i < static_cast<std::size_t>(devices.DeviceCount); ++i) {
+        if (!isHit(devices.DeviceX[i], devices.DeviceY[i])) continue;
+        toggle(devices.DeviceSelected[i]);
+        toggled.push_back(i);
+    }
+    return showToggled(editor, toggled);
 }
 
 bool pickDevicesInBand(Editor& editor) {
-    const DeviceTable& devices = editor.drawing.devices;
-    std::optional<std::size_t> last;
-    for (std::size_t i = 0; i < static_cast<std::size_t>(devices.DeviceCount); ++i) {
-        const Single x = devices.DeviceX[i], y = devices.DeviceY[i];
-        if (!(editor.gesture.BandX[0] < x && x < editor.gesture.BandX[1])) continue;
-        if (!(editor.gesture.BandY[0] < y && y < editor.gesture.BandY[1])) continue;
-        toggleDevice(editor, i);
-        last = i;
-    }
-    if (last) showFiguresOfSelection(editor, *last);
-    return last.has_value();
+    const Gesture& gesture = editor.gesture;
+    return pickDevices(editor, [&](Single x, Single y) {
+        return gesture.BandX[0] < x && x < gesture.BandX[1] && gesture.BandY[0] < y &&
+               y < gesture.BandY[1];
+    });
 }
 
 bool pickLabelsInBand(Editor& editor) {
@@ -93,7 +105,7 @@ bool pickLabelsInBand(Editor& editor) {
         const Single x = labels.LabelX[i], y = labels.LabelY[i];
         if (!(editor.gesture.BandX[0] < x && x < editor.gesture.BandX[1])) continue;
         if (!(editor.gesture.BandY[0] < y && y < editor.gesture.BandY[1])) continue;
-        labels.LabelSelected[i] = labels.LabelSelected[i] != 0 ? Short{0} : Short{1};
+        toggle(labels.LabelSelected[i]);
         placeLabel(editor, i);
         any = true;
     }
@@ -138,15 +150,15 @@ void markPicture(Editor& editor, std::size_t i, bool selected) {
 }
 
 void pickLines(Editor& editor, Single x, Single y) {
-    const DeviceTable& devices = editor.drawing.devices;
+    DeviceTable& devices = editor.drawing.devices;
     const auto count = static_cast<std::size_t>(devices.DeviceCount);
     const Single reach = PickReach / editor.ZoomFactor;
-    bool any = false;
+    std::vector<std::size_t> toggled;
     const auto pickEach = [&](auto&& isHit) {
         for (std::size_t i = 0; i < count; ++i) {
             if (devices.DeviceName[i] != "InsertSavedLine" || !isHit(i)) continue;
-            toggleLine(editor, i);
-            any = true;
+            toggle(devices.DeviceSelected[i]);
+            toggled.push_back(i);
         }
     };
     pickEach([&](std::size_t i) {
@@ -159,21 +171,16 @@ void pickLines(Editor& editor, Single x, Single y) {
         return between(x, devices.DeviceX[i], devices.DeviceX2[i]) &&
                between(y, devices.DeviceY[i], devices.DeviceY2[i]);
     });
-    if (any) RecountSelection(editor);
+    if (showToggled(editor, toggled)) RecountSelection(editor);
 }
 
 void picGrip_Click(Editor& editor) {
     Overlay& grip = editor.form.pointer.picGrip;
     grip.Visible = false;
-    DeviceTable& devices = editor.drawing.devices;
-    bool any = false;
-    for (std::size_t i = 0; i < static_cast<std::size_t>(devices.DeviceCount); ++i) {
-        if (!between(devices.DeviceX[i], grip.Left, grip.Left + grip.Width)) continue;
-        if (!between(devices.DeviceY[i], grip.Top, grip.Top + grip.Height)) continue;
-        devices.DeviceSelected[i] = devices.DeviceSelected[i] != 0 ? Short{0} : Short{1};
-        DrawDeviceFromTable(editor, static_cast<Short>(i), colorOfDevice(editor, i));
-        any = true;
-    }
+    const bool any = pickDevices(editor, [&](Single x, Single y) {
+        return between(x, grip.Left, grip.Left + grip.Width) &&
+               between(y, grip.Top, grip.Top + grip.Height);
+    });
     if (any) RecountSelection(editor);
     editor.form.FocusRequest = Focus::Canvas;
 }
@@ -253,12 +260,6 @@ bool moveSelectedItems(Drawing& drawing, Single dx, Single dy) {
         moved = true;
     }
     return moved;
-}
-
-void DrawDeviceFromTable(Editor& editor, Short index, Long color) {
-    const auto i = static_cast<std::size_t>(index);
-    paintDevice(editor, i, color);
-    showFiguresOfSelection(editor, i);
 }
 
 }  // namespace ladrix

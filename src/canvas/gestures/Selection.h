@@ -1,7 +1,8 @@
 // Selecting: every pick is a toggle, and items add up until a reset. The marks are columns of the
 // tables (DeviceSelected, LabelSelected, PictureRow::Selected); a selected item is painted in
-// SelectionColor and keeps its own colour. A pick paints the item over itself, nothing else, and
-// rebuilds no record.
+// SelectionColor and keeps its own colour. A pick paints the item over itself, or its place anew
+// once it has lost its mark, nothing else, and rebuilds no record. The tool strip's panel follows:
+// it has the figures of a circle or an arc while all selected devices have one name.
 #pragma once
 
 #include "canvas/state/Editor.h"
@@ -32,9 +33,5 @@ void DeleteSelection(Editor& editor);
 
 // Moves every selected item, of a line or square both corners. False if nothing is selected.
 bool moveSelectedItems(Drawing& drawing, Single dx, Single dy);
-
-// Draws one device over itself in this colour and loads the tool strip's panel by the selection:
-// the figures of a circle or an arc while all selected devices have one name, else no panel.
-void DrawDeviceFromTable(Editor& editor, Short index, Long color);
 
 }  // namespace ladrix

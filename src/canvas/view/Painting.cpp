@@ -97,6 +97,15 @@ Long gridColor(const Editor& editor, int line) {
     return bright && !editor.GridFollowsSnap ? editor.GridColor : RGB(239, 239, 239);
 }
 
+void paintLayer(Editor& editor) {
+    if (editor.GridOn && !editor.SimulationMode)
+        DrawGrid(editor);
+    else
+        editor.platform.picLX->Cls();
+    paintDevices(editor);
+    paintPictures(editor);
+}
+
 }  // namespace
 
 Single fittedFontSize(Editor& editor, const FontSpec& font) {
@@ -184,20 +193,20 @@ void DrawGrid(Editor& editor) {
     canvas.DrawWidth = width;
 }
 
-void paintDrawing(Editor& editor) {
+void paintPlace(Editor& editor, const Extent& place) {
     Canvas& canvas = *editor.platform.picLX;
+    canvas.AutoRedraw = true;
+    canvas.repaint(place, [&] { paintLayer(editor); });
+}
+
+void paintDrawing(Editor& editor) {
     editor.Redrawing = true;
     editor.form.pointer.LineV.Visible = editor.form.pointer.LineH.Visible = false;
     repairLabelFonts(editor.drawing);
     const bool formerly = editor.drawing.NoRecord;
     editor.drawing.NoRecord = true;
-    canvas.AutoRedraw = true;
-    if (editor.GridOn && !editor.SimulationMode)
-        DrawGrid(editor);
-    else
-        canvas.Cls();
-    paintDevices(editor);
-    paintPictures(editor);
+    editor.platform.picLX->AutoRedraw = true;
+    paintLayer(editor);
     placeLabels(editor);
     editor.drawing.NoRecord = formerly;
     editor.Redrawing = false;

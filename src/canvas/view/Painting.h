@@ -14,6 +14,10 @@ void RedrawDrawing(Editor& editor);
 // The painting alone, for a change of the view in which no column has changed.
 void paintDrawing(Editor& editor);
 
+// The same for one place of the page, as a painting of all would leave it, labels apart: for items
+// that have lost their marks. Drawn over itself an item keeps a rim of the selection colour.
+void paintPlace(Editor& editor, const Extent& place);
+
 // Wipes the canvas and paints the grid lines on it, those in view.
 void DrawGrid(Editor& editor);
 
