@@ -22,6 +22,7 @@ namespace {
 constexpr double PixelsPerNotch = 96;  // an inch of the screen
 constexpr int OverlayRoom = 2;         // logical pixels that an overlay's pen takes around it
 constexpr QColor CrossHair{0x7D, 0x93, 0xB2};
+constexpr QColor Tick{0x9C, 0xA8, 0xB8};
 
 // What a length of the frame leaves for the page between its margins.
 Single innerTwips(int pixels) {
@@ -131,6 +132,7 @@ void CanvasWidget::paintEvent(QPaintEvent* event) {
     const QRect clip = event->rect();
     canvas_.paintTemporaryLayer(painter, clip);
     paintLabels(painter, clip);
+    paintEmptyLabels(painter);
     painter.setRenderHint(QPainter::Antialiasing, false);
     paintPictureMarks(painter);
     paintCrossHair(painter);
@@ -158,6 +160,21 @@ void CanvasWidget::paintLabels(QPainter& painter, const QRect& clip) {
     }
     labels_.flush();
     painter.restore();
+}
+
+// In its own faint colour whatever the label's, which may be the page's.
+void CanvasWidget::paintEmptyLabels(QPainter& painter) const {
+    const Editor& editor = program_.editor;
+    if (editor.SimulationMode) return;
+    const Single side = EmptyLabelTick / editor.ZoomFactor;
+    for (const LabelControl& label : editor.form.lbl) {
+        if (!label.Visible || !label.Caption.empty()) continue;
+        const bool selected = label.ForeColor == editor.SelectionColor;
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(QPen(selected ? theme::color(label.ForeColor) : Tick, 1));
+        painter.drawLine(canvas_.toPixels(label.Left, label.Top + side),
+                         canvas_.toPixels(label.Left + side, label.Top));
+    }
 }
 
 void CanvasWidget::paintPictureMarks(QPainter& painter) const {

@@ -1,8 +1,9 @@
 // The canvas on the screen and its frame with the scroll bars. The widget turns pointer events into
 // the canvas handlers' calls and paints what the state says: the canvas' two layers, then labels,
-// the marks of pictures, cross-hair, band and grip, which are state and not widgets. The grip, the
-// labels and, at 100 percent, the pictures take a press before the canvas does; the target of a
-// press keeps the pointer until the release. A frame repaints only what changed.
+// the ticks of empty ones, the marks of pictures, cross-hair, band and grip, which are state and
+// not widgets. The grip, the labels and, at 100 percent, the pictures take a press before the
+// canvas does; the target of a press keeps the pointer until the release. A frame repaints only
+// what changed.
 #pragma once
 
 #include <QScrollBar>
@@ -67,6 +68,7 @@ class CanvasWidget final : public QWidget {
     void showPointer(MousePointer pointer);
     void fitViewport();
     void paintLabels(QPainter& painter, const QRect& clip);
+    void paintEmptyLabels(QPainter& painter) const;
     void paintPictureMarks(QPainter& painter) const;
     void paintCrossHair(QPainter& painter) const;
     void paintBand(QPainter& painter) const;

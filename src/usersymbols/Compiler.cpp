@@ -86,10 +86,13 @@ class RunningBox {
     bool empty_ = true;
 };
 
+// A label without a text is nothing in a symbol.
 void collectLabels(SymbolCompiler& compiler, const LabelTable& labels) {
-    for (Short i = 0; i < labels.LabelCount; ++i)
-        if (labels.LabelSelected[static_cast<std::size_t>(i)] != 0)
+    for (Short i = 0; i < labels.LabelCount; ++i) {
+        const auto row = static_cast<std::size_t>(i);
+        if (labels.LabelSelected[row] != 0 && !labels.LabelText[row].empty())
             compiler.labels.append(labels.row(i));
+    }
 }
 
 FontSpec fontOf(const Label& label) {

@@ -68,6 +68,22 @@ TEST(LabelUnderThePointer, IsWhereItsTextIsPaintedAtEveryZoom) {
     }
 }
 
+TEST(LabelUnderThePointer, MayBeTheTickOfAnEmptyOneWhichKeepsItsSizeOnTheScreen) {
+    for (const Single zoom : {0.5f, 1.0f, 4.0f}) {
+        SCOPED_TRACE(zoom);
+        LabelledBench bench;
+        bench.editor.ZoomFactor = zoom;
+        bench.drawing.labels.LabelText[1].clear();
+        RedrawDrawing(bench.editor);
+        const auto at = [&](Single screenX, Single screenY) {
+            return labelAt(bench.editor, 3 + screenX / zoom, 2 + screenY / zoom).value_or(-1);
+        };
+        EXPECT_EQ(at(0.24f, 0.24f), 1);
+        for (const auto& [x, y] : {std::pair{0.26f, 0.1f}, {0.1f, 0.26f}, {-0.01f, 0.1f}})
+            EXPECT_EQ(at(x, y), -1) << x << ", " << y;
+    }
+}
+
 TEST_F(LabelEventsTest, LabelsLeaveThePressToTheCanvasWhileThatIsAskedForAPoint) {
     EXPECT_EQ(labelAt(editor, 1, 1), 0);
     for (bool* pending :

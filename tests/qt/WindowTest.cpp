@@ -13,7 +13,9 @@
 #include <map>
 
 #include "ProgramOnQt.h"
+#include "canvas/view/Painting.h"
 #include "canvas/view/View.h"
+#include "canvas/view/Zoom.h"
 #include "qt/QtText.h"
 
 namespace ladrix {
@@ -220,6 +222,40 @@ TEST_F(WindowTest, BlackIsWhiteOnABlackPage) {
     trigger("mnuOptBlackBackground");
     EXPECT_EQ(shownAt(2, 2), QColor(Qt::white));
     EXPECT_EQ(shownAt(2, 2.5), QColor(Qt::black));
+}
+
+TEST_F(WindowTest, AnEmptyLabelShowsATickThatIsNoPartOfTheDrawing) {
+    editor().drawing.labels.append({"", 3, 3, White, "Arial", 10, false, false});
+    RedrawDrawing(editor());
+    // So many inches on the screen beside the label's place.
+    const auto inkAt = [&](double x, double y) {
+        const double zoom = static_cast<double>(editor().ZoomFactor);
+        const QImage shown = picLX().grab().toImage();
+        const QPoint pixel = at(3 + x / zoom, 3 + y / zoom).toPoint();
+        QColor darkest = Qt::white;
+        for (const int dx : {-1, 0, 1})
+            if (const QColor found = shown.pixelColor(pixel + QPoint(dx, 0));
+                found.green() < darkest.green())
+                darkest = found;
+        return darkest;
+    };
+    const auto inked = [&](double x, double y) { return inkAt(x, y) != QColor(Qt::white); };
+    editor().GridOn = false;
+    for (int zoomed = 0; zoomed < 3; ++zoomed) {
+        if (zoomed > 0) ZoomIn(editor());
+        EXPECT_TRUE(inked(0.125, 0.125)) << zoomed;
+        EXPECT_TRUE(inked(0.03, 0.22)) << zoomed;
+        EXPECT_FALSE(inked(0.2, 0.2)) << zoomed;
+        EXPECT_FALSE(inked(0.3, -0.05)) << zoomed;
+    }
+    ResetZoom(editor());
+    EXPECT_EQ(canvas.persistentLayer().pixelColor(at(3.125, 3.125).toPoint()), QColor(Qt::white))
+        << "on the drawing's layer";
+    move(picLX(), at(3.1, 3.2));
+    click(picLX(), at(3.1, 3.2));
+    EXPECT_EQ(textOf("lblSelected"), "1 item selected");
+    const QColor middle = inkAt(0.125, 0.125);
+    EXPECT_GT(middle.red(), middle.green() + 60) << "magenta";
 }
 
 TEST_F(WindowTest, ScrollingMovesThePageUnderThePointer) {

@@ -135,6 +135,8 @@ TEST(CompilerTest, TextsFollowTheDevicesAndNumbersTakeTheLocalesMark) {
     label.fontSize = 8.25f;
     label.bold = true;
     select(bench, label);
+    label.text = "";
+    select(bench, label);  // left out
     label.text = "K2";
     bench.drawing.labels.append(label);  // not selected, as the next
     bench.drawing.devices.append(device("InsertGround", 5, 5));

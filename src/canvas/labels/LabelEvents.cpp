@@ -31,6 +31,10 @@ bool exists(const Editor& editor, Short index) {
 // As it is painted: in its fitted font, which the zoom enlarges by itself.
 bool covers(const LabelControl& label, const Editor& editor, Single x, Single y) {
     const Single dx = x - label.Left, dy = y - label.Top;
+    if (label.Caption.empty()) {
+        const Single side = EmptyLabelTick / editor.ZoomFactor;
+        return label.Visible && dx >= 0 && dx <= side && dy >= 0 && dy <= side;
+    }
     const Single size = label.Font.size / editor.ZoomFactor;
     const Single inches = size / 72;
     if (!label.Visible || dx < 0 || dy < 0 || dy > HighestLine * inches ||

@@ -12,6 +12,11 @@
 
 namespace ladrix {
 
+// A label without a text shows as a tick, on the screen only, so that it can be found and picked:
+// from corner to corner of a square at its place with this side. Inches on the screen, whatever the
+// zoom.
+inline constexpr Single EmptyLabelTick = 0.25f;
+
 // The label that takes a press at this point, the uppermost one. nullopt: none, or the press is the
 // canvas's because a point is wanted from it (copy, alignment, zoom) or the circuit is simulated.
 std::optional<Short> labelAt(const Editor& editor, Single x, Single y);
